@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/name_lookup.h"
+#include "platform/scheduler.h"
+#include "platform/serial.h"
+#include "platform/tcp.h"
+
+namespace platform {
+
+// The outside, as it is handed to the program: the real one or the simulated one.
+struct Platform {
+  Scheduler& scheduler;
+  Clock& clock;
+  Network& network;
+  NameLookup& names;
+  SerialPorts& serialPorts;
+  Files& files;
+  Dialogs& dialogs;
+};
+
+}  // namespace platform

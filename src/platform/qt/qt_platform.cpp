@@ -1,0 +1,11 @@
+#include "platform/qt/qt_platform.h"
+
+namespace platform::qt {
+
+QtPlatform::QtPlatform() : network_(scheduler_), serialPorts_(scheduler_) {}
+
+platform::Platform QtPlatform::Platform() {
+  return {scheduler_, clock_, network_, names_, serialPorts_, files_, dialogs_};
+}
+
+}  // namespace platform::qt

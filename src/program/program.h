@@ -1,0 +1,88 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/configuration.h"
+#include "core/controls.h"
+#include "core/dates.h"
+#include "core/error_log.h"
+#include "core/settings.h"
+#include "platform/platform.h"
+#include "platform/tasks.h"
+#include "program/chain.h"
+#include "session/forwarding.h"
+#include "session/session.h"
+
+namespace program {
+
+// The whole running system: who owns what, and how it comes up and goes down.
+class Program {
+ public:
+  // What the program asks of whoever runs it.
+  struct Needs {
+    std::function<void()> quit;  // the shutdown is complete
+    std::uint32_t seed = 0;      // of everything that is picked at random
+  };
+
+  // The platform outlives the program. `folder` is the program's folder.
+  Program(const platform::Platform& platform, std::string folder, Needs needs);
+
+  // Begins the start-up. It goes on by itself, and ends with Loading false.
+  void Start();
+
+  enum class Close { Ask, WithoutAsking };
+  // Begins the shutdown, unless it runs already; the user may still cancel it where he is asked. A
+  // close during start-up ends the program at once, without writing anything.
+  void RequestClose(Close how);
+
+  bool Loading = true;
+  bool Primary = true;  // no other running copy has this folder
+  core::Property<std::string> title;
+
+ private:
+  // No logging program and no local network yet: what goes to them goes nowhere.
+  class NoFeed : public session::LineFeed {
+   public:
+    void RawLine(std::string_view) override {}
+    void SendLocal(std::string_view) override {}
+  };
+
+  platform::Platform platform_;
+  const std::string folder_;
+  Needs needs_;
+
+ public:
+  core::Calendar calendar;
+  core::ErrorLog errorLog;
+  core::Settings settings;
+
+ private:
+  LineChain chain_;
+  NoFeed feed_;
+
+ public:
+  session::Session session;
+
+ private:
+  struct Step;
+
+  platform::Task<> StartUp();
+  platform::Task<> PrepareFolder();
+  platform::Task<> ReadCfg();
+  platform::Task<> ReadPassword();
+  platform::Task<> PrepareSession();
+  platform::Task<> EndLoading();
+  platform::Task<> AutoStart();
+  platform::Task<> ShutDown(Close how);
+  platform::Task<bool> UserAgrees();
+  void Quit();
+  void CaptionSetup();
+  void AskUserInfo();
+
+  bool ending_ = false;
+  bool folderIsNew_ = false;
+  platform::Tasks tasks_;
+};
+
+}  // namespace program

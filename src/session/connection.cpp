@@ -1,0 +1,341 @@
+#include "session/connection.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <utility>
+
+#include "core/text.h"
+#include "session/socket_text.h"
+
+using namespace std::chrono_literals;
+
+namespace session {
+namespace {
+
+using platform::Delay;
+using platform::SocketState;
+
+constexpr auto kPause = 250ms;
+constexpr auto kConnectEventRest = 250ms;
+constexpr auto kPoll = 10ms;
+constexpr std::string_view kVendorNode = "MOLVA-1";
+
+// Four parts, each of digits alone.
+bool IsDotted(std::string_view address) {
+  const auto parts = core::Split(address, ".");
+  const auto numeric = [](std::string_view part) {
+    return !part.empty() && part.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  return parts.size() == 4 && std::all_of(parts.begin(), parts.end(), numeric);
+}
+
+}  // namespace
+
+Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& calendar,
+                       core::Settings& settings, SessionState& state, platform::TcpSocket& socket,
+                       Outgoing& outgoing, Intake& intake, Timers& timers, Needs needs)
+    : scheduler_(scheduler),
+      calendar_(calendar),
+      settings_(settings),
+      state_(state),
+      socket_(socket),
+      outgoing_(outgoing),
+      intake_(intake),
+      timers_(timers),
+      needs_(std::move(needs)),
+      connectPressed_(cmdConnect.Click.Add([this] { PressConnect(); })),
+      disconnectPressed_(cmdDisconnect.Click.Add([this] {
+        if (!Disconnecting) tasks_.Start("Disconnect", PressDisconnect());
+      })),
+      connecting_(scheduler, needs_.onFault),
+      tasks_(scheduler, needs_.onFault) {
+  socket_.connected = [this] { OnConnect(); };
+  socket_.closed = [this] { ForceClose(); };
+  socket_.error = [this](const platform::SocketFault& fault) { OnError(fault); };
+  socket_.dataArrival = [this] { intake_.Turn(); };
+  timers_.SetDuty(TimerId::Reconnect, [this] { RetryNow(); });
+  timers_.SetDuty(TimerId::ConnectionTimeout, [this] { WatchLogin(); });
+  cmdConnect.Caption.Set("Connect");
+  cmdDisconnect.Caption.Set("Disconnect");
+  cmdDisconnect.Enabled.Set(false);
+  AutoReconnect.Value.Set(true);
+}
+
+void Connection::WhichNode() {
+  const bool vendorHostUnknown = settings_.NodeCall == kVendorNode && settings_.NodeHost.empty();
+  if (core::Len(settings_.NodeCall) < 2 || vendorHostUnknown) {
+    settings_.NodeCall = needs_.defaultNode.call;
+    settings_.NodeHost = needs_.defaultNode.host;
+    settings_.NodePort = needs_.defaultNode.port;
+  }
+  ChooseHost();
+  connecting_.CancelAll();
+  connecting_.Start("ConnectNode", ConnectNode());
+}
+
+void Connection::ChooseHost() {
+  if (core::StartsWith(settings_.NodeCall, "MOLVA") && !settings_.MolvaNumberedAddress.empty())
+    settings_.NodeNumberedAddress = settings_.MolvaNumberedAddress;
+  const bool numbered = !TryHostName && IsDotted(settings_.NodeNumberedAddress);
+  TryHostName = !TryHostName;
+  state_.ConnectHost = numbered ? settings_.NodeNumberedAddress : settings_.NodeHost;
+}
+
+platform::Task<> Connection::ConnectNode() {
+  if (settings_.MyCall == "-16") settings_.MyCall.clear();
+  if (core::Trim(settings_.MyCall).empty()) {
+    needs_.askUserInfo();
+    SessionOver();
+    co_return;
+  }
+  socket_.Close();
+  intake_.Drop();
+  state_.ConnectFailed = false;
+  timers_.Restart(TimerId::ConnectionTimeout);
+  Show(LinkPhase::Trying);
+  co_await Delay(2 * kPause);
+
+  socket_.RemotePort = static_cast<std::uint16_t>(core::ValInt(settings_.NodePort));
+  socket_.RemoteHost = state_.ConnectHost;
+  socket_.Connect();
+  while (!state_.SocketConnected && !state_.ConnectFailed && !state_.UserDisconnected) {
+    ShowState();
+    co_await Delay(kPoll);
+  }
+  if (state_.SocketConnected) {
+    co_await Delay(kConnectEventRest);
+    if (socket_.State() == SocketState::Connected) Show(LinkPhase::Connected);
+    ShowState();
+    connectHold_.Release();
+  } else {
+    ShowFailure();
+    WaitForRetry();
+  }
+}
+
+void Connection::ShowState() {
+  const SocketState now = socket_.State();
+  if (now == SocketState::Connected && !state_.LoggedIn) LoginAttempts = 0;
+  state_.txtNode.Caption.Set(StateText(now, state_.LoggedIn) + settings_.NodeCall);
+}
+
+void Connection::ShowFailure() {
+  if (state_.ConnectFailed && socket_.State() == SocketState::Resolving) {
+    TellFailure("DNS", "  DNS Failure - Is Firewall blocking this program from the Internet?");
+    state_.txtNode.Caption.Set("DNS Failure");
+  } else {
+    state_.txtNode.Caption.Set("Failure with " + state_.ConnectedNodeCall + ": IP = " +
+                               settings_.NodeNumberedAddress + " :" + settings_.NodePort);
+  }
+  Show(LinkPhase::Disconnected);
+}
+
+void Connection::TellFailure(const std::string& what, const std::string& line) {
+  if (std::exchange(toldFailure_, what) != what) outgoing_.updateText2(line);
+}
+
+void Connection::WaitForRetry() {
+  timers_.Restart(TimerId::Reconnect);
+  cmdConnect.Enabled.Set(true);
+  cmdDisconnect.Enabled.Set(true);
+}
+
+void Connection::Show(LinkPhase phase) {
+  const core::Colour colours[] = {settings_.ColourNodeDisc, settings_.ColourNodeTrying,
+                                  settings_.ColourNodeConn};
+  state_.Phase.Set(phase);
+  state_.txtNode.ForeColour.Set(colours[static_cast<std::size_t>(phase)]);
+}
+
+void Connection::OnConnect() {
+  if (std::exchange(state_.ConnectEventSeen, true)) return;
+  Show(LinkPhase::Trying);
+  state_.SocketConnected = true;
+  ConnectedAt = scheduler_.Now();
+  state_.LoginMsgActive = true;
+  rtbLoginMsg.Clear();
+  intake_.ClearLine();
+  // Nothing is read until the connecting routine has ended, however it ends.
+  connectHold_ = intake_.Hold();
+  timers_.Enable(TimerId::ConnectionTimeout);
+  outgoing_.LinkUp();
+}
+
+void Connection::ForceClose() {
+  const bool byPeer = socket_.State() == SocketState::PeerClosing || !state_.LoggedIn;
+  const std::string text = byPeer
+                               ? "Winsock Connection Closed by remote node: " + settings_.NodeCall
+                               : "Forcing a disconnect with: " + state_.ConnectedNodeCall;
+  if (byPeer && WhyEnded.empty()) WhyEnded = "closed by the node";
+  state_.txtNode.Caption.Set(text);
+  outgoing_.updateText2(calendar_.GmtTime() + text);
+  socket_.Close();
+  Disconnected();
+  intake_.Drop();
+}
+
+void Connection::OnError(const platform::SocketFault& fault) {
+  state_.txtNode.Caption.Set("Winsock Error: Disconnected: " + state_.ConnectedNodeCall);
+  const std::string number = std::to_string(fault.number);
+  WhyEnded = fault.text;
+  TellFailure(number, socket_.RemoteHost + " " + state_.ConnectedNodeCall + " Winsock Error: " +
+                          number + ": " + fault.text + ": " + calendar_.GmtTime());
+  Disconnected();
+}
+
+void Connection::Disconnected() {
+  state_.ConnectEventSeen = false;
+  state_.LoginPromptAnswered = false;
+  state_.LoginTextDone = false;
+  state_.LoginFinished = false;
+  state_.LoginMsgActive = false;
+  state_.IsSpider = false;
+  intake_.ClearLine();
+  outgoing_.LinkDown();
+  connectHold_.Release();
+  if (std::exchange(ConnectedOnce, false)) ++DisconnectCount;
+  SessionOver();
+  state_.ConnectFailed = true;
+  timers_.Disable(TimerId::ConnectionTimeout);
+  if (AutoReconnect.Value.Get()) {
+    timers_.Enable(TimerId::Reconnect);
+    cmdDisconnect.Enabled.Set(true);
+  }
+  state_.SocketConnected = false;
+  state_.LoggedIn = false;
+}
+
+void Connection::SessionOver() {
+  cmdDisconnect.Enabled.Set(false);
+  cmdConnect.Enabled.Set(true);
+  Show(LinkPhase::Disconnected);
+}
+
+void Connection::RetryNow() {
+  timers_.Disable(TimerId::Reconnect);
+  state_.ConnectEventSeen = false;
+  if (state_.UserDisconnected) {
+    state_.txtNode.Caption.Set("Press Connect to restart Auto Reconnect");
+    AutoReconnect.Value.Set(false);
+    cmdConnect.Enabled.Set(true);
+    cmdDisconnect.Enabled.Set(false);
+    return;
+  }
+  if (!AutoReconnect.Value.Get()) return;
+  cmdConnect.Enabled.Set(false);
+  cmdDisconnect.Enabled.Set(true);
+  WhichNode();
+}
+
+void Connection::WatchLogin() {
+  const bool connected = socket_.State() == SocketState::Connected;
+  if (LoginAttempts == 0 && connected) outgoing_.Send(settings_.MyCall);
+  ++LoginAttempts;
+  if (!connected) {
+    timers_.Disable(TimerId::ConnectionTimeout);
+    LoginAttempts = 0;
+  } else if (socket_.BytesReceived() > 0 && state_.ConnectEventSeen) {
+    intake_.Turn();
+  } else if (LoginAttempts > LoginPatience) {
+    GiveUpLogin();
+  }
+}
+
+void Connection::GiveUpLogin() {
+  ++LoginPatience;
+  WhyEnded = "the node asked for no login";
+  state_.ConnectFailed = true;
+  timers_.Disable(TimerId::ConnectionTimeout);
+  TellFailure("silent",
+              "No login request received : " + calendar_.GmtTime() + state_.ConnectedNodeCall);
+  timers_.Disable(TimerId::Reconnect);
+  ForceClose();
+  timers_.Enable(TimerId::Reconnect);
+}
+
+void Connection::LoggedInSetup() {
+  ConnectTimeStamp = calendar_.GmtNow();
+  ConnectedOnce = true;
+  Show(LinkPhase::Connected);
+  state_.LoggedIn = true;
+  cmdDisconnect.Enabled.Set(true);
+  cmdConnect.Enabled.Set(false);
+  timers_.Disable(TimerId::ConnectionTimeout);
+  state_.ConnectFailed = false;
+  toldFailure_.clear();
+  WhyEnded.clear();
+  needs_.onLoggedIn();
+}
+
+void Connection::PressConnect() {
+  LoginPatience = 2;
+  cmdConnect.Enabled.Set(false);
+  if (core::StartsWith(settings_.MyCall, "-")) settings_.MyCall.clear();
+  const bool nameOrQthMissing = settings_.MyName.empty() || settings_.MyQth.empty();
+  if (!settings_.MyCall.empty() && nameOrQthMissing) {
+    cmdConnect.Enabled.Set(true);
+    needs_.askUserInfo();
+    return;
+  }
+  AutoReconnect.Value.Set(true);
+  WhyEnded.clear();
+  state_.UserDisconnected = false;
+  Show(LinkPhase::Trying);
+  cmdDisconnect.Enabled.Set(true);
+  WhichNode();
+}
+
+platform::Task<> Connection::PressDisconnect() {
+  Disconnecting = true;
+  state_.ConnectFailed = true;
+  ConnectedOnce = false;
+  state_.UserDisconnected = true;
+  AutoReconnect.Value.Set(false);
+  WhyEnded = "disconnected by you";
+  state_.txtNode.Caption.Set("Ready to Connect");
+  if (state_.LoggedIn) {
+    outgoing_.Send("BYE");
+    co_await Delay(6 * kPause);
+  }
+  if (socket_.State() != SocketState::Closed) ForceClose();
+  DisconnectCount = 0;
+  Disconnecting = false;
+}
+
+bool Connection::QRX(std::string_view line) {
+  if (state_.LoggedIn) return false;
+  if (core::StartsWith(line, "QRX")) {
+    state_.txtNode.Caption.Set(std::string(line));
+    timers_.Restart(TimerId::ConnectionTimeout);
+    return true;
+  }
+  if (core::StartsWith(line, "Cluster is offline")) {
+    ForceClose();
+    state_.txtNode.Caption.Set(std::string(line));
+  }
+  return false;
+}
+
+bool Connection::ConnectToNode(std::string_view line) {
+  if (!state_.LoginTextDone) NodeIs(GreetingCall(line, settings_.MyCall, settings_.NodeCall));
+  return false;
+}
+
+void Connection::NodeIs(std::string call) {
+  if (call.empty()) return;
+  if (call == kVendorNode) {
+    TryHostName = false;
+    settings_.MolvaNumberedAddress = socket_.RemoteHostIP();
+    settings_.NodeNumberedAddress = socket_.RemoteHostIP();
+  } else if (call == settings_.NodeCall) {
+    TryHostName = false;
+    settings_.NodeNumberedAddress = socket_.RemoteHostIP();
+  } else {
+    settings_.NodeNumberedAddress.clear();
+  }
+  state_.ConnectedNodeCall = std::move(call);
+  state_.txtNode.Caption.Set("***Connected to: " + state_.ConnectedNodeCall);
+}
+
+}  // namespace session

@@ -1,0 +1,71 @@
+#include "session/link_text.h"
+
+#include "core/text.h"
+
+namespace session {
+namespace {
+
+using std::chrono::duration_cast;
+using std::chrono::seconds;
+
+std::string ClockText(platform::UtcTime now) {
+  const std::chrono::hh_mm_ss time(
+      duration_cast<seconds>(now - std::chrono::floor<std::chrono::days>(now)));
+  const auto two = [](auto part) { return core::Digits(static_cast<unsigned>(part.count()), 2); };
+  return two(time.hours()) + ":" + two(time.minutes()) + ":" + two(time.seconds());
+}
+
+}  // namespace
+
+std::string SpanText(seconds span) {
+  const auto count = span.count();
+  const auto text = [](auto number, const char* unit) { return std::to_string(number) + unit; };
+  if (count < 60) return text(count, " s");
+  if (count < 3600) return text(count / 60, " m ") + text(count % 60, " s");
+  if (count < 86400) return text(count / 3600, " h ") + text(count / 60 % 60, " m");
+  return text(count / 86400, " d ") + text(count / 3600 % 24, " h");
+}
+
+LinkText::LinkText(platform::Scheduler& scheduler, const core::Calendar& calendar,
+                   const core::Settings& settings, const SessionState& session,
+                   const Connection& connection, const Intake& intake, const Timers& timers)
+    : scheduler_(scheduler),
+      calendar_(calendar),
+      settings_(settings),
+      session_(session),
+      connection_(connection),
+      intake_(intake),
+      timers_(timers) {
+  lblclock[1].ToolTip.Set("UTC");
+}
+
+void LinkText::Tick() {
+  const bool named = session_.LoggedIn && !session_.ConnectedNodeCall.empty();
+  node.Caption.Set(named ? session_.ConnectedNodeCall : settings_.NodeCall);
+  state.Caption.Set(StateNow());
+  age.Caption.Set(AgeNow());
+  lblclock[0].Caption.Set(ClockText(calendar_.GmtNow()));
+  lblclock[1].Caption.Set("UTC  " + calendar_.GmtDate());
+}
+
+std::string LinkText::StateNow() const {
+  if (session_.LoggedIn) {
+    const auto since = calendar_.GmtNow() - connection_.ConnectTimeStamp;
+    return "connected " + SpanText(duration_cast<seconds>(since));
+  }
+  const std::string why = connection_.WhyEnded.empty() ? "" : "  ·  " + connection_.WhyEnded;
+  if (timers_.Enabled(TimerId::Reconnect) && !session_.UserDisconnected) {
+    const auto left = std::chrono::ceil<seconds>(timers_.Remaining(TimerId::Reconnect));
+    return "next try in " + SpanText(left) + why;
+  }
+  if (session_.UserDisconnected) return "not connected" + why;
+  return session_.SocketConnected ? "waiting for the login" : "connecting";
+}
+
+std::string LinkText::AgeNow() const {
+  if (!session_.SocketConnected || intake_.LastLineAt < connection_.ConnectedAt) return {};
+  const auto silent = duration_cast<seconds>(scheduler_.Now() - intake_.LastLineAt);
+  return "·  last line " + SpanText(silent) + " ago";
+}
+
+}  // namespace session

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <array>
+
+#include "core/controls.h"
+#include "core/dates.h"
+#include "core/settings.h"
+#include "session/connection.h"
+
+namespace session {
+
+// How it stands with the node, in words that leave no doubt whether the link is alive; and the
+// time.
+class LinkText {
+ public:
+  LinkText(platform::Scheduler& scheduler, const core::Calendar& calendar,
+           const core::Settings& settings, const SessionState& session,
+           const Connection& connection, const Intake& intake, const Timers& timers);
+
+  core::Label node;                     // the call of the node
+  core::Label state;                    // "connected 2 d 4 h", or what is being done about it
+  core::Label age;                      // "last line 1 s ago"
+  std::array<core::Label, 2> lblclock;  // the time and the date in UTC
+
+  // Once a second.
+  void Tick();
+
+ private:
+  std::string StateNow() const;
+  std::string AgeNow() const;
+
+  platform::Scheduler& scheduler_;
+  const core::Calendar& calendar_;
+  const core::Settings& settings_;
+  const SessionState& session_;
+  const Connection& connection_;
+  const Intake& intake_;
+  const Timers& timers_;
+};
+
+// A span of time by its two largest units: "34 s", "5 m 12 s", "2 d 4 h".
+std::string SpanText(std::chrono::seconds span);
+
+}  // namespace session

@@ -1,0 +1,26 @@
+#include "session/session.h"
+
+namespace session {
+
+Session::Session(const platform::Platform& platform, const core::Calendar& calendar,
+                 core::Settings& settings, Needs needs)
+    : WinsockOut(platform.network.MakeSocket(platform::TcpSocket::Protocol::Telnet)),
+      timers(platform.scheduler, needs.onFault),
+      outgoing(*WinsockOut),
+      commandLine(outgoing),
+      intake(platform.scheduler, *WinsockOut, state, needs.chain, needs.feed,
+             {.showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+              .sendPassword = [this] { outgoing.SendPassword(); },
+              .onFault = needs.onFault}),
+      connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
+                 timers,
+                 {.defaultNode = needs.defaultNode,
+                  .askUserInfo = needs.askUserInfo,
+                  .onLoggedIn = [this] { commandLine.txtCmdLine.Text.Set({}); },
+                  .onFault = needs.onFault}),
+      login(settings, state, outgoing, connection),
+      linkText(platform.scheduler, calendar, settings, state, connection, intake, timers) {
+  timers.SetDuty(TimerId::Clock, [this] { linkText.Tick(); });
+}
+
+}  // namespace session

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <functional>
+
+#include "core/controls.h"
+#include "ui/frames.h"
+
+// One function for each kind of widget: it shows a control model and hands the user's acts to it.
+// The tie ends with the widget; the model outlives it.
+namespace ui {
+
+void BindLabel(QLabel* widget, core::Label& model, Frames& frames);
+void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames);
+void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames);
+
+// Runs `show` with the next frame after the property has changed, as long as the owner lives.
+template <class T>
+void BindProperty(QObject* owner, core::Property<T>& property, Frames& frames,
+                  std::function<void(const T&)> show);
+
+namespace detail {
+
+// What a tie keeps, as a child of its widget.
+class Tie : public QObject {
+ public:
+  Tie(QObject* owner, Frames& frames, std::function<void()> show)
+      : QObject(owner), item(frames.Add(std::move(show))) {}
+
+  std::shared_ptr<Frames::Item> item;
+  platform::Registration observing;
+};
+
+}  // namespace detail
+
+template <class T>
+void BindProperty(QObject* owner, core::Property<T>& property, Frames& frames,
+                  std::function<void(const T&)> show) {
+  show(property.Get());
+  auto* tie =
+      new detail::Tie(owner, frames, [&property, show = std::move(show)] { show(property.Get()); });
+  tie->observing = property.Observe([tie](const T&) { tie->item->Changed(); });
+}
+
+}  // namespace ui

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QFont>
+
+namespace ui {
+
+// The interface's font, in its usual size.
+QFont InterfaceFont();
+// The font of tables and of what a node sends: of fixed width.
+QFont FixedFont();
+
+}  // namespace ui

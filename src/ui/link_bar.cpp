@@ -1,0 +1,100 @@
+#include "ui/link_bar.h"
+
+#include <QHBoxLayout>
+
+#include "platform/qt/qt_text.h"
+#include "ui/bind.h"
+#include "ui/fonts.h"
+
+namespace ui {
+namespace {
+
+constexpr int kHeight = 48;
+
+QFont Bold(QFont font, int pixels) {
+  font.setPixelSize(pixels);
+  font.setWeight(QFont::DemiBold);
+  return font;
+}
+
+}  // namespace
+
+LinkBar::LinkBar(program::Program& program, Frames& frames, const Theme& theme, QWidget* parent)
+    : QWidget(parent),
+      program_(program),
+      lamp_(new Lamp(this)),
+      node_(new QLabel(this)),
+      state_(new QLabel(this)),
+      age_(new QLabel(this)),
+      connect_(new QPushButton(this)),
+      disconnect_(new QPushButton(this)),
+      nodes_(new QPushButton(tr("Nodes…"), this)),
+      clock_(new QLabel(this)),
+      date_(new QLabel(this)) {
+  setObjectName(QStringLiteral("LinkBar"));
+  setAttribute(Qt::WA_StyledBackground);
+  setFixedHeight(kHeight);
+  Lay();
+  Name();
+  Tie(program, frames, theme);
+}
+
+void LinkBar::Lay() {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(14, 0, 12, 0);
+  row->setSpacing(8);
+  row->addWidget(lamp_);
+  row->addWidget(node_);
+  row->addWidget(state_);
+  row->addWidget(age_);
+  row->addSpacing(8);
+  row->addWidget(connect_);
+  row->addWidget(disconnect_);
+  row->addWidget(nodes_);
+  row->addStretch();
+  row->addWidget(clock_);
+  row->addWidget(date_);
+  node_->setFont(Bold(node_->font(), 13));
+  clock_->setFont(Bold(FixedFont(), 17));
+  for (QLabel* label : {state_, age_, date_}) label->setProperty("dim", true);
+}
+
+void LinkBar::Name() {
+  lamp_->setAccessibleName(tr("Link lamp"));
+  node_->setAccessibleName(tr("Node"));
+  state_->setAccessibleName(tr("State of the link"));
+  age_->setAccessibleName(tr("Age of the last line"));
+  clock_->setAccessibleName(tr("Time in UTC"));
+  date_->setAccessibleName(tr("Date in UTC"));
+  connect_->setAccessibleName(tr("Connect"));
+  disconnect_->setAccessibleName(tr("Disconnect"));
+  nodes_->setAccessibleName(tr("Nodes"));
+  nodes_->setEnabled(false);
+  nodes_->setToolTip(tr("The node directory is not part of this version."));
+}
+
+void LinkBar::Tie(program::Program& program, Frames& frames, const Theme& theme) {
+  session::Session& session = program.session;
+  BindButton(connect_, session.connection.cmdConnect, frames);
+  BindButton(disconnect_, session.connection.cmdDisconnect, frames);
+  BindLabel(clock_, program.session.linkText.lblclock[0], frames);
+  BindLabel(date_, program.session.linkText.lblclock[1], frames);
+  BindLabel(node_, program.session.linkText.node, frames);
+  BindLabel(state_, program.session.linkText.state, frames);
+  BindLabel(age_, program.session.linkText.age, frames);
+  BindLamp(lamp_, session.state, frames, theme);
+  BindProperty<bool>(this, session.connection.cmdConnect.Enabled, frames,
+                     [this](bool) { ShowButtons(); });
+  BindProperty<bool>(this, session.connection.cmdDisconnect.Enabled, frames,
+                     [this](bool) { ShowButtons(); });
+}
+
+void LinkBar::ShowButtons() {
+  const auto& connection = program_.session.connection;
+  // One of the two is right at any time; while a retry is awaited both are.
+  const bool both = connection.cmdConnect.Enabled.Get() && connection.cmdDisconnect.Enabled.Get();
+  connect_->setVisible(both || connection.cmdConnect.Enabled.Get());
+  disconnect_->setVisible(both || connection.cmdDisconnect.Enabled.Get());
+}
+
+}  // namespace ui

@@ -1,0 +1,98 @@
+#include "ui/style.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include "ui/fonts.h"
+
+namespace ui {
+namespace {
+
+QPalette PaletteOf(const Theme& theme) {
+  QPalette palette;
+  palette.setColor(QPalette::Window, theme[Token::Panel]);
+  palette.setColor(QPalette::WindowText, theme[Token::Text]);
+  palette.setColor(QPalette::Base, theme[Token::Ground]);
+  palette.setColor(QPalette::AlternateBase, theme[Token::Panel]);
+  palette.setColor(QPalette::Text, theme[Token::Text]);
+  palette.setColor(QPalette::PlaceholderText, theme[Token::DimText]);
+  palette.setColor(QPalette::Button, theme[Token::Panel]);
+  palette.setColor(QPalette::ButtonText, theme[Token::Text]);
+  palette.setColor(QPalette::Highlight, theme[Token::Selection]);
+  palette.setColor(QPalette::HighlightedText, theme[Token::Text]);
+  palette.setColor(QPalette::Link, theme[Token::Accent]);
+  palette.setColor(QPalette::ToolTipBase, theme[Token::Panel]);
+  palette.setColor(QPalette::ToolTipText, theme[Token::Text]);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, theme[Token::DimText]);
+  return palette;
+}
+
+// {name} stands for the theme's colour of that name.
+constexpr const char* kSheet = R"(
+QWidget#LinkBar { background: {panel}; border-bottom: 1px solid {line}; }
+QWidget#StatusLine { background: {panel}; border-top: 1px solid {line}; }
+QWidget#CommandRow { background: {panel}; }
+QLabel { color: {text}; }
+QLabel[dim="true"] { color: {dim}; }
+QPushButton { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
+              padding: 5px 12px; }
+QPushButton:hover { border-color: {dim}; }
+QPushButton:focus { border-color: {accent}; }
+QPushButton:pressed { background: {selection}; }
+QPushButton:disabled { color: {dim}; background: {panel}; }
+QPushButton[primary="true"] { color: {accent}; border-color: {accent}; font-weight: 600; }
+QLineEdit { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
+            padding: 5px 8px; selection-background-color: {selection};
+            selection-color: {text}; }
+QLineEdit:focus { border-color: {accent}; }
+QPlainTextEdit { background: {ground}; color: {text}; border: none;
+                 selection-background-color: {selection}; selection-color: {text}; }
+QPlainTextEdit:focus { border: 1px solid {accent}; }
+QTabBar { background: {panel}; border: none; }
+QTabBar::tab { color: {text}; background: transparent; padding: 8px 14px; margin: 0; border: none;
+               border-bottom: 2px solid transparent; }
+QTabBar::tab:hover:!disabled { border-bottom-color: {line}; }
+QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
+QTabBar::tab:disabled { color: {dim}; }
+QSplitter::handle { background: {line}; }
+QSplitter::handle:hover { background: {accent}; }
+QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
+QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
+QScrollBar::handle { background: {line}; border-radius: 4px; margin: 2px; min-height: 24px;
+                     min-width: 24px; }
+QScrollBar::handle:hover { background: {dim}; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QToolTip { background: {panel}; color: {text}; border: 1px solid {line}; padding: 4px; }
+)";
+
+struct Name {
+  const char* name;
+  Token token;
+};
+
+constexpr std::array kNames = {
+    Name{"{ground}", Token::Ground},       Name{"{panel}", Token::Panel},
+    Name{"{line}", Token::Line},           Name{"{text}", Token::Text},
+    Name{"{dim}", Token::DimText},         Name{"{accent}", Token::Accent},
+    Name{"{selection}", Token::Selection},
+};
+
+QString SheetOf(const Theme& theme) {
+  QString sheet = QString::fromLatin1(kSheet);
+  for (const Name& each : kNames) sheet.replace(QLatin1String(each.name), theme[each.token].name());
+  return sheet;
+}
+
+}  // namespace
+
+void Apply(const Theme& theme, QApplication& application) {
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(PaletteOf(theme));
+  QApplication::setFont(InterfaceFont());
+  application.setStyleSheet(SheetOf(theme));
+}
+
+}  // namespace ui

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "core/text_page.h"
+#include "ui/frames.h"
+
+namespace ui {
+
+// Shows a text page: what a node sends, as plain text. It follows the end if the reader is there,
+// and otherwise stays where he reads.
+class TextPageView : public QPlainTextEdit {
+ public:
+  // The page and the frames outlive the view.
+  TextPageView(core::TextPage& page, Frames& frames, QWidget* parent = nullptr);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Collect(const core::TextPage::Change& change);
+  void Refresh();
+  void RemoveFirst(std::size_t lines);
+  void AppendLast(std::size_t lines);
+
+  core::TextPage& page_;
+  std::size_t shown_ = 0;    // lines of the page that the widget holds
+  std::size_t removed_ = 0;  // of those, how many have left the page since
+  std::shared_ptr<Frames::Item> item_;
+  platform::Registration observing_;
+};
+
+}  // namespace ui

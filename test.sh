@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs all tests.
+#   ./test.sh         the everyday build with all tests, and the folders without Qt under sanitizers
+#   ./test.sh --all   besides, everything with the second compiler and its lint, and everything
+#                     under the sanitizers
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source tools/setup.sh
+
+case "${1:-}" in
+  '') presets=(asan-core dev) ;;
+  --all) presets=(clang asan dev) ;;
+  *)
+    echo "Usage: ./test.sh [--all]" >&2
+    exit 2
+    ;;
+esac
+
+need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
+if [ "${1:-}" = --all ]; then need "${CLANG_PACKAGES[@]}"; fi
+
+# No test needs a display.
+export QT_QPA_PLATFORM=offscreen
+# Qt and the font libraries keep memory to the end of the process on purpose.
+export LSAN_OPTIONS=suppressions=$PWD/tests/leak_suppressions.txt:print_suppressions=0
+
+for preset in "${presets[@]}"; do
+  echo "== $preset"
+  cmake --preset "$preset" -Wno-dev
+  cmake --build --preset "$preset"
+done
+for preset in "${presets[@]}"; do
+  echo "== $preset: tests"
+  ctest --preset "$preset" --parallel "$(nproc)"
+done

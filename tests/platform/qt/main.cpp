@@ -1,0 +1,10 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleMock(&argc, argv);
+  const QApplication application(argc, argv);
+  return RUN_ALL_TESTS();
+}

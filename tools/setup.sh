@@ -1,0 +1,37 @@
+# Sourced by run.sh and test.sh: installs what is missing, without asking anything.
+
+# What the program is built with.
+BUILD_PACKAGES=(ccache cmake g++ lld ninja-build qt6-base-dev qt6-serialport-dev)
+# What it runs with, and what shows it where there is no display.
+RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono imagemagick qt6-qpa-plugins xauth xvfb)
+# What its tests need besides.
+TEST_PACKAGES=(googletest libgmock-dev libgtest-dev)
+# What the second compiler and the lint need.
+CLANG_PACKAGES=(clang clang-tidy)
+
+missing_packages() {
+  local package
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+      printf '%s\n' "$package"
+  done
+}
+
+# need PACKAGE...: installs those that are missing; ends the script where that is refused.
+need() {
+  local missing as_root=()
+  mapfile -t missing < <(missing_packages "$@")
+  [ "${#missing[@]}" -gt 0 ] || return 0
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! sudo -n true 2>/dev/null; then
+      echo "These packages are missing. Install them, then start this again:" >&2
+      echo "  sudo apt-get install -y ${missing[*]}" >&2
+      exit 1
+    fi
+    as_root=(sudo -n)
+  fi
+  echo "Installing ${missing[*]}"
+  "${as_root[@]}" apt-get update -q
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
