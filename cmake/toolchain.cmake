@@ -31,6 +31,9 @@ endif()
 if(MOLVA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-maybe-uninitialized)  # false alarms in the standard library's regex
+  endif()
   add_link_options(-fsanitize=address,undefined)
 endif()
 

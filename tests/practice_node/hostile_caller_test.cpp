@@ -94,6 +94,17 @@ TEST_F(HostileCallerTest, ACrowdIsBounded) {
   EXPECT_EQ(late.heard, "login: ");
 }
 
+TEST_F(HostileCallerTest, NoMoreThanAThousandUsersAreRemembered) {
+  StartNode({"--dialect=ar"});
+  auto early = LoggedIn("K0AAA");
+  early->Type("set/name Anna");
+  early->Leave();
+  for (int i = 0; i < 1000; ++i) LoggedIn("K1T" + std::to_string(i))->Leave();
+  Visitor again(world);
+  again.Type("K0AAA");
+  EXPECT_THAT(again.heard, HasSubstr("Hello  (K0AAA)"));
+}
+
 TEST_F(HostileCallerTest, ManyCommandsAtOnceAreAllAnswered) {
   StartNode({"--dialect=ar"});
   auto visitor = LoggedIn();

@@ -115,6 +115,15 @@ TEST_F(LoginTest, HangsUpAfterAMinuteWithoutThePassword) {
   EXPECT_TRUE(visitor.closed);
 }
 
+TEST_F(LoginTest, WithThePasswordGivenTheMinuteIsForgotten) {
+  StartNode({"--password"});
+  Visitor visitor(world);
+  visitor.Type("K1TST-2");
+  visitor.Type("anything");
+  world.Run(2min);
+  EXPECT_FALSE(visitor.closed);
+}
+
 TEST_F(LoginTest, AnyPasswordWillDoWithoutAWord) {
   StartNode({"--password"});
   Visitor visitor(world);

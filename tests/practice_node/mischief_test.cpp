@@ -90,6 +90,15 @@ TEST_F(MischiefTest, EscapesStandForCharacters) {
   EXPECT_THAT(escaped->heard, HasSubstr("%"));
 }
 
+TEST_F(MischiefTest, APercentSignIsEscapedTooSoThatRepairGivesTheText) {
+  Options options;
+  options.mischief.escapes = true;
+  StartNode(options, {"100% of %41, %zz"});
+  auto visitor = LoggedIn();
+  world.Run(2s);
+  EXPECT_EQ(Repaired(visitor->Lines().front()), "100% of %41, %zz");
+}
+
 TEST_F(MischiefTest, NegotiationsLeaveTheTextWhole) {
   StartNode({});
   Visitor plain(world);

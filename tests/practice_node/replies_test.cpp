@@ -127,6 +127,15 @@ TEST_F(RepliesTest, SpotListsHaveTenRowsUnlessANumberSaysOtherwise) {
   EXPECT_EQ(visitor->Lines().size(), 4u);
 }
 
+TEST_F(RepliesTest, WinClusterListsCallsAColumnEarlier) {
+  StartNode({"--dialect=wincluster"});
+  auto visitor = LoggedIn();
+  visitor->Ask("sh/dx 20");
+  for (int i = 0; i < 20; ++i)
+    EXPECT_THAT(visitor->Lines()[static_cast<std::size_t>(i)],
+                ::testing::MatchesRegex(" *[0-9]+[.][0-9] [A-Z0-9]+ .*"));
+}
+
 TEST_F(RepliesTest, HelpNamesTheCommandsOfTheDialect) {
   StartNode({"--dialect=skimmer"});
   auto visitor = LoggedIn();

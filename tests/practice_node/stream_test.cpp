@@ -153,6 +153,19 @@ TEST_F(StreamTest, SpotsRestWhileNobodyListens) {
   EXPECT_EQ(visitor->SpotLines().front().substr(0, 70), expected.front().substr(0, 70));
 }
 
+TEST_F(StreamTest, SpotsRestAgainWhenTheLastCallerHasLeft) {
+  const auto expected = Heard({"--rate=1"}, 5500ms);
+  node.reset();
+  StartNode({"--rate=1"});
+  auto first = LoggedIn();
+  world.Run(2500ms);
+  first->Leave();
+  world.Run(1h);
+  auto second = LoggedIn();
+  world.Run(1500ms);
+  EXPECT_EQ(second->SpotLines().front().substr(0, 70), expected[2].substr(0, 70));
+}
+
 TEST_F(StreamTest, DxSpiderRingsTwiceUntilNobeep) {
   StartNode({"--rate=1"});
   auto visitor = LoggedIn();

@@ -10,8 +10,8 @@
 namespace practice_node {
 namespace {
 
-constexpr std::size_t kMegabyte = 1024 * 1024;
-constexpr std::size_t kFloodPiece = 64 * 1024;
+constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
+constexpr std::size_t kFloodPiece = std::size_t{64} * 1024;
 constexpr unsigned kStallAtLine = 10;
 constexpr unsigned kMostMegabytes = 100'000;
 
