@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
       [&program] { program.RequestClose(program::Program::Close::WithoutAsking); });
   ui::Frames frames(platform.scheduler);
   ui::MainWindow window(program, frames, theme);
-  window.show();
   program.Start();
+  window.show();
   return QApplication::exec();
 }

@@ -21,7 +21,7 @@ Tasks::Tasks(Scheduler& scheduler, FaultHandler onFault)
     : scheduler_(scheduler), onFault_(std::move(onFault)) {}
 
 Tasks::~Tasks() {
-  for (const Entry& entry : running_) assert(entry.root->running == 0);
+  for ([[maybe_unused]] const Entry& entry : running_) assert(entry.root->running == 0);
 }
 
 void Tasks::Start(std::string name, Task<> task) {
@@ -43,10 +43,9 @@ void Tasks::CancelAll() {
 }
 
 void Tasks::Ended(Entries::iterator entry) {
-  const Entry ended = std::move(*entry);
+  Entry ended = std::move(*entry);
   running_.erase(entry);
-  if (auto fault = const_cast<Task<>&>(ended.task).promise().fault)
-    onFault_(ended.name, What(fault));
+  if (const auto fault = ended.task.promise().fault) onFault_(ended.name, What(fault));
 }
 
 }  // namespace platform

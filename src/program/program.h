@@ -1,20 +1,36 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "core/configuration.h"
 #include "core/controls.h"
 #include "core/dates.h"
+#include "core/endpoints.h"
 #include "core/error_log.h"
 #include "core/settings.h"
 #include "platform/platform.h"
 #include "platform/tasks.h"
 #include "program/chain.h"
+#include "program/offset_form.h"
+#include "program/user_info.h"
 #include "session/forwarding.h"
 #include "session/session.h"
 
 namespace program {
+
+// Where the window stands, in twips (15 to a pixel). A width of 0: it was never placed.
+struct FormPlace {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  int inputHeight = 0;  // of the raw view; 0: never set
+  bool maximised = false;
+
+  bool operator==(const FormPlace&) const = default;
+};
 
 // The whole running system: who owns what, and how it comes up and goes down.
 class Program {
@@ -36,9 +52,13 @@ class Program {
   // close during start-up ends the program at once, without writing anything.
   void RequestClose(Close how);
 
+  // Writes the configuration 2 seconds after the last call.
+  void DelayedWriteCfg();
+
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;
+  core::Property<FormPlace> form;  // set by the window as the user moves it, and at start
 
  private:
   // No logging program and no local network yet: what goes to them goes nowhere.
@@ -56,32 +76,47 @@ class Program {
   core::Calendar calendar;
   core::ErrorLog errorLog;
   core::Settings settings;
+  core::Endpoints endpoints;
 
  private:
   LineChain chain_;
   NoFeed feed_;
+  std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
 
  public:
   session::Session session;
+  UserInfo userInfo;
+  OffsetForm offsetForm;
 
  private:
   struct Step;
 
   platform::Task<> StartUp();
   platform::Task<> PrepareFolder();
+  platform::Task<> ReadDebugCfg();
+  platform::Task<> BringDataFiles();
   platform::Task<> ReadCfg();
   platform::Task<> ReadPassword();
   platform::Task<> PrepareSession();
   platform::Task<> EndLoading();
+  platform::Task<> AskWhatIsMissing();
   platform::Task<> AutoStart();
+
   platform::Task<> ShutDown(Close how);
   platform::Task<bool> UserAgrees();
+  bool WindowHasMoved() const;
   void Quit();
+
+  session::DefaultNode DefaultNode() const;
   void CaptionSetup();
-  void AskUserInfo();
+  void ApplySettings();
+  void WriteCfg();
+  void SaveUserInfo(const std::string& password);
+  std::string Path(const char* file) const { return folder_ + "/" + file; }
 
   bool ending_ = false;
   bool folderIsNew_ = false;
+  bool configurationIsNew_ = false;
   platform::Tasks tasks_;
 };
 

@@ -62,15 +62,21 @@ Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& cal
   AutoReconnect.Value.Set(true);
 }
 
-void Connection::WhichNode() {
+void Connection::EnsureNode() {
   const bool vendorHostUnknown = settings_.NodeCall == kVendorNode && settings_.NodeHost.empty();
-  if (core::Len(settings_.NodeCall) < 2 || vendorHostUnknown) {
-    settings_.NodeCall = needs_.defaultNode.call;
-    settings_.NodeHost = needs_.defaultNode.host;
-    settings_.NodePort = needs_.defaultNode.port;
-  }
+  if (core::Len(settings_.NodeCall) >= 2 && !vendorHostUnknown) return;
+  const DefaultNode node = needs_.defaultNode();
+  settings_.NodeCall = node.call;
+  settings_.NodeHost = node.host;
+  settings_.NodePort = node.port;
+  needs_.delayedWriteCfg();
+}
+
+void Connection::WhichNode() {
+  EnsureNode();
   ChooseHost();
   connecting_.CancelAll();
+  connectHold_.Release();
   connecting_.Start("ConnectNode", ConnectNode());
 }
 
@@ -91,6 +97,8 @@ platform::Task<> Connection::ConnectNode() {
   }
   socket_.Close();
   intake_.Drop();
+  state_.SocketConnected = false;
+  state_.ConnectEventSeen = false;
   state_.ConnectFailed = false;
   timers_.Restart(TimerId::ConnectionTimeout);
   Show(LinkPhase::Trying);
@@ -149,6 +157,7 @@ void Connection::Show(LinkPhase phase) {
 }
 
 void Connection::OnConnect() {
+  needs_.delayedWriteCfg();
   if (std::exchange(state_.ConnectEventSeen, true)) return;
   Show(LinkPhase::Trying);
   state_.SocketConnected = true;
@@ -190,7 +199,8 @@ void Connection::Disconnected() {
   state_.LoginTextDone = false;
   state_.LoginFinished = false;
   state_.LoginMsgActive = false;
-  state_.IsSpider = false;
+  state_.Kind = NodeKind::Unknown;
+  state_.ArpcRefused = false;
   intake_.ClearLine();
   outgoing_.LinkDown();
   connectHold_.Release();
@@ -249,6 +259,10 @@ void Connection::GiveUpLogin() {
   timers_.Disable(TimerId::ConnectionTimeout);
   TellFailure("silent",
               "No login request received : " + calendar_.GmtTime() + state_.ConnectedNodeCall);
+  GiveUp();
+}
+
+void Connection::GiveUp() {
   timers_.Disable(TimerId::Reconnect);
   ForceClose();
   timers_.Enable(TimerId::Reconnect);

@@ -28,8 +28,9 @@ class Connection {
  public:
   // What the connection asks of the program around it.
   struct Needs {
-    DefaultNode defaultNode;
-    std::function<void()> askUserInfo;  // a call, name or QTH is missing
+    std::function<DefaultNode()> defaultNode;
+    std::function<void()> askUserInfo;      // a call, name or QTH is missing
+    std::function<void()> delayedWriteCfg;  // a setting has changed
     std::function<void()> onLoggedIn;
     platform::FaultHandler onFault;
   };
@@ -49,12 +50,17 @@ class Connection {
   // The login message of the node, as it comes in.
   core::TextPage rtbLoginMsg;
 
+  // Takes the default node while none is chosen, or the chosen one has no host.
+  void EnsureNode();
   // The way into every telnet connect.
   void WhichNode();
   // The call was sent to a login prompt.
   void LoggedInSetup();
   // Ends the session from here, or is told that the node did.
   void ForceClose();
+
+  // The link is dead: closes it, and the next try comes one interval later.
+  void GiveUp();
 
   // Line handlers; true claims the line.
   bool QRX(std::string_view line);

@@ -54,7 +54,7 @@ void Intake::InputCharacter(std::uint8_t byte) {
     case LineBuffer::Event::None:
       break;
     case LineBuffer::Event::Nul:
-      ++NullsReceived;
+      needs_.nulReceived(++NullsReceived);
       break;
     case LineBuffer::Event::PasswordPrompt:
       needs_.sendPassword();
@@ -81,6 +81,7 @@ void Intake::FinishLine() {
 void Intake::InputLine(std::string_view line) {
   line_.Clear();
   LastLineAt = scheduler_.Now();
+  needs_.lineReceived();
   needs_.showRaw(line);
   if (!line.starts_with("ZV11")) feed_.RawLine(line);
   ForwardSuppressed = false;
@@ -122,7 +123,7 @@ platform::Task<> Intake::Rest(std::string line, int row) {
 }
 
 void Intake::Forward(std::string_view line) {
-  if (stopLists.Stops(line, state_.IsSpider)) ForwardSuppressed = true;
+  if (stopLists.Stops(line, state_.IsSpider())) ForwardSuppressed = true;
   if (!ForwardSuppressed && state_.LoggedIn) feed_.SendLocal(line);
 }
 

@@ -23,6 +23,8 @@ class Intake {
  public:
   // What intake itself asks of others.
   struct Needs {
+    std::function<void()> lineReceived;
+    std::function<void(int nulls)> nulReceived;  // how many there have been
     std::function<void(std::string_view line)> showRaw;
     std::function<void()> sendPassword;
     // Told the routine that failed and why; the line goes on to the next row.

@@ -52,6 +52,7 @@ LineBuffer::Event LineBuffer::Put(std::uint8_t byte, Prompts prompts) {
     text_.resize(core::RTrim(text_).size());
     return Event::Line;
   }
+  if (byte == ' ' && leadingBlanks_ == text_.size()) ++leadingBlanks_;
   text_ += static_cast<char>(byte);
   return AtPrompt(prompts);
 }
@@ -62,7 +63,7 @@ LineBuffer::Event LineBuffer::AtPrompt(Prompts prompts) const {
     const std::string_view end = core::Right(text_, core::Len(kTncPrompt));
     return core::SameIgnoringCase(end, kTncPrompt) ? Event::Line : Event::None;
   }
-  const std::string_view begun = core::LTrim(text_);
+  const std::string_view begun = std::string_view(text_).substr(leadingBlanks_);
   for (const Prompt& prompt : kLoginPrompts)
     if (begun == prompt.text) return prompt.asksPassword ? Event::PasswordPrompt : Event::Line;
   return Event::None;
@@ -70,7 +71,12 @@ LineBuffer::Event LineBuffer::AtPrompt(Prompts prompts) const {
 
 void LineBuffer::Take(std::string& into) {
   into.swap(text_);
+  Clear();
+}
+
+void LineBuffer::Clear() {
   text_.clear();
+  leadingBlanks_ = 0;
 }
 
 void GiveBackGiant(std::string& text) {

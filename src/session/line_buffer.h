@@ -27,12 +27,13 @@ class LineBuffer {
   void Take(std::string& into);
 
   // Begins a new line.
-  void Clear() { text_.clear(); }
+  void Clear();
 
  private:
   Event AtPrompt(Prompts prompts) const;
 
   std::string text_;
+  std::size_t leadingBlanks_ = 0;  // of text_
 };
 
 // Empties a text that has grown far beyond any usual line, and gives its memory back.

@@ -25,6 +25,7 @@ void Outgoing::SendPassword() {
 }
 
 bool Outgoing::Dispatch(Line line) {
+  lineSent_();
   if (socket_.State() == platform::SocketState::Connecting) {
     waiting_.push_back(std::move(line));
     return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,9 @@ namespace session {
 // Everything that goes to the node, and what the operator sees of the traffic.
 class Outgoing {
  public:
-  explicit Outgoing(platform::TcpSocket& socket) : socket_(socket) {}
+  // `lineSent` is told of each line that is sent.
+  Outgoing(platform::TcpSocket& socket, std::function<void()> lineSent)
+      : socket_(socket), lineSent_(std::move(lineSent)) {}
 
   core::TextPage Text2;      // the raw view: lines received, and those sent behind "   <- "
   std::string NodePassword;  // empty: none is stored
@@ -42,6 +45,7 @@ class Outgoing {
   void Put(const Line& line);
 
   platform::TcpSocket& socket_;
+  std::function<void()> lineSent_;
   std::vector<Line> waiting_;
 };
 

@@ -6,17 +6,27 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                  core::Settings& settings, Needs needs)
     : WinsockOut(platform.network.MakeSocket(platform::TcpSocket::Protocol::Telnet)),
       timers(platform.scheduler, needs.onFault),
-      outgoing(*WinsockOut),
+      keepAlive(timers, state,
+                {.sendAsIs = [this](const std::string& text) { outgoing.SendAsIs(text); },
+                 .giveUp = [this] { connection.GiveUp(); }}),
+      outgoing(*WinsockOut, [this] { keepAlive.LineSent(); }),
       commandLine(outgoing),
       intake(platform.scheduler, *WinsockOut, state, needs.chain, needs.feed,
-             {.showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+             {.lineReceived = [this] { keepAlive.LineReceived(); },
+              .nulReceived = [this](int nulls) { keepAlive.NulReceived(nulls); },
+              .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
               .sendPassword = [this] { outgoing.SendPassword(); },
               .onFault = needs.onFault}),
       connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
                  timers,
                  {.defaultNode = needs.defaultNode,
                   .askUserInfo = needs.askUserInfo,
-                  .onLoggedIn = [this] { commandLine.txtCmdLine.Text.Set({}); },
+                  .delayedWriteCfg = needs.delayedWriteCfg,
+                  .onLoggedIn =
+                      [this] {
+                        commandLine.txtCmdLine.Text.Set({});
+                        keepAlive.LoggedIn();
+                      },
                   .onFault = needs.onFault}),
       login(settings, state, outgoing, connection),
       linkText(platform.scheduler, calendar, settings, state, connection, intake, timers) {

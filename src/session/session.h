@@ -6,6 +6,7 @@
 #include "session/command_line.h"
 #include "session/connection.h"
 #include "session/intake.h"
+#include "session/keep_alive.h"
 #include "session/link_text.h"
 #include "session/login.h"
 #include "session/outgoing.h"
@@ -21,8 +22,9 @@ class Session {
   struct Needs {
     Chain& chain;
     LineFeed& feed;
-    DefaultNode defaultNode;
+    std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
+    std::function<void()> delayedWriteCfg;
     platform::FaultHandler onFault;
   };
 
@@ -32,6 +34,7 @@ class Session {
   SessionState state;
   const std::unique_ptr<platform::TcpSocket> WinsockOut;
   Timers timers;
+  KeepAlive keepAlive;
   Outgoing outgoing;
   CommandLine commandLine;
   Intake intake;

@@ -7,12 +7,16 @@
 
 namespace session {
 
+// The software of the node.
+enum class NodeKind { Unknown, ArCluster, Zelva, Spider, DxNet, Clx, WinCluster, Skimmer };
+
 enum class LinkPhase { Disconnected, Trying, Connected };
 
 // Where the session stands. One for the program; Connection says how it changes.
 struct SessionState {
   bool TncMode = false;          // the session runs over the TNC, not telnet
-  bool IsSpider = false;         // the node runs DXSpider
+  NodeKind Kind = NodeKind::Unknown;
+  bool ArpcRefused = false;      // the node has no extended spot lines
   bool LoggedIn = false;         // the call has been sent to a login prompt
   bool SocketConnected = false;  // the connect event of this attempt has come
   bool ConnectFailed = false;    // the attempt is to be given up, and its failure shown
@@ -24,6 +28,10 @@ struct SessionState {
   bool LoginFinished = false;     // the login sequence is complete: prompts for it mean nothing now
   std::string ConnectedNodeCall;  // the call that the node gave for itself
   std::string ConnectHost;        // what this attempt goes to: a name or an address
+
+  bool IsArCluster() const { return Kind == NodeKind::ArCluster; }
+  bool IsZelva() const { return Kind == NodeKind::Zelva; }
+  bool IsSpider() const { return Kind == NodeKind::Spider; }
 
   core::Property<LinkPhase> Phase{LinkPhase::Disconnected};
   core::Label txtNode;  // the state of the link in words, in the colour of its phase

@@ -79,19 +79,14 @@ void Timers::Begin() {
 }
 
 void Timers::Enable(TimerId timer) {
-  if (At(timer).enabled) return;
-  At(timer).enabled = true;
-  Arm(At(timer));
+  if (!At(timer).enabled) Restart(timer);
 }
 
-void Timers::Disable(TimerId timer) {
-  At(timer).enabled = false;
-  At(timer).running.Release();
-}
+void Timers::Disable(TimerId timer) { At(timer).enabled = false; }
 
 void Timers::Restart(TimerId timer) {
-  Disable(timer);
-  Enable(timer);
+  At(timer).enabled = true;
+  Arm(At(timer));
 }
 
 void Timers::SetInterval(TimerId timer, platform::Milliseconds interval) {
@@ -107,7 +102,22 @@ void Timers::Arm(Timer& timer) {
   // Without a duty there is nothing to wake up for.
   if (!begun_ || !timer.enabled || !timer.duty || timer.interval.count() == 0) return;
   timer.due = scheduler_.Now() + timer.interval;
-  timer.running = scheduler_.After(timer.interval, [this, &timer] { Fire(timer); });
+  if (!timer.wakeAsked || timer.wakeAt > timer.due) AskWake(timer);
+}
+
+void Timers::AskWake(Timer& timer) {
+  timer.wakeAsked = true;
+  timer.wakeAt = timer.due;
+  timer.wake = scheduler_.After(timer.due - scheduler_.Now(), [this, &timer] { Wake(timer); });
+}
+
+void Timers::Wake(Timer& timer) {
+  timer.wakeAsked = false;
+  if (!timer.enabled || timer.interval.count() == 0) return;
+  if (scheduler_.Now() < timer.due)
+    AskWake(timer);
+  else
+    Fire(timer);
 }
 
 void Timers::Fire(Timer& timer) {

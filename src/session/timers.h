@@ -12,8 +12,12 @@ namespace session {
 // The timers that rules name. The number is the timer's index.
 enum class TimerId : std::size_t {
   Clock = 1,
+  KeepAliveColour = 2,
   Reconnect = 3,
   ConnectionTimeout = 4,
+  NullsColour = 6,
+  WriteCfg = 9,
+  KeepAlive = 12,
 };
 
 // The program's clockwork: 35 timers, each with a period and a switch. An interval of 0 never
@@ -34,7 +38,7 @@ class Timers {
 
   void Enable(TimerId timer);
   void Disable(TimerId timer);
-  void Restart(TimerId timer);  // a whole period from now
+  void Restart(TimerId timer);  // a whole period from now; cheap enough for every line
   // Takes effect with the next period; a running one is begun anew.
   void SetInterval(TimerId timer, platform::Milliseconds interval);
 
@@ -49,12 +53,17 @@ class Timers {
     bool enabled = false;
     std::function<void()> duty;
     platform::Milliseconds due{0};
-    platform::Registration running;
+    // A wake-up is left where it is when the timer is stopped or put off, and asks again then.
+    platform::Milliseconds wakeAt{0};
+    bool wakeAsked = false;
+    platform::Registration wake;
   };
 
   Timer& At(TimerId timer) { return timers_[static_cast<std::size_t>(timer)]; }
   const Timer& At(TimerId timer) const { return timers_[static_cast<std::size_t>(timer)]; }
   void Arm(Timer& timer);
+  void AskWake(Timer& timer);
+  void Wake(Timer& timer);
   void Fire(Timer& timer);
 
   platform::Scheduler& scheduler_;

@@ -1,17 +1,28 @@
 #include "ui/bind.h"
 
 #include "platform/qt/qt_text.h"
+#include "ui/one_line.h"
 
 namespace ui {
 namespace {
 
 using platform::qt::TextOf;
 
+// What comes from a node may be of any length.
+constexpr core::Position kLongestLabel = 200;
+
+// Observes as long as its owner lives.
+struct Watch : QObject {
+  explicit Watch(QObject* owner) : QObject(owner) {}
+  platform::Registration observing;
+};
+
 void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
   BindProperty<bool>(widget, model.Enabled, frames, [widget](bool on) { widget->setEnabled(on); });
   BindProperty<bool>(widget, model.Visible, frames, [widget](bool on) { widget->setVisible(on); });
   BindProperty<std::string>(widget, model.ToolTip, frames, [widget](const std::string& text) {
-    widget->setToolTip(TextOf(text).toHtmlEscaped());
+    const QString plain = TextOf(text);
+    widget->setToolTip(Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain);
   });
 }
 
@@ -20,8 +31,13 @@ void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
   widget->setTextFormat(Qt::PlainText);
   BindCommon(widget, model, frames);
-  BindProperty<std::string>(widget, model.Caption, frames,
-                            [widget](const std::string& text) { widget->setText(TextOf(text)); });
+  const QString name = widget->accessibleName();
+  BindProperty<std::string>(widget, model.Caption, frames, [widget, name](const std::string& text) {
+    const QString line = OneLine(text, kLongestLabel);
+    widget->setText(line);
+    const bool says = !name.isEmpty() && !line.isEmpty();
+    widget->setAccessibleName(says ? name + ": " + line : name);
+  });
 }
 
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames) {
@@ -31,9 +47,29 @@ void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames) {
   QObject::connect(widget, &QAbstractButton::clicked, widget, [&model] { model.Press(); });
 }
 
+void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames) {
+  BindCommon(widget, model, frames);
+  BindProperty<std::string>(widget, model.Caption, frames, [widget](const std::string& text) {
+    widget->setText(TextOf(text));
+  });
+  BindProperty<bool>(widget, model.Value, frames, [widget](bool on) { widget->setChecked(on); });
+  QObject::connect(widget, &QCheckBox::clicked, widget,
+                   [&model](bool on) { model.UserSets(on); });
+}
+
+void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel,
+                Frames& frames) {
+  BindProperty<bool>(widget, open, frames, [widget](bool on) { widget->setVisible(on); });
+  QObject::connect(widget, &QDialog::rejected, widget, [&open, &cancel] {
+    if (open.Get()) cancel.Press();
+  });
+}
+
 void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames) {
   BindCommon(widget, model, frames);
-  BindProperty<std::string>(widget, model.Text, frames, [widget](const std::string& text) {
+  // Not with the next frame: the user's next key goes into what the rules have left.
+  auto* watch = new Watch(widget);
+  watch->observing = model.Text.Observe([widget](const std::string& text) {
     const QString now = TextOf(text);
     if (widget->text() != now) widget->setText(now);
   });

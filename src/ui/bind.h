@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QCheckBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <functional>
 
@@ -12,9 +14,13 @@
 // The tie ends with the widget; the model outlives it.
 namespace ui {
 
+// A label that has an accessible name says its text behind it: "Node: N0DE-1".
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames);
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames);
+void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames);
 void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames);
+// A dialog that is on show while the model says so. The user's own closing presses `cancel`.
+void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel, Frames& frames);
 
 // Runs `show` with the next frame after the property has changed, as long as the owner lives.
 template <class T>

@@ -57,6 +57,8 @@ void LinkBar::Lay() {
   node_->setFont(Bold(node_->font(), 13));
   clock_->setFont(Bold(FixedFont(), 17));
   for (QLabel* label : {state_, age_, date_}) label->setProperty("dim", true);
+  // What a node says is cut where it would widen the window.
+  for (QLabel* label : {node_, state_, age_}) label->setMinimumWidth(1);
 }
 
 void LinkBar::Name() {
@@ -75,6 +77,8 @@ void LinkBar::Name() {
 
 void LinkBar::Tie(program::Program& program, Frames& frames, const Theme& theme) {
   session::Session& session = program.session;
+  for (auto* button : {&session.connection.cmdConnect, &session.connection.cmdDisconnect})
+    BindProperty<bool>(this, button->Enabled, frames, [this](bool) { HandFocusOn(); });
   BindButton(connect_, session.connection.cmdConnect, frames);
   BindButton(disconnect_, session.connection.cmdDisconnect, frames);
   BindLabel(clock_, program.session.linkText.lblclock[0], frames);
@@ -87,6 +91,17 @@ void LinkBar::Tie(program::Program& program, Frames& frames, const Theme& theme)
                      [this](bool) { ShowButtons(); });
   BindProperty<bool>(this, session.connection.cmdDisconnect.Enabled, frames,
                      [this](bool) { ShowButtons(); });
+}
+
+void LinkBar::HandFocusOn() {
+  const auto handOn = [](QPushButton* from, const core::Button& model, QPushButton* to) {
+    if (!from->hasFocus() || model.Enabled.Get()) return;
+    to->setEnabled(true);
+    to->setVisible(true);
+    to->setFocus();
+  };
+  handOn(connect_, program_.session.connection.cmdConnect, disconnect_);
+  handOn(disconnect_, program_.session.connection.cmdDisconnect, connect_);
 }
 
 void LinkBar::ShowButtons() {

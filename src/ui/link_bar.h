@@ -25,6 +25,8 @@ class LinkBar : public QWidget {
   void Name();
   void Tie(program::Program& program, Frames& frames, const Theme& theme);
   void ShowButtons();
+  // Before the pressed one of the two goes: who works by keyboard finds the other under his finger.
+  void HandFocusOn();
 
   program::Program& program_;
   Lamp* lamp_;

@@ -1,17 +1,30 @@
 #include "ui/main_window.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
+#include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/offset_dialog.h"
+#include "ui/settings_page.h"
 #include "ui/status_line.h"
+#include "ui/user_info_dialog.h"
 
 namespace ui {
 namespace {
 
+constexpr int kSettingsTab = 0;
 constexpr int kLoginTab = 7;
+
+constexpr QSize kUsualSize(1280, 800);
+constexpr int kTwipsPerPixel = 15;
+
+int Pixels(int twips) { return twips / kTwipsPerPixel; }
+int Twips(int pixels) { return pixels * kTwipsPerPixel; }
 
 // The tabs in their order. A tab without a page yet stands there disabled.
 constexpr std::array kTabs = {"Settings", "Country",   "State", "Bands",   "Users", "DX",
@@ -28,30 +41,82 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, const Theme& t
       loginMessage_(new TextPageView(program.session.connection.rtbLoginMsg, frames, this)),
       raw_(new TextPageView(program.session.outgoing.Text2, frames, this)),
       commandRow_(new CommandRow(program.session, frames, this)) {
-  AddTabs();
+  AddTabs(frames);
   Lay();
   layout()->setContentsMargins(0, 0, 0, 0);
   centralWidget()->layout()->addWidget(new StatusLine(program.session, frames, theme, this));
   AddKeys();
   BindProperty<std::string>(this, program.title, frames, [this](const std::string& title) {
-    setWindowTitle(QString::fromStdString(title));
+    setWindowTitle(platform::qt::TextOf(title));
   });
-  resize(1280, 800);
+  new UserInfoDialog(program.userInfo, frames, this);
+  new OffsetDialog(program.offsetForm, frames, this);
+  placing_ = program.form.Observe([this](const program::FormPlace& place) { Place(place); });
+  connect(splitter_, &QSplitter::splitterMoved, this, [this] { StorePlace(); });
   commandRow_->Line()->setFocus();
 }
 
-void MainWindow::AddTabs() {
+void MainWindow::Place(const program::FormPlace& place) {
+  if (placed_ == place) return;
+  placed_ = place;
+  const QSize room = screen()->availableSize();
+  if (place.width == 0) {
+    resize(kUsualSize.boundedTo(room));
+  } else {
+    move(Pixels(place.left), Pixels(place.top));
+    resize(Pixels(place.width), Pixels(place.height));
+  }
+  if (place.inputHeight > 0) {
+    const int raw = Pixels(place.inputHeight);
+    splitter_->setSizes({std::max(splitter_->height() - raw, 1), raw});
+  }
+  if (place.maximised) setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void MainWindow::StorePlace() {
+  if (!isVisible() || isMinimized()) return;
+  program::FormPlace place = placed_;
+  place.maximised = isMaximized();
+  place.inputHeight = Twips(raw_->height());
+  if (!place.maximised) {
+    place.left = Twips(x());
+    place.top = Twips(y());
+    place.width = Twips(width());
+    place.height = Twips(height());
+  }
+  placed_ = place;
+  program_.form.Set(place);
+}
+
+void MainWindow::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  StorePlace();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  StorePlace();
+}
+
+void MainWindow::AddTabs(Frames& frames) {
   tabs_->setDrawBase(false);
   tabs_->setExpanding(false);
   tabs_->setAccessibleName(tr("Views"));
   for (const char* caption : kTabs) {
     const int tab = tabs_->addTab(tr(caption));
-    pages_->addWidget(tab == kLoginTab ? static_cast<QWidget*>(loginMessage_) : new QWidget(this));
-    tabs_->setTabEnabled(tab, tab == kLoginTab);
-    if (tab != kLoginTab) tabs_->setTabToolTip(tab, tr("This view is not part of this version."));
+    QWidget* page = MakePage(tab, frames);
+    pages_->addWidget(page != nullptr ? page : new QWidget(this));
+    tabs_->setTabEnabled(tab, page != nullptr);
+    if (page == nullptr) tabs_->setTabToolTip(tab, tr("This view is not part of this version."));
   }
   connect(tabs_, &QTabBar::currentChanged, pages_, &QStackedWidget::setCurrentIndex);
   tabs_->setCurrentIndex(kLoginTab);
+}
+
+QWidget* MainWindow::MakePage(int tab, Frames& frames) {
+  if (tab == kSettingsTab) return new SettingsPage(program_, frames, this);
+  if (tab == kLoginTab) return loginMessage_;
+  return nullptr;
 }
 
 void MainWindow::Lay() {

@@ -23,12 +23,17 @@ class MainWindow : public QMainWindow {
  protected:
   // Never closes by itself: the program asks, says goodbye to the node, and ends.
   void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void AddTabs();
+  void AddTabs(Frames& frames);
+  QWidget* MakePage(int tab, Frames& frames);  // nullptr: the view isn't there yet
   void Lay();
   void AddKeys();
   void GoRound();
+  void Place(const program::FormPlace& place);
+  void StorePlace();
 
   program::Program& program_;
   LinkBar* linkBar_;
@@ -38,6 +43,8 @@ class MainWindow : public QMainWindow {
   TextPageView* loginMessage_;
   TextPageView* raw_;
   CommandRow* commandRow_;
+  program::FormPlace placed_{.left = -1};  // as last applied or stored
+  platform::Registration placing_;
 };
 
 }  // namespace ui

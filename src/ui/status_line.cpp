@@ -25,6 +25,7 @@ StatusLine::StatusLine(session::Session& session, Frames& frames, const Theme& t
   row->addWidget(text_, 1);
   text_->setProperty("dim", true);
   text_->setAccessibleName(tr("Link"));
+  text_->setMinimumWidth(1);
   BindLabel(text_, session.state.txtNode, frames);
   BindLamp(lamp_, session.state, frames, theme);
 }

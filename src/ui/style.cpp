@@ -36,6 +36,10 @@ QWidget#StatusLine { background: {panel}; border-top: 1px solid {line}; }
 QWidget#CommandRow { background: {panel}; }
 QLabel { color: {text}; }
 QLabel[dim="true"] { color: {dim}; }
+QLabel[bad="true"] { color: {bad}; }
+QLabel[heading="true"] { font-weight: 600; }
+QDialog { background: {panel}; }
+QCheckBox { color: {text}; spacing: 8px; }
 QPushButton { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
               padding: 5px 12px; }
 QPushButton:hover { border-color: {dim}; }
@@ -43,7 +47,7 @@ QPushButton:focus { border-color: {accent}; }
 QPushButton:pressed { background: {selection}; }
 QPushButton:disabled { color: {dim}; background: {panel}; }
 QPushButton[primary="true"] { color: {accent}; border-color: {accent}; font-weight: 600; }
-QLineEdit { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
+QLineEdit { background: {ground}; border: 1px solid {line}; border-radius: 4px;
             padding: 5px 8px; selection-background-color: {selection};
             selection-color: {text}; }
 QLineEdit:focus { border-color: {accent}; }
@@ -55,6 +59,7 @@ QTabBar::tab { color: {text}; background: transparent; padding: 8px 14px; margin
                border-bottom: 2px solid transparent; }
 QTabBar::tab:hover:!disabled { border-bottom-color: {line}; }
 QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
+QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
 QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
@@ -77,7 +82,7 @@ constexpr std::array kNames = {
     Name{"{ground}", Token::Ground},       Name{"{panel}", Token::Panel},
     Name{"{line}", Token::Line},           Name{"{text}", Token::Text},
     Name{"{dim}", Token::DimText},         Name{"{accent}", Token::Accent},
-    Name{"{selection}", Token::Selection},
+    Name{"{selection}", Token::Selection}, Name{"{bad}", Token::Bad},
 };
 
 QString SheetOf(const Theme& theme) {

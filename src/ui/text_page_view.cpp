@@ -4,27 +4,14 @@
 #include <QTextBlock>
 #include <algorithm>
 
-#include "core/text.h"
-#include "platform/qt/qt_text.h"
 #include "ui/fonts.h"
+#include "ui/one_line.h"
 
 namespace ui {
 namespace {
 
 // A line of megabytes is no use to a reader, and laying it out would hold up the window.
 constexpr core::Position kLongestShown = 4000;
-
-// One line of the widget: whatever would break or bend it is shown as a symbol.
-QString Shown(std::string_view line) {
-  QString text = platform::qt::TextOf(core::Left(line, kLongestShown));
-  if (core::Len(line) > kLongestShown) text += QStringLiteral(" …");
-  for (QChar& character : text) {
-    if (character < QChar(' ')) character = QChar(0x2400 + character.unicode());
-    if (character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
-      character = QChar(0x2424);
-  }
-  return text;
-}
 
 }  // namespace
 
@@ -45,6 +32,16 @@ void TextPageView::showEvent(QShowEvent* event) {
   item_->Changed();
 }
 
+void TextPageView::resizeEvent(QResizeEvent* event) {
+  const bool atEnd = AtEnd();
+  QPlainTextEdit::resizeEvent(event);
+  if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+bool TextPageView::AtEnd() const {
+  return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
+}
+
 void TextPageView::Collect(const core::TextPage::Change& change) {
   removed_ = std::min(removed_ + change.removed, shown_);
   if (isVisible()) item_->Changed();
@@ -53,7 +50,7 @@ void TextPageView::Collect(const core::TextPage::Change& change) {
 void TextPageView::Refresh() {
   if (!isVisible()) return;
   QScrollBar* bar = verticalScrollBar();
-  const bool atEnd = bar->value() >= bar->maximum();
+  const bool atEnd = AtEnd();
   const int stays = bar->value() - static_cast<int>(removed_);
   setUpdatesEnabled(false);
   RemoveFirst(removed_);
@@ -82,12 +79,19 @@ void TextPageView::AppendLast(std::size_t lines) {
   QString text;
   for (std::size_t i = all.size() - lines; i < all.size(); ++i) {
     if (shown_ + (i - (all.size() - lines)) > 0) text += QLatin1Char('\n');
-    text += Shown(all[i]);
+    text += OneLine(all[i], kLongestShown);
   }
+  QTextCursor reader = textCursor();
+  const int anchor = reader.anchor(), position = reader.position();
   QTextCursor cursor(document());
   cursor.movePosition(QTextCursor::End);
   cursor.insertText(text);
   shown_ += lines;
+  if (anchor == position) return;
+  // A selection that reached to the end has grown.
+  reader.setPosition(anchor);
+  reader.setPosition(position, QTextCursor::KeepAnchor);
+  setTextCursor(reader);
 }
 
 }  // namespace ui

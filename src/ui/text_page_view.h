@@ -16,8 +16,10 @@ class TextPageView : public QPlainTextEdit {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  bool AtEnd() const;
   void Collect(const core::TextPage::Change& change);
   void Refresh();
   void RemoveFirst(std::size_t lines);

@@ -48,8 +48,8 @@ class Session {
   }
 
   bool Loading() const { return !loaded_; }
-  const Configuration::Loaded& Loaded() const { return *loaded_; }
-  const Settings& settings() const { return loaded_->settings; }
+  const Configuration::Loaded& Loaded() const { return loaded_.value(); }
+  const Settings& settings() const { return loaded_.value().settings; }
 
  private:
   platform::sim::World& world_;

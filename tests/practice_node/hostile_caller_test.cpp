@@ -85,8 +85,8 @@ TEST_F(HostileCallerTest, ACallerWhoVanishesInTheMiddleLeavesNothing) {
 
 TEST_F(HostileCallerTest, ACrowdIsBounded) {
   StartNode({});
-  std::vector<std::unique_ptr<Visitor>> crowd;
-  for (int i = 0; i < 210; ++i) crowd.push_back(std::make_unique<Visitor>(world));
+  std::vector<std::unique_ptr<Visitor>> crowd(210);
+  for (auto& each : crowd) each = std::make_unique<Visitor>(world);
   EXPECT_EQ(node->Connections(), 200u);
   EXPECT_NE(crowd.back()->refused, 0);
   crowd.front()->Leave();

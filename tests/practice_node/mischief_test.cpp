@@ -139,7 +139,7 @@ TEST_F(MischiefTest, AFloodOfThatManyMegabytesIsOneLineAndThenLifeGoesOn) {
   ASSERT_GE(lines.size(), 4u);
   const auto flood = lines.end() - 3;
   EXPECT_THAT(flood[-1], EndsWith("dxspider >"));
-  EXPECT_TRUE(flood[0] == std::string(3 * 1024 * 1024, 'x'));
+  EXPECT_TRUE(flood[0] == std::string(std::size_t{3} * 1024 * 1024, 'x'));
   EXPECT_THAT(flood[1], StartsWith("DX de "));
   EXPECT_THAT(flood[2], StartsWith("DX de "));
 }

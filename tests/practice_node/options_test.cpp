@@ -41,11 +41,12 @@ TEST(OptionsTest, AllStartsTheSevenInTheirOrder) {
 }
 
 TEST(OptionsTest, EveryOptionArrives) {
+  constexpr std::string_view mischief =
+      "--misbehave=nuls,escapes,iac,no-line-ends,close,refuse,silent,stall,"
+      "close-after=4,flood=100";
   const auto parsed =
       Parse({"--address=0.0.0.0", "--call=db0x", "--rate=0.5", "--seed=7", "--play=f.txt", "--loop",
-             "--version-string=1.55", "--password=x=y", "--refuse-arpc",
-             "--misbehave=nuls,escapes,iac,no-line-ends,close,refuse,silent,stall,"
-             "close-after=4,flood=100"});
+             "--version-string=1.55", "--password=x=y", "--refuse-arpc", mischief});
   ASSERT_EQ(parsed.wrong, "");
   const Options& options = parsed.options;
   EXPECT_EQ(options.address, "0.0.0.0");

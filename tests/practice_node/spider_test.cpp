@@ -12,6 +12,7 @@ std::string WithoutBlanks(std::string text) {
 
 std::vector<std::string> Labels(const std::vector<std::string>& lines) {
   std::vector<std::string> labels;
+  labels.reserve(lines.size());
   for (const auto& line : lines) labels.push_back(line.substr(0, line.find(':')));
   return labels;
 }

@@ -1,0 +1,71 @@
+#include <chrono>
+
+#include "program/program.h"
+
+using namespace std::chrono_literals;
+
+namespace program {
+namespace {
+
+using platform::Answer;
+using platform::Delay;
+
+constexpr auto kPause = 250ms;
+constexpr auto kClosingWait = 2000ms;
+
+}  // namespace
+
+void Program::RequestClose(Close how) {
+  if (ending_) return;
+  ending_ = true;
+  if (Loading) {
+    Quit();
+    return;
+  }
+  tasks_.Start("ShutDown", ShutDown(how));
+}
+
+platform::Task<> Program::ShutDown(Close how) {
+  if (how == Close::Ask && !settings.QuietExit) {
+    const bool agreed = co_await UserAgrees();
+    if (!agreed) {
+      ending_ = false;
+      co_return;
+    }
+  }
+  session.connection.AutoReconnect.Value.Set(false);
+  if (WindowHasMoved()) {
+    WriteCfg();
+    co_await Delay(4 * kPause);
+  }
+  if (session.WinsockOut->State() == platform::SocketState::Connected) {
+    session.outgoing.Send("bye");
+    co_await Delay(6 * kPause);
+  } else {
+    session.connection.ForceClose();
+  }
+  co_await Delay(kClosingWait);
+  session.WinsockOut->Close();
+  Quit();
+}
+
+platform::Task<bool> Program::UserAgrees() {
+  platform::Message question{.title = "Molva Desk",
+                             .text = "Do you really want to end this program? ",
+                             .kind = platform::Message::Kind::Plain,
+                             .answers = {Answer::Ok, Answer::Cancel}};
+  const Answer answer = co_await platform_.dialogs.Ask(std::move(question));
+  co_return answer == Answer::Ok;
+}
+
+bool Program::WindowHasMoved() const {
+  const FormPlace& now = form.Get();
+  return now.left != settings.FormLeft || now.top != settings.FormTop;
+}
+
+void Program::Quit() {
+  ending_ = true;
+  needs_.quit();
+}
+
+}  // namespace program

@@ -1,0 +1,140 @@
+#include <array>
+#include <random>
+
+#include "core/password_file.h"
+#include "core/quoted.h"
+#include "program/program.h"
+
+namespace program {
+namespace {
+
+using session::TimerId;
+
+struct DataFile {
+  const char* name;
+  std::string_view content;
+};
+
+// What the program brings along. A file that is missing is put in place at every start.
+constexpr std::array kDataFiles = {
+    DataFile{"endpoints.cfg",
+             "\"MOLVA-1\",\"\"\r\n\"Node List\",\"\"\r\n\"Data\",\"\"\r\n\"Version\",\"\"\r\n"},
+};
+
+// Picked once a run, so that many clients of one node don't return together after its failure.
+platform::Milliseconds RetryInterval(std::uint32_t seed) {
+  std::mt19937 random(seed);
+  return platform::Milliseconds{std::uniform_int_distribution<int>(55000, 65000)(random)};
+}
+
+}  // namespace
+
+struct Program::Step {
+  const char* name;
+  platform::Task<> (Program::*run)();
+};
+
+void Program::Start() { tasks_.Start("Start", StartUp()); }
+
+platform::Task<> Program::StartUp() {
+  static constexpr std::array kSteps = {
+      Step{"PrepareFolder", &Program::PrepareFolder},
+      Step{"ReadDebugCfg", &Program::ReadDebugCfg},
+      Step{"BringDataFiles", &Program::BringDataFiles},
+      Step{"ReadCfg", &Program::ReadCfg},
+      Step{"ReadPassword", &Program::ReadPassword},
+      Step{"PrepareSession", &Program::PrepareSession},
+      Step{"EndLoading", &Program::EndLoading},
+      Step{"AskWhatIsMissing", &Program::AskWhatIsMissing},
+      Step{"AutoStart", &Program::AutoStart},
+  };
+  for (const Step& step : kSteps) {
+    if (ending_) co_return;
+    std::string fault;
+    try {
+      co_await (this->*step.run)();
+    } catch (const std::exception& known) {
+      fault = known.what();
+    }
+    if (!fault.empty()) errorLog.ReportError(std::string("load form1 ") + step.name, 0, fault);
+  }
+}
+
+platform::Task<> Program::PrepareFolder() {
+  folderIsNew_ = !platform_.files.Exists(folder_);
+  platform_.files.MakeFolder(folder_);
+  Primary = platform_.files.Lock(Path("molva.lock"));
+  configuration_ = std::make_unique<core::Configuration>(
+      platform_.files, platform_.dialogs, calendar, errorLog, folder_, Primary, folderIsNew_);
+  CaptionSetup();
+  co_return;
+}
+
+// The switch lasts for one run.
+platform::Task<> Program::ReadDebugCfg() {
+  const auto content = platform_.files.Read(Path("debug.cfg"));
+  const auto lines = core::SplitLines(content.bytes);
+  errorLog.DebugMode = !lines.empty() && lines.front() == core::QuotedField("yes");
+  platform_.files.Replace(Path("debug.cfg"), core::Record({core::QuotedField("no")}));
+  co_return;
+}
+
+platform::Task<> Program::BringDataFiles() {
+  for (const DataFile& file : kDataFiles)
+    if (!platform_.files.Exists(Path(file.name)))
+      platform_.files.Replace(Path(file.name), file.content);
+  endpoints = core::ReadEndpoints(platform_.files, folder_);
+  co_return;
+}
+
+platform::Task<> Program::ReadCfg() {
+  core::Configuration::Loaded loaded = co_await configuration_->ReadCfg();
+  if (loaded.exit) {
+    Quit();
+    co_return;
+  }
+  settings = std::move(loaded.settings);
+  configurationIsNew_ = loaded.created;
+}
+
+platform::Task<> Program::ReadPassword() {
+  session.outgoing.NodePassword = core::ReadPassword(platform_.files, Path("molva.pwd"));
+  co_return;
+}
+
+platform::Task<> Program::PrepareSession() {
+  session.connection.AutoReconnect.Value.Set(settings.AutoReconnect);
+  session.state.UserDisconnected = true;
+  session.connection.EnsureNode();
+  session.keepAlive.KeepAliveRx = settings.TelnetKA != "Tx";
+  session.keepAlive.KeepAliveMinutes = settings.TelnetKAtime;
+  session.timers.SetInterval(TimerId::Reconnect, RetryInterval(needs_.seed));
+  form.Set({.left = settings.FormLeft,
+            .top = settings.FormTop,
+            .width = settings.FormWidth,
+            .height = settings.FormHeight,
+            .inputHeight = settings.InputHeight,
+            .maximised = settings.FormMaximized});
+  ApplySettings();
+  co_return;
+}
+
+platform::Task<> Program::EndLoading() {
+  Loading = false;
+  session.timers.Begin();
+  co_return;
+}
+
+// None of these forms holds anything up.
+platform::Task<> Program::AskWhatIsMissing() {
+  if (settings.GmtOffset.empty()) offsetForm.Show();
+  if (configurationIsNew_) userInfo.Show();
+  co_return;
+}
+
+platform::Task<> Program::AutoStart() {
+  if (settings.AutoStart) session.connection.cmdConnect.Press();
+  co_return;
+}
+
+}  // namespace program

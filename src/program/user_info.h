@@ -1,0 +1,67 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "core/controls.h"
+#include "core/settings.h"
+
+namespace program {
+
+// frmSettings: who the operator is and where. Its fields are copies; OK checks and stores them.
+class UserInfo {
+ public:
+  struct Needs {
+    std::function<std::string()> password;               // the stored one
+    std::function<void(const std::string& password)> save;  // the settings have been changed
+  };
+
+  // The settings outlive the form.
+  UserInfo(core::Settings& settings, Needs needs);
+
+  core::Property<bool> Open{false};
+  core::TextBox txtCall;
+  core::TextBox txtName;
+  core::TextBox txtQth;
+  core::TextBox txtGrid;
+  core::TextBox txtHomeNode;
+  core::TextBox txtEmail;
+  core::TextBox txtPassword;
+  // Latitude, then longitude: degrees, minutes, letter. All six may be empty.
+  std::array<core::TextBox, 6> txtLatLong;
+  core::Check chkSystemZone;
+  core::TextBox txtGmtOffset;  // hours to add to local time; of no account while the zone is ticked
+  core::Label lblProblem;      // what is to be put right before it can be stored
+  core::Button cmdOk;
+  core::Button cmdCancel;
+
+  // What stands on the page of settings.
+  core::Label lblWho;    // the call, the name and the QTH
+  core::Button cmdOpen;  // opens the form
+
+  // Fills the fields and opens the form. One that is open stays as the user has it.
+  void Show();
+  // Puts the settings into lblWho.
+  void Refresh();
+
+ private:
+  void PressOk();
+  std::string Problem() const;
+  void Store();
+  std::string LocationText() const;
+
+  core::Settings& settings_;
+  Needs needs_;
+  platform::Registration ok_;
+  platform::Registration cancel_;
+  platform::Registration opening_;
+};
+
+// Whether a text can be a call: letters, digits, "/" and a "-" before its SSID, with at least one
+// letter and one digit among them.
+bool IsCall(std::string_view text);
+// Whether it is a locator of four or six characters, in either case.
+bool IsGrid(std::string_view text);
+
+}  // namespace program

@@ -1,0 +1,66 @@
+#include "ui/form.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "ui/bind.h"
+
+namespace ui {
+namespace {
+
+QString SpokenName(QString label) { return label.remove(QLatin1Char('&')); }
+
+}  // namespace
+
+QFormLayout* MakeForm(QWidget* dialog) {
+  auto* form = new QFormLayout(dialog);
+  form->setContentsMargins(16, 16, 16, 16);
+  form->setHorizontalSpacing(12);
+  form->setVerticalSpacing(8);
+  form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+  return form;
+}
+
+QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& model,
+                    Frames& frames) {
+  auto* field = new QLineEdit(form->parentWidget());
+  field->setAccessibleName(SpokenName(label));
+  form->addRow(label, field);
+  BindTextBox(field, model, frames);
+  return field;
+}
+
+void AddProblem(QFormLayout* form, core::Label& model, Frames& frames) {
+  auto* problem = new QLabel(form->parentWidget());
+  problem->setProperty("bad", true);
+  problem->setWordWrap(true);
+  problem->setAccessibleName(QObject::tr("What is to be put right"));
+  form->addRow(problem);
+  BindLabel(problem, model, frames);
+  BindProperty<std::string>(problem, model.Caption, frames, [problem](const std::string& text) {
+    problem->setVisible(!text.empty());
+    QAccessibleEvent alert(problem, QAccessible::Alert);
+    if (!text.empty()) QAccessible::updateAccessibility(&alert);
+  });
+}
+
+void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, Frames& frames) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(8);
+  row->addStretch();
+  for (core::Button* model : models) {
+    auto* button = new QPushButton(form->parentWidget());
+    const bool first = model == *models.begin();
+    button->setProperty("primary", first);
+    button->setDefault(first);
+    button->setAutoDefault(first);
+    BindButton(button, *model, frames);
+    button->setAccessibleName(button->text());
+    row->addWidget(button);
+  }
+  form->addRow(row);
+}
+
+}  // namespace ui

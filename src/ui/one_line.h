@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <string_view>
+
+#include "core/text.h"
+
+namespace ui {
+
+// Text from outside as one line of the window: what would break or turn the line is shown as a
+// symbol, and what comes behind the first `longest` bytes as an ellipsis.
+QString OneLine(std::string_view bytes, core::Position longest);
+
+}  // namespace ui

@@ -1,0 +1,67 @@
+#include "ui/user_info_dialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <array>
+
+#include "ui/bind.h"
+#include "ui/form.h"
+
+namespace ui {
+namespace {
+
+constexpr int kWidth = 460;
+constexpr int kDegreesWidth = 56;
+
+}  // namespace
+
+UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget* parent)
+    : QDialog(parent) {
+  setWindowTitle(tr("User information"));
+  setMinimumWidth(kWidth);
+  QFormLayout* form = MakeForm(this);
+  AddField(form, tr("&Call"), model.txtCall, frames)->setFocus();
+  AddField(form, tr("&Name"), model.txtName, frames);
+  AddField(form, tr("&QTH"), model.txtQth, frames);
+  AddField(form, tr("&Grid"), model.txtGrid, frames);
+  AddLocation(form, model, frames);
+  AddField(form, tr("&Home node"), model.txtHomeNode, frames);
+  AddField(form, tr("&E-mail"), model.txtEmail, frames);
+  AddField(form, tr("Node &password"), model.txtPassword, frames)
+      ->setEchoMode(QLineEdit::Password);
+  AddZone(form, model, frames);
+  AddProblem(form, model.lblProblem, frames);
+  AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
+  BindDialog(this, model.Open, model.cmdCancel, frames);
+}
+
+void UserInfoDialog::AddLocation(QFormLayout* form, program::UserInfo& model, Frames& frames) {
+  const std::array names = {tr("Latitude, degrees"),   tr("Latitude, minutes"),
+                            tr("Latitude, N or S"),    tr("Longitude, degrees"),
+                            tr("Longitude, minutes"),  tr("Longitude, E or W")};
+  const std::array units = {tr("°"), tr("′"), tr("N/S"), tr("°"), tr("′"), tr("E/W")};
+  auto* row = new QHBoxLayout;
+  row->setSpacing(4);
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    auto* part = new QLineEdit(this);
+    part->setAccessibleName(names[i]);
+    part->setFixedWidth(kDegreesWidth);
+    BindTextBox(part, model.txtLatLong[i], frames);
+    row->addWidget(part);
+    row->addWidget(new QLabel(units[i], this));
+  }
+  row->addStretch();
+  form->addRow(tr("Location"), row);
+}
+
+void UserInfoDialog::AddZone(QFormLayout* form, program::UserInfo& model, Frames& frames) {
+  auto* zone = new QCheckBox(this);
+  BindCheck(zone, model.chkSystemZone, frames);
+  form->addRow(tr("Time zone"), zone);
+  QLineEdit* hours = AddField(form, tr("Hours to G&MT"), model.txtGmtOffset, frames);
+  hours->setPlaceholderText(tr("hours to add to local time, for example 5 or -5.5"));
+  BindProperty<bool>(hours, model.chkSystemZone.Value, frames,
+                     [hours](bool system) { hours->setEnabled(!system); });
+}
+
+}  // namespace ui

@@ -1,0 +1,85 @@
+#include <QAccessible>
+#include <QLabel>
+#include <functional>
+#include <map>
+
+#include "gui/desk.h"
+
+// What a screen reader finds in the window.
+namespace gui {
+namespace {
+
+void Walk(QAccessibleInterface* each, const std::function<void(QAccessibleInterface&)>& visit) {
+  if (each == nullptr || !each->isValid() || each->state().invisible) return;
+  visit(*each);
+  for (int child = 0; child < each->childCount(); ++child) Walk(each->child(child), visit);
+}
+
+// What the user can go to, and what tells him something.
+bool Matters(const QAccessibleInterface& each) {
+  const auto* widget = qobject_cast<QWidget*>(each.object());
+  if (widget != nullptr && widget->isWindow()) return false;
+  // It goes by the name of its tab, which counts itself.
+  if (each.role() == QAccessible::PageTabList) return false;
+  const bool focusable = widget != nullptr && widget->focusPolicy() != Qt::NoFocus;
+  return focusable || each.role() == QAccessible::StaticText || each.role() == QAccessible::PageTab;
+}
+
+class NamesTest : public Desk {
+ protected:
+  std::map<QString, int> Names() {
+    std::map<QString, int> names;
+    Walk(QAccessible::queryAccessibleInterface(window.get()), [&](QAccessibleInterface& each) {
+      if (Matters(each)) ++names[each.text(QAccessible::Name)];
+    });
+    return names;
+  }
+};
+
+TEST_F(NamesTest, EverythingThatMattersHasANameOfItsOwn) {
+  Open();
+  LogIn();
+  for (int tab = 0; tab < Tabs().count(); ++tab) {
+    if (!Tabs().isTabEnabled(tab)) continue;
+    Tabs().setCurrentIndex(tab);
+    Run(100ms);
+    const auto names = Names();
+    EXPECT_GT(names.size(), 20U);
+    for (const auto& [name, count] : names)
+      EXPECT_TRUE(count == 1 && !name.trimmed().isEmpty()) << '"' << name.toStdString() << '"';
+  }
+}
+
+TEST_F(NamesTest, ALabelSaysWhatItIsAndWhatItShows) {
+  Open();
+  LogIn();
+  EXPECT_EQ(Named<QLabel>(*window, "Node")->accessibleName(), "Node: N0DE-1");
+  EXPECT_THAT(Named<QLabel>(*window, "State of the link")->accessibleName().toStdString(),
+              testing::StartsWith("State of the link: connected "));
+  EXPECT_THAT(Named<QLabel>(*window, "Time in UTC")->accessibleName().toStdString(),
+              testing::MatchesRegex("Time in UTC: 21:00:[0-9][0-9]"));
+}
+
+TEST_F(NamesTest, NoLabelHidesItsTextBehindItsName) {
+  Open();
+  LogIn();
+  for (const QLabel* label : window->findChildren<QLabel*>()) {
+    const QString name =
+        QAccessible::queryAccessibleInterface(const_cast<QLabel*>(label))->text(QAccessible::Name);
+    // An "&" marks the key of a field.
+    EXPECT_TRUE(name.contains(label->text().remove('&'))) << name.toStdString();
+  }
+}
+
+TEST_F(NamesTest, WhatCannotBeUsedSaysWhy) {
+  Open();
+  for (const QWidget* each : window->findChildren<QPushButton*>()) {
+    const bool speaks = !each->toolTip().isEmpty();
+    EXPECT_TRUE(!each->isVisible() || each->isEnabled() || speaks)
+        << each->accessibleName().toStdString();
+  }
+  EXPECT_FALSE(Button("Nodes").isEnabled());
+}
+
+}  // namespace
+}  // namespace gui

@@ -1,0 +1,66 @@
+#include "program/chain.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+#include "program/desk.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+class ChainTest : public testing::Test {
+ protected:
+  ChainTest() {
+    desk.HasUsualConfiguration();
+    desk.Start().session.intake.onClaimed = [this](int row, std::string_view) {
+      claimedBy = chain.Name(row);
+    };
+  }
+
+  // The name of the row that claims the line; empty if none does.
+  std::string Claims(std::string_view line) {
+    claimedBy.clear();
+    desk.program->session.intake.InputLine(line);
+    return claimedBy;
+  }
+
+  Desk desk;
+  program::LineChain chain{*desk.program};
+  std::string claimedBy;
+};
+
+TEST_F(ChainTest, HasItsSixtyFiveRowsInTheirPlaces) {
+  EXPECT_EQ(chain.Rows(), 65);
+  EXPECT_EQ(chain.Name(1), "TncDisconnectNotice");
+  EXPECT_EQ(chain.Name(7), "dx");
+  EXPECT_EQ(chain.Name(15), "LoginPrompt");
+  EXPECT_EQ(chain.Name(18), "Latency");
+  EXPECT_EQ(chain.Name(54), "ArpcReply");
+  EXPECT_EQ(chain.Name(65), "LoginSequence");
+  EXPECT_EQ(chain.FirstRowForSession(), 18);
+}
+
+TEST_F(ChainTest, SpotLineEndsAtItsRowWhateverStandsInIt) {
+  EXPECT_EQ(Claims("DX de K1TST:  14025.0  3Y0J   login: please   2148Z"), "dx");
+  EXPECT_EQ(Claims("DX deeper than that"), "");
+}
+
+TEST_F(ChainTest, QrxIsClaimedBeforeTheLoginAndNotBehindIt) {
+  EXPECT_EQ(Claims("QRX please, restarting"), "QRX");
+  desk.program->session.state.LoggedIn = true;
+  EXPECT_EQ(Claims("QRX please, restarting"), "");
+}
+
+TEST_F(ChainTest, LoginPromptIsClaimedByItsRow) {
+  EXPECT_EQ(Claims("login:"), "LoginPrompt");
+  EXPECT_EQ(Claims("Please enter your callsign:"), "LoginPrompt");
+}
+
+TEST_F(ChainTest, GreetingIsReadAndClaimedByNone) {
+  EXPECT_EQ(Claims("K1TST-2 de N0NODE 20-Nov-2026 2148Z greetings"), "");
+  EXPECT_EQ(desk.program->session.state.ConnectedNodeCall, "N0NODE");
+}
+
+}  // namespace

@@ -1,0 +1,120 @@
+#include <gmock/gmock.h>
+
+#include "program/desk.h"
+
+using namespace std::chrono_literals;
+using platform::Answer;
+using program::Program;
+using testing::Contains;
+using testing::HasSubstr;
+
+namespace {
+
+class ShutDownTest : public testing::Test {
+ protected:
+  ShutDownTest() { desk.HasUsualConfiguration("\"AutoStart\",-1\r\n"); }
+
+  Program& StartConnected() {
+    desk.StartNode();
+    Program& program = desk.Start();
+    EXPECT_TRUE(desk.world.RunUntil([&] { return program.session.state.LoggedIn; }));
+    return program;
+  }
+
+  Desk desk;
+};
+
+TEST_F(ShutDownTest, AsksAndCancelKeepsTheProgramGoing) {
+  Program& program = StartConnected();
+  desk.world.dialogs.WillAnswer("Molva Desk", Answer::Cancel);
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(10s);
+  ASSERT_EQ(desk.world.dialogs.shown.size(), 1u);
+  EXPECT_EQ(desk.world.dialogs.shown[0].text, "Do you really want to end this program? ");
+  EXPECT_EQ(desk.world.dialogs.shown[0].kind, platform::Message::Kind::Plain);
+  EXPECT_EQ(desk.quits, 0);
+  EXPECT_TRUE(program.session.state.LoggedIn);
+}
+
+TEST_F(ShutDownTest, CancelledCloseMayBeAskedAgain) {
+  Program& program = StartConnected();
+  desk.world.dialogs.WillAnswer("Molva Desk", Answer::Cancel);
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(1s);
+  desk.world.dialogs.WillAnswer("Molva Desk", Answer::Ok);
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(10s);
+  EXPECT_EQ(desk.quits, 1);
+}
+
+TEST_F(ShutDownTest, SaysGoodbyeToTheNode) {
+  Program& program = StartConnected();
+  program.RequestClose(Program::Close::WithoutAsking);
+  desk.world.Run(10s);
+  EXPECT_TRUE(desk.world.dialogs.shown.empty());
+  EXPECT_THAT(program.session.outgoing.Text2.Lines(), Contains("   <- BYE"));
+  EXPECT_EQ(desk.quits, 1);
+}
+
+TEST_F(ShutDownTest, WithoutALinkItTakesAboutTwoSeconds) {
+  Program& program = desk.Start();
+  program.RequestClose(Program::Close::WithoutAsking);
+  desk.world.Run(1900ms);
+  EXPECT_EQ(desk.quits, 0);
+  desk.world.Run(200ms);
+  EXPECT_EQ(desk.quits, 1);
+}
+
+TEST_F(ShutDownTest, QuietExitDoesNotAsk) {
+  desk.HasUsualConfiguration("\"DoNotAsk\",-1\r\n");
+  desk.Start().RequestClose(Program::Close::Ask);
+  desk.world.Run(10s);
+  EXPECT_TRUE(desk.world.dialogs.shown.empty());
+  EXPECT_EQ(desk.quits, 1);
+}
+
+TEST_F(ShutDownTest, SecondRequestChangesNothing) {
+  Program& program = StartConnected();
+  program.RequestClose(Program::Close::WithoutAsking);
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(10s);
+  EXPECT_TRUE(desk.world.dialogs.shown.empty());
+  EXPECT_EQ(desk.quits, 1);
+}
+
+TEST_F(ShutDownTest, NothingReconnectsMeanwhile) {
+  Program& program = StartConnected();
+  program.RequestClose(Program::Close::WithoutAsking);
+  desk.world.Run(5min);
+  EXPECT_EQ(program.session.WinsockOut->State(), platform::SocketState::Closed);
+  EXPECT_EQ(desk.quits, 1);
+}
+
+TEST_F(ShutDownTest, DuringStartUpItEndsAtOnceAndWritesNothing) {
+  Desk fresh;
+  fresh.world.files.folders.insert(Desk::kFolder);
+  fresh.Start().RequestClose(Program::Close::Ask);
+  EXPECT_EQ(fresh.quits, 1);
+  fresh.world.Run(10s);
+  EXPECT_FALSE(fresh.world.files.Exists(fresh.File("molva.cfg")));
+}
+
+TEST_F(ShutDownTest, MovedWindowIsWritten) {
+  Program& program = desk.Start();
+  program.form.Set({.left = 150, .top = 300, .width = 15000, .height = 9000, .inputHeight = 3000});
+  program.RequestClose(Program::Close::WithoutAsking);
+  desk.world.Run(10s);
+  EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"FormTop\",300\r\n\"FormLeft\",150\r\n"));
+  EXPECT_EQ(desk.Start().form.Get().width, 15000);
+}
+
+TEST_F(ShutDownTest, UnmovedWindowIsNotWritten) {
+  Program& program = desk.Start();
+  desk.world.Run(10s);
+  const std::string before = desk.Content("molva.cfg");
+  program.RequestClose(Program::Close::WithoutAsking);
+  desk.world.Run(10s);
+  EXPECT_EQ(desk.Content("molva.cfg"), before);
+}
+
+}  // namespace

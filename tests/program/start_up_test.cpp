@@ -1,0 +1,161 @@
+#include <gmock/gmock.h>
+
+#include "program/desk.h"
+
+using namespace std::chrono_literals;
+using platform::Answer;
+using session::TimerId;
+using testing::HasSubstr;
+
+namespace {
+
+class StartUpTest : public testing::Test {
+ protected:
+  Desk desk;
+};
+
+TEST_F(StartUpTest, NewFolderGetsAConfigurationWithoutAQuestionAndTheUserFormOpens) {
+  program::Program& program = desk.Start();
+  EXPECT_TRUE(desk.world.dialogs.shown.empty());
+  EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"Gmt Offset\",\"Ok\"\r\n"));
+  EXPECT_TRUE(program.userInfo.Open.Get());
+  EXPECT_FALSE(program.offsetForm.Open.Get());
+  EXPECT_FALSE(program.Loading);
+}
+
+TEST_F(StartUpTest, CompleteConfigurationOpensNoDialog) {
+  desk.HasUsualConfiguration();
+  program::Program& program = desk.Start();
+  EXPECT_TRUE(desk.world.dialogs.shown.empty());
+  EXPECT_FALSE(program.userInfo.Open.Get());
+  EXPECT_FALSE(program.offsetForm.Open.Get());
+}
+
+TEST_F(StartUpTest, FolderThatWasThereIsAskedAboutAndNoEndsTheProgramAfterTwoSeconds) {
+  desk.world.files.folders.insert(Desk::kFolder);
+  desk.world.dialogs.WillAnswer("Configuration File Not Found - Create One?", Answer::No);
+  desk.Start();
+  EXPECT_EQ(desk.quits, 0);
+  desk.world.Run(2s);
+  EXPECT_EQ(desk.quits, 1);
+  EXPECT_FALSE(desk.world.files.Exists(desk.File("molva.cfg")));
+}
+
+TEST_F(StartUpTest, TimersWaitForTheEndOfTheStartUp) {
+  desk.world.files.folders.insert(Desk::kFolder);
+  program::Program& program = desk.Start();
+  desk.world.Run(1min);
+  EXPECT_TRUE(program.Loading);
+  EXPECT_EQ(program.session.linkText.lblclock[0].Caption.Get(), "");
+  desk.world.dialogs.AnswerNow("Configuration File Not Found - Create One?", Answer::Yes);
+  desk.world.Run(1s);
+  EXPECT_FALSE(program.Loading);
+  EXPECT_NE(program.session.linkText.lblclock[0].Caption.Get(), "");
+}
+
+TEST_F(StartUpTest, EmptyConfigurationEndsTheProgramAndTouchesNothing) {
+  desk.HasConfiguration("");
+  desk.Content("molva.cfg.bak") = "\"My Call\",\"K1TST\"\r\n";
+  desk.world.dialogs.WillAnswer("Molva Desk  -  Critical Error", Answer::Cancel);
+  desk.Start();
+  desk.world.Run(10s);
+  EXPECT_EQ(desk.quits, 1);
+  EXPECT_EQ(desk.Content("molva.cfg"), "");
+  EXPECT_EQ(desk.Content("molva.cfg.bak"), "\"My Call\",\"K1TST\"\r\n");
+}
+
+TEST_F(StartUpTest, EmptyGmtOffsetOpensItsFormWhichHoldsNothingUp) {
+  desk.HasConfiguration(
+      "\"My Call\",\"K1TST\"\r\n\"My Name\",\"A\"\r\n\"My QTH\",\"B\"\r\n\"AutoStart\",-1\r\n");
+  program::Program& program = desk.Start();
+  EXPECT_TRUE(program.offsetForm.Open.Get());
+  desk.StartNode();
+  EXPECT_TRUE(desk.world.RunUntil([&] { return program.session.state.LoggedIn; }));
+  program.offsetForm.chkSystemZone.UserSets(false);
+  program.offsetForm.txtHours.UserTypes("-5.5");
+  program.offsetForm.cmdOk.Press();
+  EXPECT_EQ(program.settings.GmtOffset, "-5.5");
+  desk.world.Run(3s);
+  EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"Gmt Offset\",\"-5.5\"\r\n"));
+}
+
+TEST_F(StartUpTest, DefaultNodeIsThePracticeNodeWhileNoHostIsKnown) {
+  desk.HasUsualConfiguration("\"AutoStart\",-1\r\n");
+  desk.StartNode();
+  program::Program& program = desk.Start();
+  EXPECT_EQ(program.settings.NodeCall, "N0DE-1");
+  EXPECT_EQ(program.settings.NodePort, "7373");
+  EXPECT_TRUE(desk.world.RunUntil([&] { return program.session.state.LoggedIn; }, 10s));
+}
+
+TEST_F(StartUpTest, DefaultNodeIsTheOneOfTheEndpointsOnceTheyNameIt) {
+  desk.HasUsualConfiguration();
+  desk.Content("endpoints.cfg") = "\"MOLVA-1\",\"node.example\"\r\n";
+  program::Program& program = desk.Start();
+  EXPECT_EQ(program.settings.NodeCall, "MOLVA-1");
+  EXPECT_EQ(program.settings.NodeHost, "node.example");
+  EXPECT_EQ(program.settings.NodePort, "23");
+}
+
+TEST_F(StartUpTest, MissingDataFileIsPutInPlaceAndAPresentOneStays) {
+  desk.HasUsualConfiguration();
+  desk.Start();
+  EXPECT_THAT(desk.Content("endpoints.cfg"), HasSubstr("\"MOLVA-1\",\"\""));
+  desk.Content("endpoints.cfg") = "mine";
+  desk.Start();
+  EXPECT_EQ(desk.Content("endpoints.cfg"), "mine");
+}
+
+TEST_F(StartUpTest, DebugSwitchLastsForOneRun) {
+  desk.HasUsualConfiguration();
+  desk.Content("debug.cfg") = "\"yes\"\r\n";
+  EXPECT_TRUE(desk.Start().errorLog.DebugMode);
+  EXPECT_EQ(desk.Content("debug.cfg"), "\"no\"\r\n");
+  EXPECT_FALSE(desk.Start().errorLog.DebugMode);
+}
+
+TEST_F(StartUpTest, SecondCopyIsSecondaryAndKeepsItsHandsOffTheFirstOnesFile) {
+  desk.HasUsualConfiguration();
+  const std::string first = desk.Content("molva.cfg");
+  desk.Content("molva2.cfg") = first;
+  desk.world.files.locks.insert(desk.File("molva.lock"));
+  program::Program& program = desk.Start();
+  EXPECT_FALSE(program.Primary);
+  EXPECT_EQ(program.settings.MyCall, "K1TST-16");
+  program.DelayedWriteCfg();
+  desk.world.Run(3s);
+  EXPECT_EQ(desk.Content("molva.cfg"), first);
+  EXPECT_NE(desk.Content("molva2.cfg"), first);
+}
+
+TEST_F(StartUpTest, RetryIntervalIsPickedOnceForARunBetween55And65Seconds) {
+  desk.HasUsualConfiguration();
+  const session::Timers& timers = desk.Start().session.timers;
+  const auto interval = timers.Interval(TimerId::Reconnect);
+  EXPECT_GE(interval, 55s);
+  EXPECT_LE(interval, 65s);
+  desk.program->session.connection.cmdConnect.Press();
+  desk.world.Run(10min);
+  EXPECT_EQ(timers.Interval(TimerId::Reconnect), interval);
+}
+
+TEST_F(StartUpTest, ManyChangesCostOneWriteTwoSecondsAfterTheLast) {
+  desk.HasUsualConfiguration();
+  program::Program& program = desk.Start();
+  const std::string before = desk.Content("molva.cfg");
+  program.settings.MyQth = "Elsewhere";
+  program.DelayedWriteCfg();
+  desk.world.Run(1500ms);
+  program.DelayedWriteCfg();
+  desk.world.Run(1900ms);
+  EXPECT_EQ(desk.Content("molva.cfg"), before);
+  desk.world.Run(200ms);
+  EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"My QTH\",\"Elsewhere\""));
+}
+
+TEST_F(StartUpTest, TitleNamesTheVersionAndTheCall) {
+  desk.HasUsualConfiguration();
+  EXPECT_EQ(desk.Start().title.Get(), "Molva Desk 2.4315 @ K1TST-2");
+}
+
+}  // namespace

@@ -1,0 +1,168 @@
+#include "session_fixture.h"
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+session::Chain::Claim TailIf(bool claimed) {
+  return claimed ? session::Chain::Claim::Tail : session::Chain::Claim::None;
+}
+
+}  // namespace
+
+void Station::Log::Add(std::string_view source, std::string_view text) {
+  if (on) entries.push_back(std::string(source) + ": " + std::string(text));
+}
+
+Station::Lines Station::Log::Of(std::string_view source) const {
+  const std::string start = std::string(source) + ": ";
+  Lines lines;
+  for (const auto& entry : entries)
+    if (entry.starts_with(start)) lines.push_back(entry.substr(start.size()));
+  return lines;
+}
+
+Station::Station()
+    : settings(OwnSettings()),
+      node(world, "10.1.2.3", 7300),
+      program(world.platform(), calendar, settings, Needs()) {
+  world.network.AddHost("node.example", "10.1.2.3");
+  AddRows();
+  watching_ = program.outgoing.Text2.Observe([this](const core::TextPage::Change& change) {
+    const auto& lines = program.outgoing.Text2.Lines();
+    for (std::size_t i = lines.size() - change.added; i < lines.size(); ++i)
+      log.Add("raw view", lines[i]);
+  });
+  program.keepAlive.KeepAliveMinutes = 0;  // a node may be silent for as long as a test likes
+  program.timers.Begin();
+}
+
+core::Settings Station::OwnSettings() {
+  core::Settings own;
+  own.MyCall = "K1TST-2";
+  own.MyName = "ANNA";
+  own.MyQth = "Newington, CT";
+  own.NodeCall = "N0NODE";
+  own.NodeHost = "node.example";
+  own.NodePort = "7300";
+  return own;
+}
+
+session::Session::Needs Station::Needs() {
+  return {.chain = chain,
+          .feed = log,
+          .defaultNode =
+              [] {
+                return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};
+              },
+          .askUserInfo = [this] { ++askedUserInfo; },
+          .delayedWriteCfg = [this] { ++configurationWrites; },
+          .onFault =
+              [this](std::string_view name, std::string_view what) {
+                faults.push_back(std::string(name) + ": " + std::string(what));
+              }};
+}
+
+Station::Claim Station::Offer(const std::string& row, std::string_view line) {
+  log.Add(row, line);
+  const auto handler = on.find(row);
+  return handler == on.end() ? Claim::None : handler->second(line);
+}
+
+void Station::AddRows() {
+  const auto own = [this](const char* name) {
+    chain.Add(name, [this, name](std::string_view line) { return Offer(name, line); });
+  };
+  chain.Add("QRX", [this](std::string_view line) { return TailIf(program.connection.QRX(line)); });
+  chain.Add("ConnectToNode", [this](std::string_view line) {
+    return TailIf(program.connection.ConnectToNode(line));
+  });
+  own("First");
+  chain.Add("LoginPrompt",
+            [this](std::string_view line) { return TailIf(program.login.LoginPrompt(line)); });
+  own("Second");
+  own("Third");
+  chain.Add("updatetxtLoginMsg", [this](std::string_view line) {
+    program.login.updatetxtLoginMsg(line);
+    return Claim::None;
+  });
+  chain.firstRowForSession = 5;
+}
+
+void Station::LetPassUntil(platform::Milliseconds sincePress) {
+  world.Run(pressedAt_ + sincePress - world.scheduler.Now());
+}
+
+void Station::PressConnect() {
+  pressedAt_ = world.scheduler.Now();
+  program.connection.cmdConnect.Press();
+}
+
+void Station::PressDisconnect() { program.connection.cmdDisconnect.Press(); }
+
+void Station::Connect() {
+  PressConnect();
+  LetPass(2s);
+}
+
+void Station::LogIn() {
+  Connect();
+  ReceiveBytes("login: ");
+  Receive("");
+  Receive("K1TST-2 de N0NODE 20-Nov-2026 2100Z dxspider >");
+  log.entries.clear();
+  ExpectSent({"K1TST-2"});
+}
+
+void Station::LetRetry() {
+  const auto before = node.called.size();
+  world.RunUntil([&] { return node.called.size() > before; }, 69s);
+  LetPass(1s);
+}
+
+void Station::ReceiveBytes(std::string_view bytes) {
+  node.Say(bytes);
+  LetPass(20ms);
+}
+
+void Station::NodeCloses() {
+  node.Close();
+  LetPass(20ms);
+}
+
+void Station::NodeResets() {
+  node.Reset();
+  LetPass(20ms);
+}
+
+Station::Lines Station::Sent() {
+  LetPass(5ms);
+  return node.TakeLines();
+}
+
+void Station::ExpectSent(const Lines& lines, const char* file, int line) {
+  const Lines sent = Sent();
+  if (sent == lines) return;
+  ADD_FAILURE_AT(file, line) << "sent: " << testing::PrintToString(sent)
+                             << "\nexpected: " << testing::PrintToString(lines);
+}
+
+platform::Task<> Station::Step(std::string name, platform::Milliseconds lasting) {
+  log.Add("begins", name);
+  co_await platform::Delay(lasting);
+  log.Add("ends", name);
+}
+
+Station::Lines Station::RawView() const {
+  const auto& lines = program.outgoing.Text2.Lines();
+  return {lines.begin(), lines.end()};
+}
+
+long Station::CountInRawView(std::string_view text) const {
+  const auto& lines = program.outgoing.Text2.Lines();
+  return std::count_if(lines.begin(), lines.end(), [text](const std::string& line) {
+    return line.find(text) != std::string::npos;
+  });
+}
