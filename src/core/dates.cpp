@@ -21,21 +21,13 @@ using std::chrono::sys_days;
 using std::chrono::year;
 using std::chrono::year_month_day;
 
-std::string TwoDigits(unsigned number) {
-  return Digits(number, 2);
-}
+std::string TwoDigits(unsigned number) { return Digits(number, 2); }
 
-std::string YearDigits(year number) {
-  return Digits(static_cast<unsigned>(int{number}), 4);
-}
+std::string YearDigits(year number) { return Digits(static_cast<unsigned>(int{number}), 4); }
 
-std::string DayDigits(day number) {
-  return TwoDigits(unsigned{number});
-}
+std::string DayDigits(day number) { return TwoDigits(unsigned{number}); }
 
-std::string MonthName(month number) {
-  return std::string(kMonthNames[unsigned{number}]);
-}
+std::string MonthName(month number) { return std::string(kMonthNames[unsigned{number}]); }
 
 std::string DateText(year_month_day date) {
   return DayDigits(date.day()) + '-' + MonthName(date.month()) + '-' + YearDigits(date.year());
@@ -52,9 +44,7 @@ std::string HoursAndMinutes(platform::UtcTime time) {
          TwoDigits(static_cast<unsigned>(clock.minutes().count()));
 }
 
-int DayNumber(sys_days date) {
-  return static_cast<int>(date.time_since_epoch().count());
-}
+int DayNumber(sys_days date) { return static_cast<int>(date.time_since_epoch().count()); }
 
 minutes HoursOffset(std::string_view hours) {
   return minutes{std::lround(std::clamp(Val(hours), -24.0, 24.0) * 60)};
@@ -87,9 +77,7 @@ std::optional<year> YearOf(std::string_view text, year present) {
 
 }  // namespace
 
-std::string EnglishDate(int dayNumber) {
-  return DateText(sys_days{days{dayNumber}});
-}
+std::string EnglishDate(int dayNumber) { return DateText(sys_days{days{dayNumber}}); }
 
 std::string TimeStamp(LocalTime time) {
   const auto midnight = floor<days>(time);
@@ -110,13 +98,9 @@ platform::UtcTime Calendar::GmtNow() const {
   return platform::UtcTime{Now().time_since_epoch() + HoursOffset(GmtOffset)};
 }
 
-std::string Calendar::GmtTime() const {
-  return HoursAndMinutes(GmtNow()) + "Z> ";
-}
+std::string Calendar::GmtTime() const { return HoursAndMinutes(GmtNow()) + "Z> "; }
 
-std::string Calendar::GmtDate() const {
-  return DayAndMonth(GmtNow());
-}
+std::string Calendar::GmtDate() const { return DayAndMonth(GmtNow()); }
 
 std::string Calendar::GmtString() const {
   const platform::UtcTime now = GmtNow();
@@ -128,9 +112,7 @@ std::string Calendar::EnglishDate(Zone zone) const {
   return DateText(floor<days>(GmtNow()));
 }
 
-int Calendar::Date2Julian() const {
-  return DayNumber(floor<days>(GmtNow()));
-}
+int Calendar::Date2Julian() const { return DayNumber(floor<days>(GmtNow())); }
 
 int Calendar::ConvertDate2Julian(std::string_view date) const {
   std::string_view rest = Trim(date);

@@ -10,13 +10,9 @@ namespace {
 
 constexpr int kMinutesInDegree = 60;
 
-bool IsNumeral(char byte) {
-  return (byte >= '0' && byte <= '9') || byte == '.';
-}
+bool IsNumeral(char byte) { return (byte >= '0' && byte <= '9') || byte == '.'; }
 
-bool IsLetter(char byte) {
-  return byte >= 'A' && byte <= 'Z';
-}
+bool IsLetter(char byte) { return byte >= 'A' && byte <= 'Z'; }
 
 // One half of a location: the minutes of arc up to its letter.
 struct Half {

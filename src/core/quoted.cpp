@@ -36,9 +36,7 @@ std::string NumberField(double number) {
   return {digits.data(), end.ptr};
 }
 
-std::string BooleanField(bool value) {
-  return value ? "#TRUE#" : "#FALSE#";
-}
+std::string BooleanField(bool value) { return value ? "#TRUE#" : "#FALSE#"; }
 
 std::string Record(std::initializer_list<std::string_view> fields) {
   std::string line;

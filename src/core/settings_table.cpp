@@ -266,9 +266,7 @@ static_assert(NoKeyTwice());
 
 }  // namespace
 
-std::span<const SettingRow> SettingRows() {
-  return kRows;
-}
+std::span<const SettingRow> SettingRows() { return kRows; }
 
 const SettingRow* FindSettingRow(std::string_view key) {
   const auto place = std::lower_bound(

@@ -30,30 +30,20 @@ void ReadValue(const SettingRow& row, std::string_view value, std::string& membe
   member = row.form == Form::UpperCase ? UCase(value) : std::string(value);
 }
 
-void ReadValue(const SettingRow&, std::string_view value, int& member) {
-  member = ValInt(value);
-}
+void ReadValue(const SettingRow&, std::string_view value, int& member) { member = ValInt(value); }
 
-void ReadValue(const SettingRow&, std::string_view value, double& member) {
-  member = Val(value);
-}
+void ReadValue(const SettingRow&, std::string_view value, double& member) { member = Val(value); }
 
 void ReadValue(const SettingRow& row, std::string_view value, bool& member) {
   const bool firstWord = row.form == Form::Words && SameIgnoringCase(value, row.words[0]);
   member = firstWord || IsTrue(value);
 }
 
-std::string ValueField(const SettingRow&, const std::string& member) {
-  return QuotedField(member);
-}
+std::string ValueField(const SettingRow&, const std::string& member) { return QuotedField(member); }
 
-std::string ValueField(const SettingRow&, int member) {
-  return std::to_string(member);
-}
+std::string ValueField(const SettingRow&, int member) { return std::to_string(member); }
 
-std::string ValueField(const SettingRow&, double member) {
-  return NumberField(member);
-}
+std::string ValueField(const SettingRow&, double member) { return NumberField(member); }
 
 std::string ValueField(const SettingRow& row, bool member) {
   if (row.form == Form::Boolean) return BooleanField(member);
@@ -61,13 +51,9 @@ std::string ValueField(const SettingRow& row, bool member) {
   return member ? "-1" : "0";
 }
 
-bool Always(const Settings&, const SettingRow&) {
-  return true;
-}
+bool Always(const Settings&, const SettingRow&) { return true; }
 
-bool Never(const Settings&, const SettingRow&) {
-  return false;
-}
+bool Never(const Settings&, const SettingRow&) { return false; }
 
 bool IfChanged(const Settings& settings, const SettingRow& row) {
   return std::visit(

@@ -12,13 +12,9 @@ std::size_t Held(Position count, std::size_t most) {
   return count < 0 ? 0 : std::min(static_cast<std::size_t>(count), most);
 }
 
-bool EqualIgnoringCase(char a, char b) {
-  return UCase(a) == UCase(b);
-}
+bool EqualIgnoringCase(char a, char b) { return UCase(a) == UCase(b); }
 
-bool IsDigit(char byte) {
-  return byte >= '0' && byte <= '9';
-}
+bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
 
 // from_chars knows "inf", "nan" and a sign of its own, which are no numbers here.
 bool BeginsNumber(std::string_view text) {
@@ -35,9 +31,7 @@ Position FindFrom(Position start, std::string_view text, Find find) {
 
 }  // namespace
 
-Position Len(std::string_view text) {
-  return static_cast<Position>(text.size());
-}
+Position Len(std::string_view text) { return static_cast<Position>(text.size()); }
 
 std::string_view Left(std::string_view text, Position count) {
   return text.substr(0, Held(count, text.size()));
@@ -47,18 +41,14 @@ std::string_view Right(std::string_view text, Position count) {
   return text.substr(text.size() - Held(count, text.size()));
 }
 
-std::string_view Mid(std::string_view text, Position start) {
-  return Mid(text, start, Len(text));
-}
+std::string_view Mid(std::string_view text, Position start) { return Mid(text, start, Len(text)); }
 
 std::string_view Mid(std::string_view text, Position start, Position count) {
   if (start < 1 || start > Len(text)) return {};
   return Left(text.substr(static_cast<std::size_t>(start - 1)), count);
 }
 
-Position InStr(std::string_view text, std::string_view what) {
-  return InStr(1, text, what);
-}
+Position InStr(std::string_view text, std::string_view what) { return InStr(1, text, what); }
 
 Position InStr(Position start, std::string_view text, std::string_view what) {
   return FindFrom(start, text, [&](std::size_t from) { return text.find(what, from); });
@@ -81,9 +71,7 @@ bool StartsWith(std::string_view text, std::string_view beginning) {
   return text.starts_with(beginning);
 }
 
-bool EndsWith(std::string_view text, std::string_view ending) {
-  return text.ends_with(ending);
-}
+bool EndsWith(std::string_view text, std::string_view ending) { return text.ends_with(ending); }
 
 bool SameIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), EqualIgnoringCase);
@@ -119,9 +107,7 @@ std::string_view RTrim(std::string_view text) {
   return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-std::string_view Trim(std::string_view text) {
-  return LTrim(RTrim(text));
-}
+std::string_view Trim(std::string_view text) { return LTrim(RTrim(text)); }
 
 char UCase(char byte) {
   return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;

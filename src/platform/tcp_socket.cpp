@@ -16,9 +16,7 @@ TcpSocket::TcpSocket(Scheduler& scheduler, std::unique_ptr<TcpTransport> transpo
   transport_->events = this;
 }
 
-TcpSocket::~TcpSocket() {
-  transport_->Close();
-}
+TcpSocket::~TcpSocket() { transport_->Close(); }
 
 void TcpSocket::Connect() {
   Close();
@@ -69,9 +67,7 @@ void TcpSocket::SetHeld(bool held) {
   if (!held) TellLater();
 }
 
-void TcpSocket::OnResolved() {
-  state_ = SocketState::Connecting;
-}
+void TcpSocket::OnResolved() { state_ = SocketState::Connecting; }
 
 void TcpSocket::OnConnected() {
   state_ = SocketState::Connected;

@@ -20,14 +20,10 @@ struct Row {
 };
 
 // A row whose format no part of the program reads yet.
-bool Pass(Program&, Line) {
-  return false;
-}
+bool Pass(Program&, Line) { return false; }
 
 // Nothing but a spot begins so: no other row gets to see it, whatever stands in its comment.
-bool IsSpotLine(Program&, Line line) {
-  return line.starts_with("DX de ");
-}
+bool IsSpotLine(Program&, Line line) { return line.starts_with("DX de "); }
 
 constexpr std::array<Row, 65> kRows = {{
     {1, "TncDisconnectNotice", Pass, Stop::Tail},
@@ -122,23 +118,15 @@ constexpr bool NoNameStandsTwice() {
 }
 static_assert(NoNameStandsTwice());
 
-const Row& RowAt(int number) {
-  return kRows[static_cast<std::size_t>(number - 1)];
-}
+const Row& RowAt(int number) { return kRows[static_cast<std::size_t>(number - 1)]; }
 
 }  // namespace
 
-int LineChain::Rows() const {
-  return static_cast<int>(kRows.size());
-}
+int LineChain::Rows() const { return static_cast<int>(kRows.size()); }
 
-std::string_view LineChain::Name(int row) const {
-  return RowAt(row).name;
-}
+std::string_view LineChain::Name(int row) const { return RowAt(row).name; }
 
-int LineChain::FirstRowForSession() const {
-  return kLastRowBeforeLogin + 1;
-}
+int LineChain::FirstRowForSession() const { return kLastRowBeforeLogin + 1; }
 
 session::Chain::Claim LineChain::Offer(int number, std::string_view line) {
   const Row& row = RowAt(number);

@@ -27,9 +27,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .askUserInfo = [this] { userInfo.Show(); },
                .delayedWriteCfg = [this] { DelayedWriteCfg(); },
                .onFault = errorLog.FaultHandler()}),
-      userInfo(settings,
-               {.password = [this] { return session.outgoing.NodePassword; },
-                .save = [this](const std::string& password) { SaveUserInfo(password); }}),
+      userInfo(settings, {.password = [this] { return session.outgoing.NodePassword; },
+                          .save = [this](const std::string& password) { SaveUserInfo(password); }}),
       offsetForm([this](const std::string& gmtOffset) {
         settings.GmtOffset = gmtOffset;
         ApplySettings();

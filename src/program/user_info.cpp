@@ -28,8 +28,8 @@ bool IsCall(std::string_view text) {
 
 bool IsGrid(std::string_view text) {
   if (text.size() != 4 && text.size() != 6) return false;
-  const bool square = IsIn(text[0], 'A', 'R') && IsIn(text[1], 'A', 'R') && IsDigit(text[2]) &&
-                      IsDigit(text[3]);
+  const bool square =
+      IsIn(text[0], 'A', 'R') && IsIn(text[1], 'A', 'R') && IsDigit(text[2]) && IsDigit(text[3]);
   return square && (text.size() == 4 || (IsIn(text[4], 'A', 'X') && IsIn(text[5], 'A', 'X')));
 }
 
@@ -96,7 +96,8 @@ std::string UserInfo::Problem() const {
   if (Trimmed(txtName).empty()) return "Enter your name: nodes ask for it.";
   if (Trimmed(txtQth).empty()) return "Enter your QTH: nodes ask for it.";
   const std::string grid = Trimmed(txtGrid);
-  if (!grid.empty() && !IsGrid(grid)) return "A grid has 4 or 6 characters, for example EN82 or EN82DG.";
+  if (!grid.empty() && !IsGrid(grid))
+    return "A grid has 4 or 6 characters, for example EN82 or EN82DG.";
   const std::string place = LocationText();
   if (!core::Trim(place).empty() && !core::ParseLocation(place))
     return "A location has degrees, minutes and N or S, then degrees, minutes and E or W.";

@@ -13,7 +13,7 @@ namespace program {
 class UserInfo {
  public:
   struct Needs {
-    std::function<std::string()> password;               // the stored one
+    std::function<std::string()> password;                  // the stored one
     std::function<void(const std::string& password)> save;  // the settings have been changed
   };
 

@@ -75,6 +75,7 @@ void Connection::EnsureNode() {
 void Connection::WhichNode() {
   EnsureNode();
   ChooseHost();
+  timers_.Disable(TimerId::Reconnect);
   connecting_.CancelAll();
   connectHold_.Release();
   connecting_.Start("ConnectNode", ConnectNode());
@@ -103,23 +104,27 @@ platform::Task<> Connection::ConnectNode() {
   timers_.Restart(TimerId::ConnectionTimeout);
   Show(LinkPhase::Trying);
   co_await Delay(2 * kPause);
-
-  socket_.RemotePort = static_cast<std::uint16_t>(core::ValInt(settings_.NodePort));
-  socket_.RemoteHost = state_.ConnectHost;
-  socket_.Connect();
+  if (!state_.UserDisconnected) OpenSocket();
   while (!state_.SocketConnected && !state_.ConnectFailed && !state_.UserDisconnected) {
     ShowState();
     co_await Delay(kPoll);
   }
-  if (state_.SocketConnected) {
-    co_await Delay(kConnectEventRest);
-    if (socket_.State() == SocketState::Connected) Show(LinkPhase::Connected);
-    ShowState();
-    connectHold_.Release();
-  } else {
+  if (!state_.SocketConnected) {
     ShowFailure();
     WaitForRetry();
+    co_return;
   }
+  co_await Delay(kConnectEventRest);
+  if (socket_.State() == SocketState::Connected) Show(LinkPhase::Connected);
+  ShowState();
+  connectHold_.Release();
+}
+
+void Connection::OpenSocket() {
+  socket_.RemotePort =
+      static_cast<std::uint16_t>(std::clamp(core::ValInt(settings_.NodePort), 0, 65535));
+  socket_.RemoteHost = state_.ConnectHost;
+  socket_.Connect();
 }
 
 void Connection::ShowState() {
@@ -140,7 +145,7 @@ void Connection::ShowFailure() {
 }
 
 void Connection::TellFailure(const std::string& what, const std::string& line) {
-  if (std::exchange(toldFailure_, what) != what) outgoing_.updateText2(line);
+  if (toldFailures_.insert(what).second) outgoing_.updateText2(line);
 }
 
 void Connection::WaitForRetry() {
@@ -178,7 +183,10 @@ void Connection::ForceClose() {
                                : "Forcing a disconnect with: " + state_.ConnectedNodeCall;
   if (byPeer && WhyEnded.empty()) WhyEnded = "closed by the node";
   state_.txtNode.Caption.Set(text);
-  outgoing_.updateText2(calendar_.GmtTime() + text);
+  if (state_.LoggedIn)
+    outgoing_.updateText2(calendar_.GmtTime() + text);
+  else
+    TellFailure("closed", calendar_.GmtTime() + text);
   socket_.Close();
   Disconnected();
   intake_.Drop();
@@ -240,7 +248,7 @@ void Connection::RetryNow() {
 
 void Connection::WatchLogin() {
   const bool connected = socket_.State() == SocketState::Connected;
-  if (LoginAttempts == 0 && connected) outgoing_.Send(settings_.MyCall);
+  if (LoginAttempts == 0 && connected) outgoing_.Send(core::Trim(settings_.MyCall));
   ++LoginAttempts;
   if (!connected) {
     timers_.Disable(TimerId::ConnectionTimeout);
@@ -277,7 +285,7 @@ void Connection::LoggedInSetup() {
   cmdConnect.Enabled.Set(false);
   timers_.Disable(TimerId::ConnectionTimeout);
   state_.ConnectFailed = false;
-  toldFailure_.clear();
+  toldFailures_.clear();
   WhyEnded.clear();
   needs_.onLoggedIn();
 }
@@ -312,7 +320,8 @@ platform::Task<> Connection::PressDisconnect() {
     outgoing_.Send("BYE");
     co_await Delay(6 * kPause);
   }
-  if (socket_.State() != SocketState::Closed) ForceClose();
+  // Meanwhile the user may have connected anew.
+  if (state_.UserDisconnected && socket_.State() != SocketState::Closed) ForceClose();
   DisconnectCount = 0;
   Disconnecting = false;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -69,6 +70,7 @@ class Connection {
  private:
   void ChooseHost();
   platform::Task<> ConnectNode();
+  void OpenSocket();
   void ShowState();
   void ShowFailure();
   void TellFailure(const std::string& what, const std::string& line);
@@ -102,7 +104,7 @@ class Connection {
   bool ConnectedOnce = false;
   bool TryHostName = false;
   bool Disconnecting = false;
-  std::string toldFailure_;  // the last one in the raw view; not said again for each retry
+  std::set<std::string> toldFailures_;  // since the last login: not said again for each retry
   platform::Registration connectHold_;
   platform::Registration connectPressed_;
   platform::Registration disconnectPressed_;

@@ -13,9 +13,9 @@ namespace session {
 // Keeps a quiet link alive, and notices a dead one. Counts minutes since the last line received and
 // since the last one sent.
 //
-// In Rx mode a keep-alive goes out when the node has been silent for KeepAliveMinutes, and then each
-// minute; after four more minutes of silence the link is given up. In Tx mode one goes out when
-// nothing has been sent for that long.
+// In Rx mode a keep-alive goes out when the node has been silent for KeepAliveMinutes, and then
+// each minute; after four more minutes of silence the link is given up. In Tx mode one goes out
+// when nothing has been sent for that long.
 class KeepAlive {
  public:
   struct Needs {

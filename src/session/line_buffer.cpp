@@ -75,12 +75,13 @@ void LineBuffer::Take(std::string& into) {
 }
 
 void LineBuffer::Clear() {
+  GiveBackGiant(text_);
   text_.clear();
   leadingBlanks_ = 0;
 }
 
 void GiveBackGiant(std::string& text) {
-  if (text.capacity() > kKeptCapacity) text = std::string();
+  if (text.capacity() > kKeptCapacity) std::string().swap(text);
 }
 
 int RepairEscapes(std::string& line) {

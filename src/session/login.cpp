@@ -19,22 +19,30 @@ constexpr std::array<std::string_view, 8> kLoginPrompts = {
     "Cluster: ",
     " >"};
 
-bool IsLoginPrompt(std::string_view line) {
-  return std::any_of(kLoginPrompts.begin(), kLoginPrompts.end(), [line](std::string_view prompt) {
-    return line.find(prompt) != std::string_view::npos;
-  });
+// The node asks for the password without a prompt of its own.
+constexpr std::string_view kPromptWithPassword = "Callsign :";
+
+// The prompt that the line holds; empty if it holds none.
+std::string_view LoginPromptIn(std::string_view line) {
+  const auto found = std::find_if(
+      kLoginPrompts.begin(), kLoginPrompts.end(),
+      [line](std::string_view prompt) { return line.find(prompt) != std::string_view::npos; });
+  return found == kLoginPrompts.end() ? std::string_view() : *found;
 }
 
 }  // namespace
 
 bool Login::LoginPrompt(std::string_view line) {
-  if (state_.LoggedIn || !IsLoginPrompt(line)) return false;
+  if (state_.LoggedIn) return false;
+  const std::string_view prompt = LoginPromptIn(line);
+  if (prompt.empty()) return false;
   state_.txtNode.Caption.Set(std::string(line));
   if (state_.LoginPromptAnswered) return true;
   state_.LoginPromptAnswered = true;
-  if (!outgoing_.Send(settings_.MyCall)) return true;
+  if (!outgoing_.Send(core::Trim(settings_.MyCall))) return true;
   connection_.LoggedInSetup();
   state_.txtNode.Caption.Set("***Connected to: " + state_.ConnectedNodeCall);
+  if (prompt == kPromptWithPassword) outgoing_.SendPassword();
   return true;
 }
 

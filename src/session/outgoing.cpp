@@ -12,9 +12,7 @@ constexpr std::string_view kHidden = "********";
 
 }  // namespace
 
-bool Outgoing::Send(std::string_view text) {
-  return SendAsIs(core::UCase(text));
-}
+bool Outgoing::Send(std::string_view text) { return SendAsIs(core::UCase(text)); }
 
 bool Outgoing::SendAsIs(std::string_view text) {
   return Dispatch({std::string(text), std::string(text)});

@@ -1,5 +1,7 @@
 #include "session/session.h"
 
+#include <utility>
+
 namespace session {
 
 Session::Session(const platform::Platform& platform, const core::Calendar& calendar,
@@ -31,6 +33,11 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       login(settings, state, outgoing, connection),
       linkText(platform.scheduler, calendar, settings, state, connection, intake, timers) {
   timers.SetDuty(TimerId::Clock, [this] { linkText.Tick(); });
+  // A change is shown behind the rule that makes it, not with the next second.
+  phaseShown_ =
+      state.Phase.Observe([this, &scheduler = platform.scheduler, first = true](LinkPhase) mutable {
+        if (!std::exchange(first, false)) showing_ = scheduler.Post([this] { linkText.Tick(); });
+      });
 }
 
 }  // namespace session

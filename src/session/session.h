@@ -41,6 +41,10 @@ class Session {
   Connection connection;
   Login login;
   LinkText linkText;
+
+ private:
+  platform::Registration showing_;
+  platform::Registration phaseShown_;
 };
 
 }  // namespace session

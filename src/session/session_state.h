@@ -14,7 +14,7 @@ enum class LinkPhase { Disconnected, Trying, Connected };
 
 // Where the session stands. One for the program; Connection says how it changes.
 struct SessionState {
-  bool TncMode = false;          // the session runs over the TNC, not telnet
+  bool TncMode = false;  // the session runs over the TNC, not telnet
   NodeKind Kind = NodeKind::Unknown;
   bool ArpcRefused = false;      // the node has no extended spot lines
   bool LoggedIn = false;         // the call has been sent to a login prompt

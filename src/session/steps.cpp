@@ -1,6 +1,7 @@
 #include "session/steps.h"
 
 #include <exception>
+#include <optional>
 
 namespace session {
 
@@ -24,7 +25,7 @@ platform::Task<> Steps::DoAll() {
   while (!waiting_.empty()) {
     Step step = std::move(waiting_.front());
     waiting_.pop_front();
-    std::string fault;
+    std::optional<std::string> fault;
     try {
       co_await std::move(step.task);
     } catch (const std::exception& known) {
@@ -32,7 +33,7 @@ platform::Task<> Steps::DoAll() {
     } catch (...) {
       fault = "unknown exception";
     }
-    if (!fault.empty()) onFault_(step.name, fault);
+    if (fault) onFault_(step.name, *fault);
   }
   busy_ = false;
   changed_();

@@ -49,16 +49,13 @@ void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames) {
 
 void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames) {
   BindCommon(widget, model, frames);
-  BindProperty<std::string>(widget, model.Caption, frames, [widget](const std::string& text) {
-    widget->setText(TextOf(text));
-  });
+  BindProperty<std::string>(widget, model.Caption, frames,
+                            [widget](const std::string& text) { widget->setText(TextOf(text)); });
   BindProperty<bool>(widget, model.Value, frames, [widget](bool on) { widget->setChecked(on); });
-  QObject::connect(widget, &QCheckBox::clicked, widget,
-                   [&model](bool on) { model.UserSets(on); });
+  QObject::connect(widget, &QCheckBox::clicked, widget, [&model](bool on) { model.UserSets(on); });
 }
 
-void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel,
-                Frames& frames) {
+void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel, Frames& frames) {
   BindProperty<bool>(widget, open, frames, [widget](bool on) { widget->setVisible(on); });
   QObject::connect(widget, &QDialog::rejected, widget, [&open, &cancel] {
     if (open.Get()) cancel.Press();

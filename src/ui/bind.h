@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QAbstractButton>
-#include <QLabel>
 #include <QCheckBox>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <functional>
 

@@ -23,8 +23,7 @@ QFormLayout* MakeForm(QWidget* dialog) {
   return form;
 }
 
-QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& model,
-                    Frames& frames) {
+QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& model, Frames& frames) {
   auto* field = new QLineEdit(form->parentWidget());
   field->setAccessibleName(SpokenName(label));
   form->addRow(label, field);

@@ -12,9 +12,7 @@ constexpr int kDiameter = 10;
 
 }  // namespace
 
-Lamp::Lamp(QWidget* parent) : QWidget(parent) {
-  setFixedSize(kDiameter + 2, kDiameter + 2);
-}
+Lamp::Lamp(QWidget* parent) : QWidget(parent) { setFixedSize(kDiameter + 2, kDiameter + 2); }
 
 void Lamp::SetColour(const QColor& colour) {
   if (colour == colour_) return;

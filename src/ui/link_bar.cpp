@@ -57,8 +57,11 @@ void LinkBar::Lay() {
   node_->setFont(Bold(node_->font(), 13));
   clock_->setFont(Bold(FixedFont(), 17));
   for (QLabel* label : {state_, age_, date_}) label->setProperty("dim", true);
-  // What a node says is cut where it would widen the window.
-  for (QLabel* label : {node_, state_, age_}) label->setMinimumWidth(1);
+  // What a node says is cut where it would widen the window, and the buttons stay where they are
+  // while the seconds count.
+  node_->setMinimumWidth(1);
+  state_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("connected 59 m 59 s")));
+  age_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("·  last line 59 m 59 s ago")));
 }
 
 void LinkBar::Name() {

@@ -65,9 +65,9 @@ QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle { background: {line}; border-radius: 4px; margin: 2px; min-height: 24px;
+QScrollBar::handle { background: {dim}; border-radius: 4px; margin: 2px; min-height: 24px;
                      min-width: 24px; }
-QScrollBar::handle:hover { background: {dim}; }
+QScrollBar::handle:hover { background: {accent}; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QToolTip { background: {panel}; color: {text}; border: 1px solid {line}; padding: 4px; }

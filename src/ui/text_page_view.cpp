@@ -11,6 +11,8 @@ namespace ui {
 namespace {
 
 // A line of megabytes is no use to a reader, and laying it out would hold up the window.
+constexpr int kMargin = 8;  // besides the document's own 4
+
 constexpr core::Position kLongestShown = 4000;
 
 }  // namespace
@@ -23,6 +25,7 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
   setUndoRedoEnabled(false);
   setFont(FixedFont());
   setFrameShape(QFrame::NoFrame);
+  setViewportMargins(kMargin, 0, 0, 0);
   item_ = frames.Add([this] { Refresh(); });
   observing_ = page_.Observe([this](const core::TextPage::Change& change) { Collect(change); });
 }

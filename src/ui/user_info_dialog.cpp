@@ -27,8 +27,7 @@ UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget
   AddLocation(form, model, frames);
   AddField(form, tr("&Home node"), model.txtHomeNode, frames);
   AddField(form, tr("&E-mail"), model.txtEmail, frames);
-  AddField(form, tr("Node &password"), model.txtPassword, frames)
-      ->setEchoMode(QLineEdit::Password);
+  AddField(form, tr("Node &password"), model.txtPassword, frames)->setEchoMode(QLineEdit::Password);
   AddZone(form, model, frames);
   AddProblem(form, model.lblProblem, frames);
   AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
@@ -36,9 +35,9 @@ UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget
 }
 
 void UserInfoDialog::AddLocation(QFormLayout* form, program::UserInfo& model, Frames& frames) {
-  const std::array names = {tr("Latitude, degrees"),   tr("Latitude, minutes"),
-                            tr("Latitude, N or S"),    tr("Longitude, degrees"),
-                            tr("Longitude, minutes"),  tr("Longitude, E or W")};
+  const std::array names = {tr("Latitude, degrees"),  tr("Latitude, minutes"),
+                            tr("Latitude, N or S"),   tr("Longitude, degrees"),
+                            tr("Longitude, minutes"), tr("Longitude, E or W")};
   const std::array units = {tr("°"), tr("′"), tr("N/S"), tr("°"), tr("′"), tr("E/W")};
   auto* row = new QHBoxLayout;
   row->setSpacing(4);

@@ -10,17 +10,13 @@ TEST(Nossid, CutsTheSsidOff) {
   EXPECT_EQ(Nossid("N0CALL-15-2"), "N0CALL");
 }
 
-TEST(Nossid, CutsTheSkimmerMarkOff) {
-  EXPECT_EQ(Nossid("N0CALL-#"), "N0CALL");
-}
+TEST(Nossid, CutsTheSkimmerMarkOff) { EXPECT_EQ(Nossid("N0CALL-#"), "N0CALL"); }
 
 TEST(Nossid, CutsTheSkimmerMarkOffBeforeTheParentheses) {
   EXPECT_EQ(Nossid("(N0CALL)-#"), "N0CALL");
 }
 
-TEST(Nossid, GivesUpperCase) {
-  EXPECT_EQ(Nossid("n0call"), "N0CALL");
-}
+TEST(Nossid, GivesUpperCase) { EXPECT_EQ(Nossid("n0call"), "N0CALL"); }
 
 TEST(Nossid, OfNothingIsEmpty) {
   EXPECT_EQ(Nossid(""), "");
@@ -65,13 +61,9 @@ TEST(Nossid, CutsALeadingPlus) {
   EXPECT_EQ(Nossid("++N0CALL"), "+N0CALL");
 }
 
-TEST(Nossid, CountsThePlusInThePieceItStandsIn) {
-  EXPECT_EQ(Nossid("+N0/K1A"), "N0");
-}
+TEST(Nossid, CountsThePlusInThePieceItStandsIn) { EXPECT_EQ(Nossid("+N0/K1A"), "N0"); }
 
-TEST(Nossid, CutsAtADashInFrontOfTheLongerPiece) {
-  EXPECT_EQ(Nossid("K1A-3/VP2E"), "K1A");
-}
+TEST(Nossid, CutsAtADashInFrontOfTheLongerPiece) { EXPECT_EQ(Nossid("K1A-3/VP2E"), "K1A"); }
 
 }  // namespace
 }  // namespace core

@@ -26,9 +26,7 @@ std::string Written(bool Settings::*flag, bool value = true) {
   return Written(settings);
 }
 
-Settings Parsed(const std::string& line) {
-  return ParseSettings(line + "\r\n");
-}
+Settings Parsed(const std::string& line) { return ParseSettings(line + "\r\n"); }
 
 // Reading.
 

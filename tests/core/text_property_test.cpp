@@ -82,9 +82,7 @@ std::string NaiveMid(const std::string& text, Position start, Position count) {
   return piece;
 }
 
-std::string NaiveLeft(const std::string& text, Position count) {
-  return NaiveMid(text, 1, count);
-}
+std::string NaiveLeft(const std::string& text, Position count) { return NaiveMid(text, 1, count); }
 
 std::string NaiveRight(const std::string& text, Position count) {
   const std::string backwards(text.rbegin(), text.rend());

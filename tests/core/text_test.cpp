@@ -183,9 +183,7 @@ TEST(Split, GivesAllPiecesTheEmptyOnesToo) {
   EXPECT_THAT(Split("aaa", "aa"), ElementsAre("", "a"));
 }
 
-TEST(Split, GivesNoPieceOfAnEmptyText) {
-  EXPECT_THAT(Split("", "^"), IsEmpty());
-}
+TEST(Split, GivesNoPieceOfAnEmptyText) { EXPECT_THAT(Split("", "^"), IsEmpty()); }
 
 TEST(Split, GivesTheWholeTextWithoutASeparator) {
   EXPECT_THAT(Split("abc", ""), ElementsAre("abc"));

@@ -65,13 +65,9 @@ TEST(Telnet, BareFFThatStartsNoCommandStays) {
   EXPECT_EQ(InOnePiece("\xFF\x41 Ma\xFF\r\n"s), (Outcome{"\xFF\x41 Ma\xFF\r\n"s, ""}));
 }
 
-TEST(Telnet, DoubledIacIsOneByteOfText) {
-  EXPECT_EQ(InOnePiece("a\xFF\xFF!").text, "a\xFF!");
-}
+TEST(Telnet, DoubledIacIsOneByteOfText) { EXPECT_EQ(InOnePiece("a\xFF\xFF!").text, "a\xFF!"); }
 
-TEST(Telnet, OtherCommandsAreTakenOut) {
-  EXPECT_EQ(InOnePiece("a\xFF\xF1\xFF\xF9z").text, "az");
-}
+TEST(Telnet, OtherCommandsAreTakenOut) { EXPECT_EQ(InOnePiece("a\xFF\xF1\xFF\xF9z").text, "az"); }
 
 TEST(Telnet, EverySplitGivesTheSame) {
   const std::string stream =

@@ -10,9 +10,7 @@ struct Login {
   std::string_view prompt;    // ends every answer
 };
 
-void PrintTo(const Login& login, std::ostream* out) {
-  *out << login.dialect;
-}
+void PrintTo(const Login& login, std::ostream* out) { *out << login.dialect; }
 
 class EachDialect : public NodeTest, public ::testing::WithParamInterface<Login> {
  protected:

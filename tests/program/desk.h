@@ -32,8 +32,7 @@ class Desk {
   // Starts the program, and lets it get through its start-up.
   program::Program& Start() {
     program = std::make_unique<program::Program>(
-        world.platform(), kFolder,
-        program::Program::Needs{.quit = [this] { ++quits; }, .seed = 1});
+        world.platform(), kFolder, program::Program::Needs{.quit = [this] { ++quits; }, .seed = 1});
     program->Start();
     world.Run(platform::Milliseconds{100});
     return *program;

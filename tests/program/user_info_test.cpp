@@ -107,7 +107,8 @@ TEST_F(UserInfoTest, FailureToSaveIsToldInPlainWords) {
 }
 
 TEST(IsCall, NeedsALetterAndADigitAndNothingStrange) {
-  for (const char* call : {"K1TST", "K1TST-2", "EA8/DF4UE", "w1a"}) EXPECT_TRUE(program::IsCall(call)) << call;
+  for (const char* call : {"K1TST", "K1TST-2", "EA8/DF4UE", "w1a"})
+    EXPECT_TRUE(program::IsCall(call)) << call;
   for (const char* call : {"", "K1", "ANNA", "12345", "K1 TST", "-K1A", "K1TST\n"})
     EXPECT_FALSE(program::IsCall(call)) << call;
 }

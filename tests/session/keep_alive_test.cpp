@@ -24,7 +24,8 @@ class KeepAliveTest : public testing::Test {
   session::SessionState state;
   std::vector<std::string> sent;
   int givenUp = 0;
-  session::KeepAlive keepAlive{timers, state,
+  session::KeepAlive keepAlive{timers,
+                               state,
                                {.sendAsIs =
                                     [this](const std::string& text) {
                                       sent.push_back(text);

@@ -92,7 +92,7 @@ TEST_F(LoginWatch, NodeThatAnswersTheCallSentToItIsLoggedInto) {
   Receive("K1TST-2 de N0NODE 20-Nov-2026 2148Z dxspider >");
   EXPECT_TRUE(program.state.LoggedIn);
   EXPECT_EQ(program.state.ConnectedNodeCall, "N0NODE");
-  LetPass(10min);
+  LetPass(8min);
   EXPECT_THAT(node.called, SizeIs(1));
 }
 

@@ -17,12 +17,8 @@ constexpr auto kPasswordPatience = 60s;
 constexpr auto kListDelay = 300ms;
 constexpr auto kSilence = 5min;  // before a prompt comes unasked
 
-bool IsLetter(char byte) {
-  return core::UCase(byte) >= 'A' && core::UCase(byte) <= 'Z';
-}
-bool IsDigit(char byte) {
-  return byte >= '0' && byte <= '9';
-}
+bool IsLetter(char byte) { return core::UCase(byte) >= 'A' && core::UCase(byte) <= 'Z'; }
+bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
 
 bool IsSsid(std::string_view text) {
   return !text.empty() && text.size() <= 2 && std::all_of(text.begin(), text.end(), IsDigit);
@@ -114,9 +110,7 @@ SpotStyle Caller::Style() {
           .listCall = facts_.dialect.listCall};
 }
 
-void Caller::Write(std::string_view bytes) {
-  socket_->SendData(bytes);
-}
+void Caller::Write(std::string_view bytes) { socket_->SendData(bytes); }
 
 void Caller::OnData() {
   const std::string bytes = socket_->GetData(kMostBytesAtOnce);
@@ -206,9 +200,7 @@ void Caller::CountUnknown(bool known) {
   if (facts_.version.patience > 0 && unknownInRow_ >= facts_.version.patience) HangUp();
 }
 
-void Caller::Prompt() {
-  Say(profile_->prompt.empty() ? facts_.dialect.prompt : profile_->prompt);
-}
+void Caller::Prompt() { Say(profile_->prompt.empty() ? facts_.dialect.prompt : profile_->prompt); }
 
 void Caller::WatchSilence() {
   if (!facts_.version.promptsUnasked || !LoggedIn()) return;

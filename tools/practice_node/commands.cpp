@@ -27,9 +27,7 @@ void SetLocation(Caller& caller, std::string_view argument) {
     SetField<Field::Location>(caller, argument);
 }
 
-void SetPrompt(Caller& caller, std::string_view argument) {
-  caller.profile().prompt = argument;
-}
+void SetPrompt(Caller& caller, std::string_view argument) { caller.profile().prompt = argument; }
 
 template <bool on>
 void SetEcho(Caller& caller, std::string_view) {
@@ -56,9 +54,7 @@ void SetArpc(Caller& caller, std::string_view argument) {
   caller.Say(accepted ? "DX ArPc enabled" : "SET/DX_ARPC command error");
 }
 
-void ShowFilters(Caller& caller, std::string_view) {
-  caller.Say(caller.facts().dialect.filters);
-}
+void ShowFilters(Caller& caller, std::string_view) { caller.Say(caller.facts().dialect.filters); }
 
 // The first word that is all digits is how many.
 std::size_t HowMany(std::string_view argument) {

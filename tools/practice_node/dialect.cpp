@@ -217,13 +217,9 @@ constexpr std::array<Dialect, kKinds> kDialects = {{
 
 }  // namespace
 
-const Dialect& DialectOf(Kind kind) {
-  return kDialects[static_cast<std::size_t>(kind)];
-}
+const Dialect& DialectOf(Kind kind) { return kDialects[static_cast<std::size_t>(kind)]; }
 
-std::span<const Dialect, kKinds> Dialects() {
-  return kDialects;
-}
+std::span<const Dialect, kKinds> Dialects() { return kDialects; }
 
 std::string_view LabelOf(const ToggleWords& words, Kind kind) {
   if (kind == Kind::Skimmer) return {};

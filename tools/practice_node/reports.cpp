@@ -20,9 +20,7 @@ struct Row {
 };
 using Rows = std::vector<Row>;
 
-std::string YesNo(bool yes) {
-  return yes ? "Yes" : "No";
-}
+std::string YesNo(bool yes) { return yes ? "Yes" : "No"; }
 
 void AddIfKnown(Rows& rows, std::string_view label, const std::string& value) {
   if (!value.empty()) rows.push_back({label, value});
@@ -65,9 +63,7 @@ std::size_t LongestLabel(const Rows& rows) {
   return longest;
 }
 
-std::string_view State(bool on) {
-  return on ? "Enabled" : "Inhibited";
-}
+std::string_view State(bool on) { return on ? "Enabled" : "Inhibited"; }
 
 }  // namespace
 

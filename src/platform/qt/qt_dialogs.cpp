@@ -80,9 +80,7 @@ QtDialogs::~QtDialogs() {
   for (const auto& each : std::exchange(shown_, {})) delete each->box;
 }
 
-void QtDialogs::Tell(Message message) {
-  Show(std::move(message));
-}
+void QtDialogs::Tell(Message message) { Show(std::move(message)); }
 
 Task<Answer> QtDialogs::Ask(Message message) {
   const auto shown = Show(std::move(message));

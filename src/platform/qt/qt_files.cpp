@@ -159,9 +159,7 @@ Files::Fault QtFiles::Remove(const std::string& path) {
   return fault == Fault::NotFound ? Fault::None : fault;
 }
 
-bool QtFiles::Exists(const std::string& path) {
-  return Look(path).has_value();
-}
+bool QtFiles::Exists(const std::string& path) { return Look(path).has_value(); }
 
 std::uint64_t QtFiles::Size(const std::string& path) {
   const auto found = Look(path);

@@ -38,9 +38,7 @@ SocketState QtTcpListener::State() const {
   return server_.isListening() ? SocketState::Listening : SocketState::Closed;
 }
 
-std::uint16_t QtTcpListener::LocalPort() const {
-  return server_.serverPort();
-}
+std::uint16_t QtTcpListener::LocalPort() const { return server_.serverPort(); }
 
 std::unique_ptr<TcpTransport> QtTcpListener::TakePending() {
   return std::make_unique<QtTcpTransport>(scheduler_, leaving_, pending_.release());

@@ -87,9 +87,7 @@ QtTcpTransport::QtTcpTransport(Scheduler& scheduler, QObject& leaving, QTcpSocke
   if (!Connected()) End(News::PeerClosed);
 }
 
-QtTcpTransport::~QtTcpTransport() {
-  Close();
-}
+QtTcpTransport::~QtTcpTransport() { Close(); }
 
 void QtTcpTransport::Open(const std::string& host, std::uint16_t port) {
   Close();
@@ -163,9 +161,7 @@ std::string QtTcpTransport::PeerAddress() const {
   return Connected() ? Dotted(socket_->peerAddress()) : std::string();
 }
 
-std::uint16_t QtTcpTransport::LocalPort() const {
-  return Connected() ? socket_->localPort() : 0;
-}
+std::uint16_t QtTcpTransport::LocalPort() const { return Connected() ? socket_->localPort() : 0; }
 
 bool QtTcpTransport::Connected() const {
   return socket_ && socket_->state() == QAbstractSocket::ConnectedState;

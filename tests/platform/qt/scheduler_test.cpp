@@ -70,9 +70,7 @@ TEST_F(QtSchedulerTest, AWaitLongerThanATimerCountsDoesNotComeAtOnce) {
 }
 
 // One iteration of the event loop, without waiting.
-void Iterate() {
-  QCoreApplication::processEvents(QEventLoop::AllEvents);
-}
+void Iterate() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
 
 TEST_F(QtSchedulerTest, WhatATurnPostsComesInALaterIterationOfTheEventLoop) {
   Registration inner;

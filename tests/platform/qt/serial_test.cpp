@@ -168,12 +168,8 @@ TEST_F(QtSerialDeviceTest, SpeedAndStopBitsReachTheDevice) {
   EXPECT_TRUE(settings.c_cflag & CSTOPB);
 }
 
-tcflag_t Software(const PseudoTerminal& line) {
-  return line.Settings().c_iflag & (IXON | IXOFF);
-}
-tcflag_t Hardware(const PseudoTerminal& line) {
-  return line.Settings().c_cflag & CRTSCTS;
-}
+tcflag_t Software(const PseudoTerminal& line) { return line.Settings().c_iflag & (IXON | IXOFF); }
+tcflag_t Hardware(const PseudoTerminal& line) { return line.Settings().c_cflag & CRTSCTS; }
 
 TEST_F(QtSerialDeviceTest, EveryFlowControlReachesTheDevice) {
   ASSERT_EQ(device.Open(line.Path(), {.flow = FlowControl::Both}), "");
