@@ -6,6 +6,8 @@ BUILD_PACKAGES=(ccache cmake g++ lld ninja-build qt6-base-dev qt6-serialport-dev
 RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono imagemagick qt6-qpa-plugins xauth xvfb)
 # What its tests need besides.
 TEST_PACKAGES=(googletest libgmock-dev libgtest-dev)
+# What the benchmarks are built with.
+BENCH_PACKAGES=(libbenchmark-dev)
 # What the second compiler and the lint need.
 CLANG_PACKAGES=(clang clang-tidy)
 

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/observers.h"
 
@@ -68,6 +69,18 @@ struct Check : Control {
   void UserSets(bool ticked) {
     if (ticked == Value.Get()) return;
     Value.Set(ticked);
+    Click.Tell();
+  }
+  Observers<> Click;
+};
+
+// One of several, by its place in Options.
+struct Choice : Control {
+  Property<std::vector<std::string>> Options;
+  Property<int> Selected{0};
+  // The user's act; choosing what is chosen counts too.
+  void UserSelects(int option) {
+    Selected.Set(option);
     Click.Tell();
   }
   Observers<> Click;

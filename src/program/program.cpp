@@ -26,6 +26,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .delayedWriteCfg = [this] { DelayedWriteCfg(); },
+               .writeCfg = [this] { WriteCfg(); },
                .onFault = errorLog.FaultHandler()}),
       userInfo(settings, {.password = [this] { return session.outgoing.NodePassword; },
                           .save = [this](const std::string& password) { SaveUserInfo(password); }}),

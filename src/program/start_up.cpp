@@ -106,8 +106,7 @@ platform::Task<> Program::PrepareSession() {
   session.connection.AutoReconnect.Value.Set(settings.AutoReconnect);
   session.state.UserDisconnected = true;
   session.connection.EnsureNode();
-  session.keepAlive.KeepAliveRx = settings.TelnetKA != "Tx";
-  session.keepAlive.KeepAliveMinutes = settings.TelnetKAtime;
+  session.keepAlivePanel.Load();
   session.timers.SetInterval(TimerId::Reconnect, RetryInterval(needs_.seed));
   form.Set({.left = settings.FormLeft,
             .top = settings.FormTop,

@@ -42,13 +42,14 @@ class KeepAlive {
   void LineSent();
   // The login has begun to be answered: from now on silence counts.
   void LoggedIn();
+  // Puts the count of the mode into lblInactivity.
+  void ShowInactivity();
 
  private:
   void Minute();
   void GiveUp();
   void SendOne();
   std::string Text() const;
-  void ShowInactivity();
   void Flash(std::size_t label, const std::string& text, TimerId reset);
 
   Timers& timers_;

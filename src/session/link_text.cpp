@@ -58,7 +58,7 @@ std::string LinkText::StateNow() const {
     const auto left = std::chrono::ceil<seconds>(timers_.Remaining(TimerId::Reconnect));
     return "next try in " + SpanText(left) + why;
   }
-  if (session_.UserDisconnected) return "not connected" + why;
+  if (session_.Phase.Get() == LinkPhase::Disconnected) return "not connected" + why;
   return session_.SocketConnected ? "waiting for the login" : "connecting";
 }
 

@@ -31,7 +31,10 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                       },
                   .onFault = needs.onFault}),
       login(settings, state, outgoing, connection),
-      linkText(platform.scheduler, calendar, settings, state, connection, intake, timers) {
+      linkText(platform.scheduler, calendar, settings, state, connection, intake, timers),
+      keepAlivePanel(keepAlive, settings,
+                     {.autoReconnect = [this] { return connection.AutoReconnect.Value.Get(); },
+                      .writeCfg = needs.writeCfg}) {
   timers.SetDuty(TimerId::Clock, [this] { linkText.Tick(); });
   // A change is shown behind the rule that makes it, not with the next second.
   phaseShown_ =

@@ -7,6 +7,7 @@
 #include "session/connection.h"
 #include "session/intake.h"
 #include "session/keep_alive.h"
+#include "session/keep_alive_panel.h"
 #include "session/link_text.h"
 #include "session/login.h"
 #include "session/outgoing.h"
@@ -25,6 +26,7 @@ class Session {
     std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
     std::function<void()> delayedWriteCfg;
+    std::function<void()> writeCfg;
     platform::FaultHandler onFault;
   };
 
@@ -41,6 +43,7 @@ class Session {
   Connection connection;
   Login login;
   LinkText linkText;
+  KeepAlivePanel keepAlivePanel;
 
  private:
   platform::Registration showing_;

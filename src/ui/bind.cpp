@@ -55,6 +55,21 @@ void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames) {
   QObject::connect(widget, &QCheckBox::clicked, widget, [&model](bool on) { model.UserSets(on); });
 }
 
+void BindChoice(QComboBox* widget, core::Choice& model, Frames& frames) {
+  BindCommon(widget, model, frames);
+  BindProperty<std::vector<std::string>>(widget, model.Options, frames,
+                                         [widget, &model](const std::vector<std::string>& options) {
+                                           widget->clear();
+                                           for (const std::string& option : options)
+                                             widget->addItem(TextOf(option));
+                                           widget->setCurrentIndex(model.Selected.Get());
+                                         });
+  BindProperty<int>(widget, model.Selected, frames,
+                    [widget](int selected) { widget->setCurrentIndex(selected); });
+  QObject::connect(widget, &QComboBox::activated, widget,
+                   [&model](int option) { model.UserSelects(option); });
+}
+
 void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel, Frames& frames) {
   BindProperty<bool>(widget, open, frames, [widget](bool on) { widget->setVisible(on); });
   QObject::connect(widget, &QDialog::rejected, widget, [&open, &cancel] {

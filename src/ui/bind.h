@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +19,7 @@ namespace ui {
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames);
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames);
 void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames);
+void BindChoice(QComboBox* widget, core::Choice& model, Frames& frames);
 void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames);
 // A dialog that is on show while the model says so. The user's own closing presses `cancel`.
 void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel, Frames& frames);

@@ -24,6 +24,7 @@ QFont FixedFont() {
     break;
   }
   font.setStyleHint(QFont::Monospace);
+  font.setStyleStrategy(QFont::PreferNoShaping);  // "<-" stays two characters
   font.setPixelSize(kPixels);
   return font;
 }

@@ -19,6 +19,7 @@ class StatusLine : public QWidget {
  private:
   Lamp* lamp_;
   QLabel* text_;
+  QLabel* inactivity_;
 };
 
 }  // namespace ui

@@ -40,6 +40,13 @@ QLabel[bad="true"] { color: {bad}; }
 QLabel[heading="true"] { font-weight: 600; }
 QDialog { background: {panel}; }
 QCheckBox { color: {text}; spacing: 8px; }
+QComboBox { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
+            padding: 4px 8px; }
+QComboBox::drop-down { border: none; width: 20px; }
+QComboBox:focus { border-color: {accent}; }
+QComboBox QAbstractItemView { background: {ground}; color: {text}; border: 1px solid {line};
+                              selection-background-color: {selection};
+                              selection-color: {text}; }
 QPushButton { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
               padding: 5px 12px; }
 QPushButton:hover { border-color: {dim}; }
@@ -57,7 +64,7 @@ QPlainTextEdit:focus { border: 1px solid {accent}; }
 QTabBar { background: {panel}; border: none; }
 QTabBar::tab { color: {text}; background: transparent; padding: 8px 14px; margin: 0; border: none;
                border-bottom: 2px solid transparent; }
-QTabBar::tab:hover:!disabled { border-bottom-color: {line}; }
+QTabBar::tab:hover:!selected:!disabled { border-bottom-color: {line}; }
 QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
 QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
@@ -65,7 +72,7 @@ QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle { background: {dim}; border-radius: 4px; margin: 2px; min-height: 24px;
+QScrollBar::handle { background: {handle}; border-radius: 4px; margin: 2px; min-height: 24px;
                      min-width: 24px; }
 QScrollBar::handle:hover { background: {accent}; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
@@ -85,9 +92,15 @@ constexpr std::array kNames = {
     Name{"{selection}", Token::Selection}, Name{"{bad}", Token::Bad},
 };
 
+QColor Between(const QColor& a, const QColor& b) {
+  return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
 QString SheetOf(const Theme& theme) {
   QString sheet = QString::fromLatin1(kSheet);
   for (const Name& each : kNames) sheet.replace(QLatin1String(each.name), theme[each.token].name());
+  sheet.replace(QLatin1String("{handle}"),
+                Between(theme[Token::Line], theme[Token::DimText]).name());
   return sheet;
 }
 

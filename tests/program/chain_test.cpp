@@ -13,8 +13,7 @@ namespace {
 class ChainTest : public testing::Test {
  protected:
   ChainTest() {
-    desk.HasUsualConfiguration();
-    desk.Start().session.intake.onClaimed = [this](int row, std::string_view) {
+    program.session.intake.onClaimed = [this](int row, std::string_view) {
       claimedBy = chain.Name(row);
     };
   }
@@ -22,12 +21,18 @@ class ChainTest : public testing::Test {
   // The name of the row that claims the line; empty if none does.
   std::string Claims(std::string_view line) {
     claimedBy.clear();
-    desk.program->session.intake.InputLine(line);
+    program.session.intake.InputLine(line);
     return claimedBy;
   }
 
+  program::Program& Started() {
+    desk.HasUsualConfiguration();
+    return desk.Start();
+  }
+
   Desk desk;
-  program::LineChain chain{*desk.program};
+  program::Program& program = Started();
+  program::LineChain chain{program};
   std::string claimedBy;
 };
 
@@ -49,7 +54,7 @@ TEST_F(ChainTest, SpotLineEndsAtItsRowWhateverStandsInIt) {
 
 TEST_F(ChainTest, QrxIsClaimedBeforeTheLoginAndNotBehindIt) {
   EXPECT_EQ(Claims("QRX please, restarting"), "QRX");
-  desk.program->session.state.LoggedIn = true;
+  program.session.state.LoggedIn = true;
   EXPECT_EQ(Claims("QRX please, restarting"), "");
 }
 
@@ -60,7 +65,7 @@ TEST_F(ChainTest, LoginPromptIsClaimedByItsRow) {
 
 TEST_F(ChainTest, GreetingIsReadAndClaimedByNone) {
   EXPECT_EQ(Claims("K1TST-2 de N0NODE 20-Nov-2026 2148Z greetings"), "");
-  EXPECT_EQ(desk.program->session.state.ConnectedNodeCall, "N0NODE");
+  EXPECT_EQ(program.session.state.ConnectedNodeCall, "N0NODE");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "session/session_fixture.h"
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -13,6 +15,50 @@ TEST(SpanText, IsToldByItsTwoLargestUnits) {
   EXPECT_EQ(session::SpanText(3599s), "59 m 59 s");
   EXPECT_EQ(session::SpanText(3600s), "1 h 0 m");
   EXPECT_EQ(session::SpanText(52h), "2 d 4 h");
+}
+
+class LinkTextTest : public SessionFixture {
+ protected:
+  std::string State() {
+    program.linkText.Tick();
+    return program.linkText.state.Caption.Get();
+  }
+  std::string Age() {
+    program.linkText.Tick();
+    return program.linkText.age.Caption.Get();
+  }
+};
+
+TEST_F(LinkTextTest, SaysWhatIsBeingDoneAboutTheLink) {
+  EXPECT_EQ(State(), "not connected");
+  PressConnect();
+  EXPECT_EQ(State(), "connecting");
+  LetPass(2s);
+  EXPECT_EQ(State(), "waiting for the login");
+}
+
+TEST_F(LinkTextTest, CountsTheTimeOfTheLinkAndOfItsSilence) {
+  LogIn();
+  EXPECT_EQ(State().substr(0, 10), "connected ");
+  Receive("hello");
+  LetPass(75s);
+  EXPECT_EQ(Age(), "·  last line 1 m 15 s ago");
+}
+
+TEST_F(LinkTextTest, SaysWhyTheLinkEndedAndWhenTheNextTryComes) {
+  LogIn();
+  NodeCloses();
+  const std::string state = State();
+  EXPECT_EQ(state.substr(0, 12), "next try in ") << state;
+  EXPECT_NE(state.find("closed by the node"), std::string::npos) << state;
+  EXPECT_EQ(Age(), "");
+}
+
+TEST_F(LinkTextTest, DisconnectedByTheUserIsSaidSo) {
+  LogIn();
+  PressDisconnect();
+  LetPass(3s);
+  EXPECT_EQ(State(), "not connected  ·  disconnected by you");
 }
 
 }  // namespace

@@ -59,6 +59,7 @@ session::Session::Needs Station::Needs() {
               },
           .askUserInfo = [this] { ++askedUserInfo; },
           .delayedWriteCfg = [this] { ++configurationWrites; },
+          .writeCfg = [] {},
           .onFault =
               [this](std::string_view name, std::string_view what) {
                 faults.push_back(std::string(name) + ": " + std::string(what));

@@ -1,0 +1,48 @@
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/sim/world.h"
+#include "program/program.h"
+
+namespace {
+
+// A mixed stream as a busy node sends it: mostly spots, some announcements, prompts and escapes.
+std::string MixedStream(int lines) {
+  const std::vector<std::string> kinds = {
+      "DX de DL1ABC:    14025.0  3Y0J         CW up 2                        2210Z\a\a",
+      "DX de G3XYZ-#:   18100.1  PY2AA        CW 21 dB 28 WPM CQ             2210Z\a\a",
+      "DX de K1TST:      7012.3  VK9XX/P      this comment is far longer tha 2210Z JN58\a\a",
+      "DX de EA8/DF4UE: 21149.0  PY2BB        100%25 copy %41                2211Z",
+      "To ALL de G3XYZ: good conditions on 6 m tonight",
+      "WWV de VE7CC <18Z> :   SFI=151, A=8, K=2, No Storms -> No Storms",
+      "K1TST-2 de N0NODE 20-Nov-2026 2211Z  dxspider >",
+  };
+  std::string stream;
+  for (int i = 0; i < lines; ++i) {
+    const bool spot = i % 10 < 8;
+    const auto kind = static_cast<std::size_t>(spot ? i % 4 : 4 + i / 10 % 3);
+    stream += kinds[kind] + "\r\n";
+  }
+  return stream;
+}
+
+// From received bytes through framing, the whole chain and the raw view, logged in.
+void Intake(benchmark::State& state) {
+  platform::sim::World world;
+  program::Program program(world.platform(), "/home/op/molva", {.quit = [] {}, .seed = 1});
+  program.Start();
+  world.Run(std::chrono::seconds{1});
+  program.session.state.LoggedIn = true;
+  constexpr int kLines = 10'000;
+  const std::string stream = MixedStream(kLines);
+  for (auto _ : state)
+    for (const char byte : stream)
+      program.session.intake.InputCharacter(static_cast<std::uint8_t>(byte));
+  state.SetItemsProcessed(state.iterations() * kLines);
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(stream.size()));
+}
+BENCHMARK(Intake)->Unit(benchmark::kMillisecond);
+
+}  // namespace
