@@ -6,7 +6,7 @@
 namespace platform {
 namespace {
 
-constexpr std::size_t kMostUnread = 64 * 1024;  // beyond it the transport, then the peer, waits
+constexpr std::size_t kMostUnread = std::size_t{64} * 1024;  // beyond it the transport, then the peer, waits
 
 }  // namespace
 
@@ -95,7 +95,7 @@ void TcpSocket::Fill() {
     unread_.erase(0, taken_);
     taken_ = 0;
   }
-  std::array<char, 16 * 1024> piece;
+  std::array<char, 16384> piece;
   std::string replies;
   while (BytesReceived() < kMostUnread) {
     const std::size_t count = transport_->Read(piece.data(), piece.size());

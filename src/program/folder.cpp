@@ -3,7 +3,7 @@
 namespace program {
 
 std::string ProgramFolder(const Environment& environment) {
-  const std::string home = environment("MOLVA_HOME").value_or("");
+  std::string home = environment("MOLVA_HOME").value_or("");
   if (!home.empty()) return home;
   const std::string data = environment("XDG_DATA_HOME").value_or("");
   if (data.starts_with('/')) return data + "/molva-desk";

@@ -7,7 +7,7 @@ namespace session {
 namespace {
 
 // What one turn takes from the socket: the rest waits for the next, and the window gets its time.
-constexpr std::size_t kTurnBytes = 16 * 1024;
+constexpr std::size_t kTurnBytes = std::size_t{16} * 1024;
 
 }  // namespace
 

@@ -89,7 +89,7 @@ void KeepAlive::SendOne() {
 }
 
 std::string KeepAlive::Text() const {
-  const std::string named = "KeepAlive " + std::string(KeepAliveRx ? "Rx " : "Tx ") +
+  std::string named = "KeepAlive " + std::string(KeepAliveRx ? "Rx " : "Tx ") +
                             std::to_string(KeepAliveMinutes) + "  V" +
                             std::string(core::kProgramVersion);
   if (state_.IsZelva()) return named;

@@ -8,7 +8,7 @@
 namespace session {
 namespace {
 
-constexpr std::size_t kKeptCapacity = 64 * 1024;
+constexpr std::size_t kKeptCapacity = std::size_t{64} * 1024;
 
 struct Prompt {
   std::string_view text;

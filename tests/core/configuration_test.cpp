@@ -17,10 +17,7 @@ using namespace std::chrono_literals;
 using platform::Answer;
 using platform::Message;
 using testing::ElementsAre;
-using testing::EndsWith;
-using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 

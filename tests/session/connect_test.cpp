@@ -6,7 +6,6 @@ using namespace std::chrono_literals;
 using platform::SocketState;
 using session::LinkPhase;
 using session::TimerId;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;

@@ -7,7 +7,6 @@
 
 using namespace std::chrono_literals;
 using platform::SocketState;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::SizeIs;
 

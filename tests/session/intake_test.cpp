@@ -7,7 +7,6 @@
 using namespace std::chrono_literals;
 using platform::SocketState;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 

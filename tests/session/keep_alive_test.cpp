@@ -6,7 +6,6 @@
 
 using namespace std::chrono_literals;
 using session::NodeKind;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {

@@ -9,7 +9,6 @@ using session::LinkPhase;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
 
 namespace {

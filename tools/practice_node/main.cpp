@@ -1,11 +1,8 @@
-#include <unistd.h>
-
 #include <QCoreApplication>
-#include <QSocketNotifier>
-#include <csignal>
 #include <iostream>
 #include <memory>
 
+#include "platform/qt/qt_end_signals.h"
 #include "platform/qt/qt_platform.h"
 #include "practice_node/options.h"
 
@@ -17,24 +14,6 @@ using Lines = std::vector<std::string>;
 
 constexpr int kFailed = 1;
 constexpr int kWronglyCalled = 2;
-
-int endPipe[2];
-
-// In a signal handler nothing but a write is allowed.
-void OnEndSignal(int) {
-  const char byte = 0;
-  [[maybe_unused]] const auto written = write(endPipe[1], &byte, 1);
-}
-
-std::unique_ptr<QSocketNotifier> WatchEndSignals(QCoreApplication& application) {
-  if (pipe(endPipe) != 0) return nullptr;
-  auto notifier = std::make_unique<QSocketNotifier>(endPipe[0], QSocketNotifier::Read);
-  QObject::connect(notifier.get(), &QSocketNotifier::activated, &application,
-                   &QCoreApplication::quit);
-  std::signal(SIGTERM, OnEndSignal);
-  std::signal(SIGINT, OnEndSignal);
-  return notifier;
-}
 
 int Fail(int code, const std::string& why) {
   std::cerr << "molva-practice-node: " << why << std::endl;
@@ -83,6 +62,6 @@ int main(int argc, char** argv) {
     std::cout << practice_node::HelpText();
     return 0;
   }
-  const auto endSignals = WatchEndSignals(application);
+  const platform::qt::QtEndSignals endSignals([] { QCoreApplication::quit(); });
   return Run(parsed.options);
 }
