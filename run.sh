@@ -21,9 +21,13 @@ case "${1:-}" in
     ;;
 esac
 
+# The last one started goes first, so that the client can say goodbye to the node.
 stop_all() {
-  local process
-  for process in "${started[@]}"; do kill "$process" 2>/dev/null || true; done
+  local i
+  for ((i = ${#started[@]} - 1; i >= 0; i--)); do
+    kill "${started[i]}" 2>/dev/null || continue
+    wait "${started[i]}" 2>/dev/null || true
+  done
 }
 trap stop_all EXIT
 
@@ -90,7 +94,14 @@ run_on_virtual_display() {
   MOLVA_HOME=$HOME_FOLDER build/release/src/molva-desk &
   local client=$!
   started+=("$client")
-  sleep "$SECONDS_ON_VIRTUAL_DISPLAY"
+  local seconds
+  for ((seconds = 0; seconds < SECONDS_ON_VIRTUAL_DISPLAY; seconds++)); do
+    sleep 1
+    if ! kill -0 "$client" 2>/dev/null; then
+      echo "The client ended early." >&2
+      exit 1
+    fi
+  done
   import -window root "$SCREENSHOT"
   kill -TERM "$client"
   wait "$client"
@@ -103,7 +114,7 @@ if [ "${1:-}" = --setup ]; then exit 0; fi
 build
 prepare_home
 start_node
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+if [ -n "${DISPLAY:-}" ]; then
   MOLVA_HOME=$HOME_FOLDER build/release/src/molva-desk
 else
   run_on_virtual_display

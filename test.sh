@@ -19,11 +19,6 @@ esac
 need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
 if [ "${1:-}" = --all ]; then need "${CLANG_PACKAGES[@]}"; fi
 
-# No test needs a display.
-export QT_QPA_PLATFORM=offscreen
-# Qt and the font libraries keep memory to the end of the process on purpose.
-export LSAN_OPTIONS=suppressions=$PWD/tests/leak_suppressions.txt:print_suppressions=0
-
 for preset in "${presets[@]}"; do
   echo "== $preset"
   cmake --preset "$preset" -Wno-dev

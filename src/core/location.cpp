@@ -43,7 +43,8 @@ class Angle {
     return fits;
   }
   bool Within(int degrees) const {
-    return count_ > 0 && std::lround(std::min(minutes_, kTooMuch)) <= long{degrees} * kMinutesInDegree;
+    return count_ > 0 &&
+           std::lround(std::min(minutes_, kTooMuch)) <= long{degrees} * kMinutesInDegree;
   }
   int Minutes() const { return static_cast<int>(std::lround(minutes_)); }
 

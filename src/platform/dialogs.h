@@ -15,8 +15,8 @@ struct Message {
   std::string title;
   std::string text;  // line ends are '\n'
   Kind kind = Kind::Plain;
-  std::vector<Answer> answers = {
-      Answer::Ok};  // the buttons, in their order; closing it gives the last
+  // The buttons. Closing the box gives Cancel, else No, else the last of them.
+  std::vector<Answer> answers = {Answer::Ok};
 
   bool operator==(const Message&) const = default;
 };

@@ -6,7 +6,8 @@
 namespace platform {
 namespace {
 
-constexpr std::size_t kMostUnread = std::size_t{64} * 1024;  // beyond it the transport, then the peer, waits
+constexpr std::size_t kMostUnread =
+    std::size_t{64} * 1024;  // beyond it the transport, then the peer, waits
 
 }  // namespace
 

@@ -83,7 +83,8 @@ constexpr std::array<Row, 65> kRows = {{
     {53, "TalkEnd", Pass, Stop::Tail},
     {54, "ArpcReply", Pass, Stop::Tail},
     {55, "Sun", Pass, Stop::Tail},
-    {56, "TalkThruNotice", Pass, Stop::Tail},
+    {56, "TalkThruNotice",
+     [](Program&, Line l) { return l.find("Entering Talk-Thru mode.") != Line::npos; }, Stop::Tail},
     {57, "WwvHistoryRows", Pass, Stop::Tail},
     {58, "SeventyThree", Pass, Stop::Tail},
     {59, "StatUser", Pass, Stop::Tail},
@@ -97,7 +98,12 @@ constexpr std::array<Row, 65> kRows = {{
        return false;
      },
      Stop::Never},
-    {65, "LoginSequence", Pass, Stop::Never},
+    {65, "LoginSequence",
+     [](Program& p, Line l) {
+       p.session.login.LoginSequence(l);
+       return false;
+     },
+     Stop::Never},
 }};
 
 // Over a TNC nothing behind this row is for a session that has not logged in.

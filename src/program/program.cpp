@@ -25,6 +25,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .feed = feed_,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
+               .onNodeKnown = [this] { CaptionSetup(); },
                .delayedWriteCfg = [this] { DelayedWriteCfg(); },
                .writeCfg = [this] { WriteCfg(); },
                .onFault = errorLog.FaultHandler()}),
@@ -84,8 +85,10 @@ void Program::SaveUserInfo(const std::string& password) {
 }
 
 void Program::CaptionSetup() {
+  const std::string& node = session.state.ConnectedNodeCall;
   title.Set("Molva Desk " + std::string(core::kProgramVersion) +
-            (settings.MyCall.empty() ? "" : " @ " + settings.MyCall));
+            (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
+            (node.empty() ? "" : "  (" + node + ")"));
 }
 
 }  // namespace program

@@ -114,6 +114,7 @@ class Program {
   void SaveUserInfo(const std::string& password);
   std::string Path(const char* file) const { return folder_ + "/" + file; }
 
+  bool asking_ = false;  // whether to end
   bool ending_ = false;
   bool folderIsNew_ = false;
   bool configurationIsNew_ = false;

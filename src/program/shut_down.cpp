@@ -1,5 +1,6 @@
 #include <chrono>
 
+#include "core/pause.h"
 #include "program/program.h"
 
 using namespace std::chrono_literals;
@@ -10,14 +11,12 @@ namespace {
 using platform::Answer;
 using platform::Delay;
 
-constexpr auto kPause = 250ms;
 constexpr auto kClosingWait = 2000ms;
 
 }  // namespace
 
 void Program::RequestClose(Close how) {
-  if (ending_) return;
-  ending_ = true;
+  if (ending_ || (asking_ && how == Close::Ask)) return;
   if (Loading) {
     Quit();
     return;
@@ -27,20 +26,20 @@ void Program::RequestClose(Close how) {
 
 platform::Task<> Program::ShutDown(Close how) {
   if (how == Close::Ask && !settings.QuietExit) {
+    asking_ = true;
     const bool agreed = co_await UserAgrees();
-    if (!agreed) {
-      ending_ = false;
-      co_return;
-    }
+    asking_ = false;
+    if (!agreed || ending_) co_return;  // a signal to end asks nobody
   }
+  ending_ = true;
   session.connection.AutoReconnect.Value.Set(false);
   if (WindowHasMoved()) {
     WriteCfg();
-    co_await Delay(4 * kPause);
+    co_await Delay(4 * core::kPause);
   }
   if (session.WinsockOut->State() == platform::SocketState::Connected) {
     session.outgoing.Send("bye");
-    co_await Delay(6 * kPause);
+    co_await Delay(6 * core::kPause);
   } else {
     session.connection.ForceClose();
   }

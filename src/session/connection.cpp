@@ -5,6 +5,7 @@
 #include <chrono>
 #include <utility>
 
+#include "core/pause.h"
 #include "core/text.h"
 #include "session/socket_text.h"
 
@@ -16,7 +17,6 @@ namespace {
 using platform::Delay;
 using platform::SocketState;
 
-constexpr auto kPause = 250ms;
 constexpr auto kConnectEventRest = 250ms;
 constexpr auto kPoll = 10ms;
 constexpr std::string_view kVendorNode = "MOLVA-1";
@@ -90,9 +90,12 @@ void Connection::ChooseHost() {
 }
 
 platform::Task<> Connection::ConnectNode() {
+  // However this ends, text may be read then.
+  const platform::Registration letGo([this] { connectHold_.Release(); });
   if (settings_.MyCall == "-16") settings_.MyCall.clear();
   if (core::Trim(settings_.MyCall).empty()) {
     needs_.askUserInfo();
+    needs_.delayedWriteCfg();
     SessionOver();
     co_return;
   }
@@ -103,8 +106,8 @@ platform::Task<> Connection::ConnectNode() {
   state_.ConnectFailed = false;
   timers_.Restart(TimerId::ConnectionTimeout);
   Show(LinkPhase::Trying);
-  co_await Delay(2 * kPause);
-  if (!state_.UserDisconnected) OpenSocket();
+  co_await Delay(2 * core::kPause);
+  if (!state_.UserDisconnected && !state_.ConnectFailed) OpenSocket();
   while (!state_.SocketConnected && !state_.ConnectFailed && !state_.UserDisconnected) {
     ShowState();
     co_await Delay(kPoll);
@@ -115,9 +118,7 @@ platform::Task<> Connection::ConnectNode() {
     co_return;
   }
   co_await Delay(kConnectEventRest);
-  if (socket_.State() == SocketState::Connected) Show(LinkPhase::Connected);
-  ShowState();
-  connectHold_.Release();
+  if (state_.SocketConnected) ShowState();
 }
 
 void Connection::OpenSocket() {
@@ -129,7 +130,10 @@ void Connection::OpenSocket() {
 
 void Connection::ShowState() {
   const SocketState now = socket_.State();
-  if (now == SocketState::Connected && !state_.LoggedIn) LoginAttempts = 0;
+  if (now == SocketState::Connected && !state_.LoggedIn) {
+    LoginAttempts = 0;
+    Show(LinkPhase::Trying);
+  }
   state_.txtNode.Caption.Set(StateText(now, state_.LoggedIn) + settings_.NodeCall);
 }
 
@@ -166,11 +170,12 @@ void Connection::OnConnect() {
   if (std::exchange(state_.ConnectEventSeen, true)) return;
   Show(LinkPhase::Trying);
   state_.SocketConnected = true;
+  LoginAttempts = 0;
   ConnectedAt = scheduler_.Now();
   state_.LoginMsgActive = true;
   rtbLoginMsg.Clear();
   intake_.ClearLine();
-  // Nothing is read until the connecting routine has ended, however it ends.
+  // Nothing is read until the connecting routine has ended.
   connectHold_ = intake_.Hold();
   timers_.Enable(TimerId::ConnectionTimeout);
   outgoing_.LinkUp();
@@ -203,7 +208,6 @@ void Connection::OnError(const platform::SocketFault& fault) {
 
 void Connection::Disconnected() {
   state_.ConnectEventSeen = false;
-  state_.LoginPromptAnswered = false;
   state_.LoginTextDone = false;
   state_.LoginFinished = false;
   state_.LoginMsgActive = false;
@@ -240,7 +244,10 @@ void Connection::RetryNow() {
     cmdDisconnect.Enabled.Set(false);
     return;
   }
-  if (!AutoReconnect.Value.Get()) return;
+  if (!AutoReconnect.Value.Get()) {
+    SessionOver();
+    return;
+  }
   cmdConnect.Enabled.Set(false);
   cmdDisconnect.Enabled.Set(true);
   WhichNode();
@@ -262,22 +269,22 @@ void Connection::WatchLogin() {
 
 void Connection::GiveUpLogin() {
   ++LoginPatience;
-  WhyEnded = "the node asked for no login";
   state_.ConnectFailed = true;
   timers_.Disable(TimerId::ConnectionTimeout);
   TellFailure("silent",
               "No login request received : " + calendar_.GmtTime() + state_.ConnectedNodeCall);
-  GiveUp();
+  GiveUp("the node asked for no login");
 }
 
-void Connection::GiveUp() {
+void Connection::GiveUp(std::string why) {
+  WhyEnded = std::move(why);
   timers_.Disable(TimerId::Reconnect);
   ForceClose();
   timers_.Enable(TimerId::Reconnect);
 }
 
 void Connection::LoggedInSetup() {
-  ConnectTimeStamp = calendar_.GmtNow();
+  ConnectTimeStamp = scheduler_.Now();
   ConnectedOnce = true;
   Show(LinkPhase::Connected);
   state_.LoggedIn = true;
@@ -302,6 +309,7 @@ void Connection::PressConnect() {
   }
   AutoReconnect.Value.Set(true);
   WhyEnded.clear();
+  toldFailures_.clear();
   state_.UserDisconnected = false;
   Show(LinkPhase::Trying);
   cmdDisconnect.Enabled.Set(true);
@@ -318,7 +326,7 @@ platform::Task<> Connection::PressDisconnect() {
   state_.txtNode.Caption.Set("Ready to Connect");
   if (state_.LoggedIn) {
     outgoing_.Send("BYE");
-    co_await Delay(6 * kPause);
+    co_await Delay(6 * core::kPause);
   }
   // Meanwhile the user may have connected anew.
   if (state_.UserDisconnected && socket_.State() != SocketState::Closed) ForceClose();
@@ -334,6 +342,7 @@ bool Connection::QRX(std::string_view line) {
     return true;
   }
   if (core::StartsWith(line, "Cluster is offline")) {
+    WhyEnded = "the cluster is offline";
     ForceClose();
     state_.txtNode.Caption.Set(std::string(line));
   }
@@ -341,7 +350,11 @@ bool Connection::QRX(std::string_view line) {
 }
 
 bool Connection::ConnectToNode(std::string_view line) {
-  if (!state_.LoginTextDone) NodeIs(GreetingCall(line, settings_.MyCall, settings_.NodeCall));
+  if (state_.LoginTextDone) return false;
+  if (core::StartsWith(line, "%C de %M"))
+    ShowNode(settings_.NodeCall);
+  else
+    NodeIs(GreetingCall(line, settings_.MyCall, settings_.NodeCall));
   return false;
 }
 
@@ -357,7 +370,12 @@ void Connection::NodeIs(std::string call) {
   } else {
     settings_.NodeNumberedAddress.clear();
   }
+  ShowNode(std::move(call));
+}
+
+void Connection::ShowNode(std::string call) {
   state_.ConnectedNodeCall = std::move(call);
+  needs_.onNodeKnown();
   state_.txtNode.Caption.Set("***Connected to: " + state_.ConnectedNodeCall);
 }
 

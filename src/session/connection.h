@@ -33,6 +33,7 @@ class Connection {
     std::function<void()> askUserInfo;      // a call, name or QTH is missing
     std::function<void()> delayedWriteCfg;  // a setting has changed
     std::function<void()> onLoggedIn;
+    std::function<void()> onNodeKnown;  // the node has said its call
     platform::FaultHandler onFault;
   };
 
@@ -43,10 +44,10 @@ class Connection {
   core::Button cmdConnect;     // cmdButton(2)
   core::Button cmdDisconnect;  // cmdButton(1)
   core::Check AutoReconnect;
-  int DisconnectCount = 0;                // sessions that ended in this run of the program
-  platform::UtcTime ConnectTimeStamp;     // of the last login
-  platform::Milliseconds ConnectedAt{0};  // of the last connect event, by the scheduler
-  std::string WhyEnded;                   // the last link, in a few words; empty while one holds
+  int DisconnectCount = 0;                     // sessions that ended in this run of the program
+  platform::Milliseconds ConnectTimeStamp{0};  // of the last login, by the scheduler
+  platform::Milliseconds ConnectedAt{0};       // of the last connect event, by the scheduler
+  std::string WhyEnded;  // the last link, in a few words; empty while one holds
 
   // The login message of the node, as it comes in.
   core::TextPage rtbLoginMsg;
@@ -60,8 +61,8 @@ class Connection {
   // Ends the session from here, or is told that the node did.
   void ForceClose();
 
-  // The link is dead: closes it, and the next try comes one interval later.
-  void GiveUp();
+  // The link is dead: closes it, and the next try comes one interval later. `why` is shown.
+  void GiveUp(std::string why);
 
   // Line handlers; true claims the line.
   bool QRX(std::string_view line);
@@ -88,6 +89,7 @@ class Connection {
   void SessionOver();
   void WaitForRetry();
   void NodeIs(std::string call);
+  void ShowNode(std::string call);
 
   platform::Scheduler& scheduler_;
   const core::Calendar& calendar_;

@@ -45,8 +45,13 @@ void Intake::Turn() {
     batch_ = socket_.GetData(kTurnBytes);
     batchAt_ = 0;
   }
-  while (!Held() && batchAt_ < batch_.size())
-    InputCharacter(static_cast<std::uint8_t>(batch_[batchAt_++]));
+  while (!Held() && batchAt_ < batch_.size()) {
+    try {
+      InputCharacter(static_cast<std::uint8_t>(batch_[batchAt_++]));
+    } catch (const std::exception& fault) {
+      needs_.onFault("InputCharacter", fault.what());
+    }
+  }
 }
 
 void Intake::InputCharacter(std::uint8_t byte) {

@@ -28,12 +28,10 @@ KeepAlive::KeepAlive(Timers& timers, const SessionState& state, Needs needs)
 void KeepAlive::LineReceived() {
   const bool wasSilent = RxInactiveMinutes != 0;
   RxInactiveMinutes = 0;
-  if (!KeepAliveRx) {
-    if (state_.LoggedIn) timers_.Enable(TimerId::KeepAlive);
-    return;
+  if (KeepAliveRx) {
+    timers_.Disable(TimerId::KeepAlive);
+    if (wasSilent) ShowInactivity();
   }
-  timers_.Disable(TimerId::KeepAlive);
-  if (wasSilent) ShowInactivity();
   if (state_.LoggedIn) timers_.Enable(TimerId::KeepAlive);
 }
 
@@ -90,8 +88,7 @@ void KeepAlive::SendOne() {
 
 std::string KeepAlive::Text() const {
   std::string named = "KeepAlive " + std::string(KeepAliveRx ? "Rx " : "Tx ") +
-                            std::to_string(KeepAliveMinutes) + "  V" +
-                            std::string(core::kProgramVersion);
+                      std::to_string(KeepAliveMinutes) + "  V" + std::string(core::kProgramVersion);
   if (state_.IsZelva()) return named;
   if (state_.ArpcRefused) return {};
   return state_.IsArCluster() ? named : " ";

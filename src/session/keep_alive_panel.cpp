@@ -34,7 +34,8 @@ KeepAlivePanel::KeepAlivePanel(KeepAlive& keepAlive, core::Settings& settings, N
 
 void KeepAlivePanel::Load() {
   const bool tnc = settings_.TncMode;
-  const int minutes = std::clamp(tnc ? settings_.TncKAtime : settings_.TelnetKAtime, 0, kMostMinutes);
+  const int minutes =
+      std::clamp(tnc ? settings_.TncKAtime : settings_.TelnetKAtime, 0, kMostMinutes);
   keepAlive_.KeepAliveRx = (tnc ? settings_.TncKA : settings_.TelnetKA) != "Tx";
   keepAlive_.KeepAliveMinutes = minutes;
   keepAlive_.ShowInactivity();

@@ -50,11 +50,12 @@ void LinkText::Tick() {
 
 std::string LinkText::StateNow() const {
   if (session_.LoggedIn) {
-    const auto since = calendar_.GmtNow() - connection_.ConnectTimeStamp;
+    const auto since = scheduler_.Now() - connection_.ConnectTimeStamp;
     return "connected " + SpanText(duration_cast<seconds>(since));
   }
   const std::string why = connection_.WhyEnded.empty() ? "" : "  ·  " + connection_.WhyEnded;
-  if (timers_.Enabled(TimerId::Reconnect) && !session_.UserDisconnected) {
+  const bool retries = connection_.AutoReconnect.Value.Get() && !session_.UserDisconnected;
+  if (retries && timers_.Enabled(TimerId::Reconnect)) {
     const auto left = std::chrono::ceil<seconds>(timers_.Remaining(TimerId::Reconnect));
     return "next try in " + SpanText(left) + why;
   }

@@ -30,6 +30,12 @@ std::string_view LoginPromptIn(std::string_view line) {
   return found == kLoginPrompts.end() ? std::string_view() : *found;
 }
 
+// The first prompt behind the login names the caller: "K1TST-2 de N0NODE 2148Z dxspider >".
+bool IsOwnPrompt(std::string_view line, std::string_view ownCall) {
+  const std::string caller = std::string(core::Trim(ownCall)) + " de ";
+  return core::EndsWith(line, ">") && core::InStrIgnoringCase(line, caller) > 0;
+}
+
 }  // namespace
 
 bool Login::LoginPrompt(std::string_view line) {
@@ -37,8 +43,6 @@ bool Login::LoginPrompt(std::string_view line) {
   const std::string_view prompt = LoginPromptIn(line);
   if (prompt.empty()) return false;
   state_.txtNode.Caption.Set(std::string(line));
-  if (state_.LoginPromptAnswered) return true;
-  state_.LoginPromptAnswered = true;
   if (!outgoing_.Send(core::Trim(settings_.MyCall))) return true;
   connection_.LoggedInSetup();
   state_.txtNode.Caption.Set("***Connected to: " + state_.ConnectedNodeCall);
@@ -47,7 +51,15 @@ bool Login::LoginPrompt(std::string_view line) {
 }
 
 void Login::updatetxtLoginMsg(std::string_view line) {
-  if (state_.LoginMsgActive && !state_.LoginTextDone) connection_.rtbLoginMsg.Append(line);
+  if (!state_.LoginMsgActive || state_.LoginTextDone) return;
+  if (state_.LoggedIn && IsOwnPrompt(line, settings_.MyCall))
+    state_.LoginTextDone = true;
+  else
+    connection_.rtbLoginMsg.Append(line);
+}
+
+void Login::LoginSequence(std::string_view) {
+  if (state_.LoginTextDone) state_.LoginFinished = true;
 }
 
 }  // namespace session

@@ -23,6 +23,8 @@ class Login {
   bool LoginPrompt(std::string_view line);
   // Takes every line that nothing else has taken, while the login text runs.
   void updatetxtLoginMsg(std::string_view line);
+  // Behind the first prompt of the node nothing it says is a prompt of the login any more.
+  void LoginSequence(std::string_view line);
 
  private:
   const core::Settings& settings_;

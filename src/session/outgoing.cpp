@@ -29,6 +29,7 @@ bool Outgoing::Dispatch(Line line) {
     return true;
   }
   if (socket_.State() != platform::SocketState::Connected) return false;
+  LinkUp();  // its event may still be on its way
   Put(line);
   return true;
 }

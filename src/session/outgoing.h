@@ -13,7 +13,7 @@ namespace session {
 // Everything that goes to the node, and what the operator sees of the traffic.
 class Outgoing {
  public:
-  // `lineSent` is told of each line that is sent.
+  // `lineSent` is told of each line that is to be sent, a lost one too.
   Outgoing(platform::TcpSocket& socket, std::function<void()> lineSent)
       : socket_(socket), lineSent_(std::move(lineSent)) {}
 

@@ -10,7 +10,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       timers(platform.scheduler, needs.onFault),
       keepAlive(timers, state,
                 {.sendAsIs = [this](const std::string& text) { outgoing.SendAsIs(text); },
-                 .giveUp = [this] { connection.GiveUp(); }}),
+                 .giveUp = [this] { connection.GiveUp("the node fell silent"); }}),
       outgoing(*WinsockOut, [this] { keepAlive.LineSent(); }),
       commandLine(outgoing),
       intake(platform.scheduler, *WinsockOut, state, needs.chain, needs.feed,
@@ -29,6 +29,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                         commandLine.txtCmdLine.Text.Set({});
                         keepAlive.LoggedIn();
                       },
+                  .onNodeKnown = needs.onNodeKnown,
                   .onFault = needs.onFault}),
       login(settings, state, outgoing, connection),
       linkText(platform.scheduler, calendar, settings, state, connection, intake, timers),

@@ -25,6 +25,7 @@ class Session {
     LineFeed& feed;
     std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
+    std::function<void()> onNodeKnown;
     std::function<void()> delayedWriteCfg;
     std::function<void()> writeCfg;
     platform::FaultHandler onFault;

@@ -22,9 +22,8 @@ struct SessionState {
   bool ConnectFailed = false;    // the attempt is to be given up, and its failure shown
   bool UserDisconnected = true;  // nothing reconnects by itself until a connect
   bool ConnectEventSeen = false;
-  bool LoginMsgActive = false;       // the login text is being collected
-  bool LoginPromptAnswered = false;  // on this connection
-  bool LoginTextDone = false;        // the first prompt behind the login has come
+  bool LoginMsgActive = false;    // the login text is being collected
+  bool LoginTextDone = false;     // the first prompt behind the login has come
   bool LoginFinished = false;     // the login sequence is complete: prompts for it mean nothing now
   std::string ConnectedNodeCall;  // the call that the node gave for itself
   std::string ConnectHost;        // what this attempt goes to: a name or an address

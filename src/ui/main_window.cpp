@@ -1,6 +1,7 @@
 #include "ui/main_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -29,6 +30,14 @@ int Twips(int pixels) { return pixels * kTwipsPerPixel; }
 // The tabs in their order. A tab without a page yet stands there disabled.
 constexpr std::array kTabs = {"Settings", "Country",   "State", "Bands",   "Users", "DX",
                               "WWV",      "Login Msg", "Ann",   "Wx Plus", "Mail"};
+
+// A screen may have gone since the place was stored.
+bool OnSomeScreen(const QRect& place) {
+  const auto screens = QGuiApplication::screens();
+  return std::any_of(screens.begin(), screens.end(), [&](const QScreen* each) {
+    return each->availableGeometry().intersects(place);
+  });
+}
 
 }  // namespace
 
@@ -63,8 +72,10 @@ void MainWindow::Place(const program::FormPlace& place) {
   if (place.width == 0) {
     resize(kUsualSize.boundedTo(room));
   } else {
-    move(Pixels(place.left), Pixels(place.top));
-    resize(Pixels(place.width), Pixels(place.height));
+    const QRect wanted(Pixels(place.left), Pixels(place.top), Pixels(place.width),
+                       Pixels(place.height));
+    if (OnSomeScreen(wanted)) move(wanted.topLeft());
+    resize(wanted.size());
   }
   if (place.inputHeight > 0) {
     const int raw = Pixels(place.inputHeight);

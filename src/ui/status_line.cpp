@@ -13,7 +13,10 @@ constexpr int kHeight = 24;
 
 StatusLine::StatusLine(session::Session& session, Frames& frames, const Theme& theme,
                        QWidget* parent)
-    : QWidget(parent), lamp_(new Lamp(this)), text_(new QLabel(this)), inactivity_(new QLabel(this)) {
+    : QWidget(parent),
+      lamp_(new Lamp(this)),
+      text_(new QLabel(this)),
+      inactivity_(new QLabel(this)) {
   setObjectName(QStringLiteral("StatusLine"));
   setAttribute(Qt::WA_StyledBackground);
   setFixedHeight(kHeight);

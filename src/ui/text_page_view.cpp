@@ -10,9 +10,9 @@
 namespace ui {
 namespace {
 
-// A line of megabytes is no use to a reader, and laying it out would hold up the window.
 constexpr int kMargin = 8;  // besides the document's own 4
 
+// A line of megabytes is no use to a reader, and laying it out would hold up the window.
 constexpr core::Position kLongestShown = 4000;
 
 }  // namespace

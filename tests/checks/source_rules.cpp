@@ -45,8 +45,7 @@ std::string Place(std::string_view path, int line, const std::string& what) {
 
 bool IsComment(const std::string& line) {
   const auto start = line.find_first_not_of(" \t");
-  return start != std::string::npos &&
-         (line.compare(start, 2, "//") == 0 || line.compare(start, 1, "*") == 0);
+  return start != std::string::npos && line.compare(start, 2, "//") == 0;
 }
 
 Findings Matches(std::string_view path, std::string_view source, const std::regex& pattern) {
@@ -64,7 +63,8 @@ std::optional<std::string> WrongInclude(std::string_view path, const std::string
   std::smatch match;
   if (!std::regex_search(line, match, kInclude)) return std::nullopt;
   const std::string header = match[2];
-  if (match[1] == "<") {
+  if (header.find("..") != std::string::npos) return "includes by a way around: " + header;
+  if (match[1] == "<" && !kRanks.contains(TopFolder(header))) {
     const bool qt = header.starts_with("Q") || header.starts_with("qt");
     return qt && !MayUseQt(path) ? std::optional("includes Qt: " + header) : std::nullopt;
   }

@@ -62,6 +62,10 @@ TEST(SourceRules, FolderOrderFindsWhatBreaksIt) {
       ElementsAre("program/a.cpp:1: includes the simulated platform: platform/sim/world.h"));
   EXPECT_THAT(checks::FolderOrder("ui/a.cpp", "#include <QString>\n#include \"program/b.h\""),
               IsEmpty());
+  EXPECT_THAT(checks::FolderOrder("core/a.cpp", "#include <ui/b.h>"),
+              ElementsAre("core/a.cpp:1: includes a later folder: ui/b.h"));
+  EXPECT_THAT(checks::FolderOrder("core/a.cpp", "#include \"../ui/b.h\""),
+              ElementsAre("core/a.cpp:1: includes by a way around: ../ui/b.h"));
   EXPECT_THAT(checks::FolderOrder("unknown/a.cpp", "#include \"core/b.h\""),
               ElementsAre("unknown/a.cpp:1: includes a later folder: core/b.h"));
 }
@@ -78,6 +82,7 @@ TEST(SourceRules, ClocksAreFoundOutsidePlatformAndNotInComments) {
 TEST(SourceRules, NestedLoopsAreFoundEverywhereButInMain) {
   EXPECT_THAT(checks::NoNestedLoop("platform/qt/a.cpp", "box.exec();"),
               ElementsAre("platform/qt/a.cpp:1: .exec("));
+  EXPECT_THAT(checks::NoNestedLoop("ui/a.cpp", "*p = box.exec();"), testing::SizeIs(1));
   EXPECT_THAT(checks::NoNestedLoop("ui/a.cpp", "socket->waitForConnected(100);"),
               testing::SizeIs(1));
   EXPECT_THAT(checks::NoNestedLoop("main.cpp", "return QApplication::exec();"), IsEmpty());

@@ -40,6 +40,7 @@ void Desk::LogIn() {
   node.SayBytes("login: ");
   Run(1s);
   node.Say("");
+  node.Say("Welcome to N0DE-1");
   node.Say("K1TST-2 de N0DE-1  20-Nov-2026 2100Z >");
   Run(1s);
 }

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <set>
+#include <algorithm>
 
 #include "program/desk.h"
 
@@ -66,6 +66,48 @@ TEST_F(ChainTest, LoginPromptIsClaimedByItsRow) {
 TEST_F(ChainTest, GreetingIsReadAndClaimedByNone) {
   EXPECT_EQ(Claims("K1TST-2 de N0NODE 20-Nov-2026 2148Z greetings"), "");
   EXPECT_EQ(program.session.state.ConnectedNodeCall, "N0NODE");
+}
+
+TEST_F(ChainTest, TalkThruNoticeIsClaimed) {
+  EXPECT_EQ(Claims("Entering Talk-Thru mode."), "TalkThruNotice");
+}
+
+// Bytes as a node sends them, through the real rows.
+class LoginByRowsTest : public ChainTest {
+ protected:
+  LoginByRowsTest() {
+    program.session.outgoing.NodePassword = "secret";
+    desk.StartNode();
+    program.session.connection.cmdConnect.Press();
+    EXPECT_TRUE(desk.world.RunUntil([&] { return program.session.state.LoggedIn; }));
+    desk.StopNode();
+  }
+  void Feed(const std::string& bytes) {
+    for (const char byte : bytes)
+      program.session.intake.InputCharacter(static_cast<std::uint8_t>(byte));
+  }
+  bool RawViewHas(const std::string& line) {
+    const auto& lines = program.session.outgoing.Text2.Lines();
+    return std::find(lines.begin(), lines.end(), line) != lines.end();
+  }
+};
+
+TEST_F(LoginByRowsTest, PasswordIsGivenUntilTheFirstPromptAndNeverBehindIt) {
+  Feed("password:");
+  EXPECT_TRUE(RawViewHas("   <- ********"));
+  program.session.outgoing.Text2.Clear();
+  Feed("\r\nWelcome <friend>\r\nK1TST-2 de N0DE-1 20-Nov-2026 2148Z dxspider >\r\n");
+  Feed("password: asked by somebody in a talk\r\nlogin: in the middle\r\n");
+  EXPECT_FALSE(RawViewHas("   <- ********"));
+  EXPECT_TRUE(RawViewHas("password: asked by somebody in a talk"));
+  EXPECT_TRUE(RawViewHas("login: in the middle"));
+}
+
+TEST_F(LoginByRowsTest, LoginMessageEndsWithTheFirstPrompt) {
+  Feed("\r\nWelcome\r\nPlease enter your name, set/name <your name>\r\n");
+  Feed("K1TST-2 de N0DE-1 20-Nov-2026 2148Z dxspider >\r\nsomething else\r\n");
+  const auto& lines = program.session.connection.rtbLoginMsg.Lines();
+  EXPECT_EQ(lines.back(), "Please enter your name, set/name <your name>");
 }
 
 }  // namespace

@@ -82,6 +82,19 @@ TEST_F(ShutDownTest, SecondRequestChangesNothing) {
   EXPECT_EQ(desk.quits, 1);
 }
 
+TEST_F(ShutDownTest, SignalToEndAsksNobodyEvenWhileTheQuestionIsOpen) {
+  Program& program = StartConnected();
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(1s);
+  ASSERT_TRUE(desk.world.dialogs.OnShow("Molva Desk"));
+  program.RequestClose(Program::Close::WithoutAsking);
+  desk.world.Run(10s);
+  EXPECT_EQ(desk.quits, 1);
+  desk.world.dialogs.AnswerNow("Molva Desk", Answer::Ok);
+  desk.world.Run(10s);
+  EXPECT_EQ(desk.quits, 1);
+}
+
 TEST_F(ShutDownTest, NothingReconnectsMeanwhile) {
   Program& program = StartConnected();
   program.RequestClose(Program::Close::WithoutAsking);

@@ -37,6 +37,26 @@ TEST_F(LinkTextTest, SaysWhatIsBeingDoneAboutTheLink) {
   EXPECT_EQ(State(), "waiting for the login");
 }
 
+TEST_F(LinkTextTest, NodeThatSaysNothingIsNotShownAsConnected) {
+  PressConnect();
+  LetPass(5s);
+  EXPECT_EQ(program.state.Phase.Get(), session::LinkPhase::Trying);
+}
+
+TEST_F(LinkTextTest, SaysNothingOfATryThatWillNotCome) {
+  settings.MyCall.clear();
+  PressConnect();
+  LetPass(2s);
+  EXPECT_EQ(State(), "not connected");
+}
+
+TEST_F(LinkTextTest, StepOfTheWallClockDoesNotChangeHowLongTheLinkHasHeld) {
+  LogIn();
+  const std::string before = State();
+  world.clock.Set(world.clock.UtcNow() + 5h);
+  EXPECT_EQ(State(), before);
+}
+
 TEST_F(LinkTextTest, CountsTheTimeOfTheLinkAndOfItsSilence) {
   LogIn();
   EXPECT_EQ(State().substr(0, 10), "connected ");

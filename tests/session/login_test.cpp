@@ -100,7 +100,7 @@ TEST_F(LoginTest, SessionIsLoggedInOnceTheCallIsSent) {
   EXPECT_EQ(program.state.Phase.Get(), LinkPhase::Connected);
   EXPECT_EQ(program.commandLine.txtCmdLine.Text.Get(), "");
   EXPECT_THAT(txtNode(), HasSubstr("***Connected to: "));
-  EXPECT_LE(world.clock.UtcNow() - program.connection.ConnectTimeStamp, 1s);
+  EXPECT_LE(world.scheduler.Now() - program.connection.ConnectTimeStamp, 1s);
 }
 
 TEST_F(LoginTest, GreetingBehindThePromptNamesTheNode) {

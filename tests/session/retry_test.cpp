@@ -99,12 +99,14 @@ TEST_F(Retry, LinkThatIsResetIsMadeAgainOneIntervalLater) {
 
 TEST_F(Retry, LossEndsEverythingAboutTheSession) {
   LogIn();
+  program.state.LoginTextDone = true;
+  program.state.LoginFinished = true;
   NodeCloses();
+  EXPECT_FALSE(program.state.LoginFinished);
   EXPECT_FALSE(program.state.LoggedIn);
   EXPECT_FALSE(program.state.SocketConnected);
   EXPECT_FALSE(program.state.LoginMsgActive);
   EXPECT_FALSE(program.state.ConnectEventSeen);
-  EXPECT_FALSE(program.state.LoginPromptAnswered);
   EXPECT_FALSE(program.state.LoginTextDone);
   EXPECT_EQ(SocketState(), SocketState::Closed);
 }

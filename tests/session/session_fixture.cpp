@@ -58,6 +58,7 @@ session::Session::Needs Station::Needs() {
                 return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};
               },
           .askUserInfo = [this] { ++askedUserInfo; },
+          .onNodeKnown = [] {},
           .delayedWriteCfg = [this] { ++configurationWrites; },
           .writeCfg = [] {},
           .onFault =

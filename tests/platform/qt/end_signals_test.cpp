@@ -20,7 +20,9 @@ TEST(QtEndSignals, EachSignalToEndBecomesACallFromTheEventLoop) {
 }
 
 TEST(QtEndSignals, BehindThemASignalHasItsUsualEffect) {
-  { const platform::qt::QtEndSignals signals([] {}); }
+  {
+    const platform::qt::QtEndSignals signals([] {});
+  }
   EXPECT_EXIT(static_cast<void>(std::raise(SIGTERM)), testing::KilledBySignal(SIGTERM), "");
 }
 
