@@ -66,7 +66,7 @@ std::string LinkText::StateNow() const {
 std::string LinkText::AgeNow() const {
   if (!session_.SocketConnected || intake_.LastLineAt < connection_.ConnectedAt) return {};
   const auto silent = duration_cast<seconds>(scheduler_.Now() - intake_.LastLineAt);
-  return "·  last line " + SpanText(silent) + " ago";
+  return "last line " + SpanText(silent) + " ago";
 }
 
 }  // namespace session

@@ -61,7 +61,7 @@ void LinkBar::Lay() {
   // while the seconds count.
   node_->setMinimumWidth(1);
   state_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("connected 59 m 59 s")));
-  age_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("·  last line 59 m 59 s ago")));
+  age_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("last line 59 m 59 s ago")));
 }
 
 void LinkBar::Name() {

@@ -40,13 +40,6 @@ QLabel[bad="true"] { color: {bad}; }
 QLabel[heading="true"] { font-weight: 600; }
 QDialog { background: {panel}; }
 QCheckBox { color: {text}; spacing: 8px; }
-QComboBox { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
-            padding: 4px 8px; }
-QComboBox::drop-down { border: none; width: 20px; }
-QComboBox:focus { border-color: {accent}; }
-QComboBox QAbstractItemView { background: {ground}; color: {text}; border: 1px solid {line};
-                              selection-background-color: {selection};
-                              selection-color: {text}; }
 QPushButton { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
               padding: 5px 12px; }
 QPushButton:hover { border-color: {dim}; }
@@ -70,6 +63,7 @@ QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
 QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
+QAbstractScrollArea::corner { background: {ground}; border: none; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
 QScrollBar::handle { background: {handle}; border-radius: 4px; margin: 2px; min-height: 24px;

@@ -62,7 +62,7 @@ TEST_F(LinkTextTest, CountsTheTimeOfTheLinkAndOfItsSilence) {
   EXPECT_EQ(State().substr(0, 10), "connected ");
   Receive("hello");
   LetPass(75s);
-  EXPECT_EQ(Age(), "·  last line 1 m 15 s ago");
+  EXPECT_EQ(Age(), "last line 1 m 15 s ago");
 }
 
 TEST_F(LinkTextTest, SaysWhyTheLinkEndedAndWhenTheNextTryComes) {
