@@ -97,11 +97,13 @@ void Intake::Run(std::string_view line, int row) {
   while (row <= chain_.Rows()) {
     if (ClosedToSession(row)) return;
     const std::uint64_t pushedBefore = steps_.Pushed();
+    const std::uint64_t sessionBefore = sessions_;
     const Chain::Claim claim = Offer(row, line);
     if (claim != Chain::Claim::None && onClaimed) onClaimed(row, line);
     if (claim == Chain::Claim::Quiet) return;
     row = claim == Chain::Claim::Tail ? chain_.Rows() + 1 : row + 1;
     if (steps_.Pushed() != pushedBefore) {
+      if (sessions_ != sessionBefore) return;  // the row has closed the session as well
       steps_.Push("Rest", Rest(std::string(line), row));
       return;
     }
@@ -137,6 +139,7 @@ void Intake::PushStep(std::string name, platform::Task<> step) {
 }
 
 void Intake::Drop() {
+  ++sessions_;
   batch_.clear();
   batchAt_ = 0;
   line_.Clear();

@@ -85,6 +85,7 @@ class Intake {
   std::string batch_;
   std::size_t batchAt_ = 0;
   int holds_ = 0;
+  std::uint64_t sessions_ = 0;  // that have been closed
   platform::Registration goingOn_;
   Steps steps_;
 };

@@ -43,6 +43,18 @@ TEST_F(Waiting, RowsBehindTheOneThatWaitsSeeTheLineWhenItsStepIsDone) {
   EXPECT_FALSE(program.intake.Held());
 }
 
+TEST_F(Waiting, LineWhoseRowWaitsAndClosesTheSessionEndsThere) {
+  on["First"] = [this](std::string_view) {
+    program.intake.PushStep("never", Step("never", 1s));
+    program.connection.ForceClose();
+    return Claim::None;
+  };
+  Receive("wait");
+  LetPass(5s);
+  EXPECT_THAT(Way(), ElementsAre("First: wait"));
+  EXPECT_FALSE(program.intake.Held());
+}
+
 TEST_F(Waiting, LaterLinesWaitForTheWholeWayOfTheEarlierOne) {
   WaitsIn("First");
   ReceiveBytes("wait\r\nnext\r\n");
