@@ -1,7 +1,6 @@
 #include "session/connection.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <utility>
 
@@ -19,22 +18,13 @@ using platform::SocketState;
 
 constexpr auto kConnectEventRest = 250ms;
 constexpr auto kPoll = 10ms;
-constexpr std::string_view kVendorNode = "MOLVA-1";
-
-// Four parts, each of digits alone.
-bool IsDotted(std::string_view address) {
-  const auto parts = core::Split(address, ".");
-  const auto numeric = [](std::string_view part) {
-    return !part.empty() && part.find_first_not_of("0123456789") == std::string_view::npos;
-  };
-  return parts.size() == 4 && std::all_of(parts.begin(), parts.end(), numeric);
-}
 
 }  // namespace
 
 Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& calendar,
                        core::Settings& settings, SessionState& state, platform::TcpSocket& socket,
-                       Outgoing& outgoing, Intake& intake, Timers& timers, Needs needs)
+                       Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress, Timers& timers,
+                       Needs needs)
     : scheduler_(scheduler),
       calendar_(calendar),
       settings_(settings),
@@ -42,6 +32,7 @@ Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& cal
       socket_(socket),
       outgoing_(outgoing),
       intake_(intake),
+      nodeAddress_(nodeAddress),
       timers_(timers),
       needs_(std::move(needs)),
       connectPressed_(cmdConnect.Click.Add([this] { PressConnect(); })),
@@ -62,31 +53,13 @@ Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& cal
   AutoReconnect.Value.Set(true);
 }
 
-void Connection::EnsureNode() {
-  const bool vendorHostUnknown = settings_.NodeCall == kVendorNode && settings_.NodeHost.empty();
-  if (core::Len(settings_.NodeCall) >= 2 && !vendorHostUnknown) return;
-  const DefaultNode node = needs_.defaultNode();
-  settings_.NodeCall = node.call;
-  settings_.NodeHost = node.host;
-  settings_.NodePort = node.port;
-  needs_.delayedWriteCfg();
-}
-
 void Connection::WhichNode() {
-  EnsureNode();
-  ChooseHost();
+  nodeAddress_.EnsureNode();
+  state_.ConnectHost = nodeAddress_.ChooseHost();
   timers_.Disable(TimerId::Reconnect);
   connecting_.CancelAll();
   connectHold_.Release();
   connecting_.Start("ConnectNode", ConnectNode());
-}
-
-void Connection::ChooseHost() {
-  if (core::StartsWith(settings_.NodeCall, "MOLVA") && !settings_.MolvaNumberedAddress.empty())
-    settings_.NodeNumberedAddress = settings_.MolvaNumberedAddress;
-  const bool numbered = !TryHostName && IsDotted(settings_.NodeNumberedAddress);
-  TryHostName = !TryHostName;
-  state_.ConnectHost = numbered ? settings_.NodeNumberedAddress : settings_.NodeHost;
 }
 
 platform::Task<> Connection::ConnectNode() {
@@ -351,30 +324,16 @@ bool Connection::QRX(std::string_view line) {
 
 bool Connection::ConnectToNode(std::string_view line) {
   if (state_.LoginTextDone) return false;
-  if (core::StartsWith(line, "%C de %M"))
-    ShowNode(settings_.NodeCall);
-  else
-    NodeIs(GreetingCall(line, settings_.MyCall, settings_.NodeCall));
+  const bool unexpanded = core::StartsWith(line, "%C de %M");
+  const std::string call = GreetingCall(line, settings_.MyCall, settings_.NodeCall);
+  if (call.empty()) return false;
+  if (!unexpanded) nodeAddress_.Learn(call, socket_.RemoteHostIP());
+  ShowNode(call);
   return false;
 }
 
-void Connection::NodeIs(std::string call) {
-  if (call.empty()) return;
-  if (call == kVendorNode) {
-    TryHostName = false;
-    settings_.MolvaNumberedAddress = socket_.RemoteHostIP();
-    settings_.NodeNumberedAddress = socket_.RemoteHostIP();
-  } else if (call == settings_.NodeCall) {
-    TryHostName = false;
-    settings_.NodeNumberedAddress = socket_.RemoteHostIP();
-  } else {
-    settings_.NodeNumberedAddress.clear();
-  }
-  ShowNode(std::move(call));
-}
-
-void Connection::ShowNode(std::string call) {
-  state_.ConnectedNodeCall = std::move(call);
+void Connection::ShowNode(const std::string& call) {
+  state_.ConnectedNodeCall = call;
   needs_.onNodeKnown();
   state_.txtNode.Caption.Set("***Connected to: " + state_.ConnectedNodeCall);
 }

@@ -11,25 +11,18 @@
 #include "platform/tasks.h"
 #include "platform/tcp.h"
 #include "session/intake.h"
+#include "session/node_address.h"
 #include "session/outgoing.h"
 #include "session/session_state.h"
 #include "session/timers.h"
 
 namespace session {
 
-// The node to take while none is chosen.
-struct DefaultNode {
-  std::string call;
-  std::string host;
-  std::string port;
-};
-
 // The one link to the chosen node: making it, noticing that it is dead, and making it again.
 class Connection {
  public:
   // What the connection asks of the program around it.
   struct Needs {
-    std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;      // a call, name or QTH is missing
     std::function<void()> delayedWriteCfg;  // a setting has changed
     std::function<void()> onLoggedIn;
@@ -39,7 +32,8 @@ class Connection {
 
   Connection(platform::Scheduler& scheduler, const core::Calendar& calendar,
              core::Settings& settings, SessionState& state, platform::TcpSocket& socket,
-             Outgoing& outgoing, Intake& intake, Timers& timers, Needs needs);
+             Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress, Timers& timers,
+             Needs needs);
 
   core::Button cmdConnect;     // cmdButton(2)
   core::Button cmdDisconnect;  // cmdButton(1)
@@ -52,8 +46,6 @@ class Connection {
   // The login message of the node, as it comes in.
   core::TextPage rtbLoginMsg;
 
-  // Takes the default node while none is chosen, or the chosen one has no host.
-  void EnsureNode();
   // The way into every telnet connect.
   void WhichNode();
   // The call was sent to a login prompt.
@@ -69,7 +61,6 @@ class Connection {
   bool ConnectToNode(std::string_view line);
 
  private:
-  void ChooseHost();
   platform::Task<> ConnectNode();
   void OpenSocket();
   void ShowState();
@@ -88,8 +79,7 @@ class Connection {
 
   void SessionOver();
   void WaitForRetry();
-  void NodeIs(std::string call);
-  void ShowNode(std::string call);
+  void ShowNode(const std::string& call);
 
   platform::Scheduler& scheduler_;
   const core::Calendar& calendar_;
@@ -98,13 +88,13 @@ class Connection {
   platform::TcpSocket& socket_;
   Outgoing& outgoing_;
   Intake& intake_;
+  NodeAddress& nodeAddress_;
   Timers& timers_;
   Needs needs_;
 
   int LoginAttempts = 0;  // ticks of the login watch since the socket was connected
   int LoginPatience = 2;  // ticks to wait for a first byte
   bool ConnectedOnce = false;
-  bool TryHostName = false;
   bool Disconnecting = false;
   std::set<std::string> toldFailures_;  // since the last login: not said again for each retry
   platform::Registration connectHold_;

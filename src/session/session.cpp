@@ -19,10 +19,11 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
               .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
               .sendPassword = [this] { outgoing.SendPassword(); },
               .onFault = needs.onFault}),
+      nodeAddress(settings,
+                  {.defaultNode = needs.defaultNode, .delayedWriteCfg = needs.delayedWriteCfg}),
       connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
-                 timers,
-                 {.defaultNode = needs.defaultNode,
-                  .askUserInfo = needs.askUserInfo,
+                 nodeAddress, timers,
+                 {.askUserInfo = needs.askUserInfo,
                   .delayedWriteCfg = needs.delayedWriteCfg,
                   .onLoggedIn =
                       [this] {

@@ -41,6 +41,7 @@ class Session {
   Outgoing outgoing;
   CommandLine commandLine;
   Intake intake;
+  NodeAddress nodeAddress;
   Connection connection;
   Login login;
   LinkText linkText;
