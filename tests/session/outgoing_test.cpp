@@ -6,10 +6,8 @@
 
 using namespace std::chrono_literals;
 using platform::SocketState;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 namespace {
 

@@ -5,7 +5,6 @@
 using namespace std::chrono_literals;
 using platform::SocketState;
 using session::LinkPhase;
-using testing::IsEmpty;
 using testing::SizeIs;
 
 namespace {

@@ -94,7 +94,7 @@ std::shared_ptr<QtDialogs::Shown> QtDialogs::Show(Message message) {
     if (each->message == message) return each;
   QMessageBox* const box = MakeBox(message);
   const Answer closing = AnswerOfClosing(message.answers);
-  const std::shared_ptr<Shown> shown(new Shown{std::move(message), box, closing, {}});
+  std::shared_ptr<Shown> shown(new Shown{std::move(message), box, closing, {}});
   shown_.push_back(shown);
   QObject::connect(box, &QMessageBox::finished, &receiver_, [this, shown] {
     shown->answer = AnswerPressed(*shown->box, shown->message, shown->answer);

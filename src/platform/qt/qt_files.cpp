@@ -124,7 +124,7 @@ Files::Content QtFiles::Read(const std::string& path) {
   if (!S_ISREG(found.st_mode)) return {Fault::Other, {}};
   Content content;
   content.bytes.reserve(static_cast<std::size_t>(found.st_size));
-  std::array<char, 64 * 1024> piece;
+  std::array<char, 65536> piece;
   for (;;) {
     const ssize_t count = Retried([&] { return read(file.Get(), piece.data(), piece.size()); });
     if (count < 0) return {FaultOf(errno), {}};

@@ -11,7 +11,7 @@
 namespace platform::qt {
 namespace {
 
-constexpr qint64 kReadBuffer = 64 * 1024;
+constexpr qint64 kReadBuffer = qint64{64} * 1024;
 
 constexpr char kNoDevice[] = "no such device";
 constexpr char kNotAPort[] = "not a serial port, or it does not take these settings";

@@ -10,7 +10,7 @@
 namespace platform::qt {
 namespace {
 
-constexpr qint64 kReadBuffer = 64 * 1024;
+constexpr qint64 kReadBuffer = qint64{64} * 1024;
 
 // How long a closed socket may go on sending to a peer that doesn't take it.
 constexpr Milliseconds kLongestFarewell = std::chrono::seconds(30);
