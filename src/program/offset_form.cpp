@@ -8,8 +8,11 @@
 namespace program {
 
 OffsetForm::OffsetForm(std::function<void(const std::string&)> chosen)
-    : chosen_(std::move(chosen)), ok_(cmdOk.Click.Add([this] { PressOk(); })) {
+    : chosen_(std::move(chosen)),
+      ok_(cmdOk.Click.Add([this] { PressOk(); })),
+      cancel_(cmdCancel.Click.Add([this] { Open.Set(false); })) {
   cmdOk.Caption.Set("OK");
+  cmdCancel.Caption.Set("Cancel");
   chkSystemZone.Caption.Set("Use the computer's time zone");
 }
 

@@ -18,6 +18,7 @@ class OffsetForm {
   core::TextBox txtHours;
   core::Label lblProblem;
   core::Button cmdOk;
+  core::Button cmdCancel;  // leaves the question for the next start
 
   void Show();
 
@@ -26,6 +27,7 @@ class OffsetForm {
 
   std::function<void(const std::string&)> chosen_;
   platform::Registration ok_;
+  platform::Registration cancel_;
 };
 
 // Hours to add to local time to get GMT, between -24 and 24, with a fraction or without.

@@ -58,7 +58,6 @@ void Connection::WhichNode() {
   state_.ConnectHost = nodeAddress_.ChooseHost();
   timers_.Disable(TimerId::Reconnect);
   connecting_.CancelAll();
-  connectHold_.Release();
   connecting_.Start("ConnectNode", ConnectNode());
 }
 

@@ -110,9 +110,8 @@ void LinkBar::HandFocusOn() {
 void LinkBar::ShowButtons() {
   const auto& connection = program_.session.connection;
   // One of the two is right at any time; while a retry is awaited both are.
-  const bool both = connection.cmdConnect.Enabled.Get() && connection.cmdDisconnect.Enabled.Get();
-  connect_->setVisible(both || connection.cmdConnect.Enabled.Get());
-  disconnect_->setVisible(both || connection.cmdDisconnect.Enabled.Get());
+  connect_->setVisible(connection.cmdConnect.Enabled.Get());
+  disconnect_->setVisible(connection.cmdDisconnect.Enabled.Get());
 }
 
 }  // namespace ui

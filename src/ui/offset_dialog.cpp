@@ -25,8 +25,8 @@ OffsetDialog::OffsetDialog(program::OffsetForm& model, Frames& frames, QWidget* 
   BindProperty<bool>(hours, model.chkSystemZone.Value, frames,
                      [hours](bool system) { hours->setEnabled(!system); });
   AddProblem(form, model.lblProblem, frames);
-  AddButtons(form, {&model.cmdOk}, frames);
-  BindDialog(this, model.Open, model.cmdOk, frames);
+  AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
+  BindDialog(this, model.Open, model.cmdCancel, frames);
 }
 
 }  // namespace ui

@@ -79,6 +79,20 @@ TEST_F(StartUpTest, EmptyGmtOffsetOpensItsFormWhichHoldsNothingUp) {
   EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"Gmt Offset\",\"-5.5\"\r\n"));
 }
 
+TEST_F(StartUpTest, GmtOffsetFormThatIsCancelledStoresNothingAndAsksAgainNextTime) {
+  desk.HasConfiguration("\"My Call\",\"K1TST\"\r\n");
+  program::OffsetForm& form = desk.Start().offsetForm;
+  form.chkSystemZone.UserSets(false);
+  form.txtHours.UserTypes("nonsense");
+  form.cmdOk.Press();
+  EXPECT_TRUE(form.Open.Get());
+  EXPECT_NE(form.lblProblem.Caption.Get(), "");
+  form.cmdCancel.Press();
+  EXPECT_FALSE(form.Open.Get());
+  EXPECT_EQ(desk.program->settings.GmtOffset, "");
+  EXPECT_TRUE(desk.Start().offsetForm.Open.Get());
+}
+
 TEST_F(StartUpTest, DefaultNodeIsThePracticeNodeWhileNoHostIsKnown) {
   desk.HasUsualConfiguration("\"AutoStart\",-1\r\n");
   desk.StartNode();
