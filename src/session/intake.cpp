@@ -88,6 +88,7 @@ void Intake::InputLine(std::string_view line) {
   LastLineAt = scheduler_.Now();
   needs_.lineReceived();
   needs_.showRaw(line);
+  if (needs_.isEcho(line)) return;
   if (!line.starts_with("ZV11")) feed_.RawLine(line);
   ForwardSuppressed = false;
   Run(line, 1);

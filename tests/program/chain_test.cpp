@@ -103,11 +103,16 @@ TEST_F(LoginByRowsTest, PasswordIsGivenUntilTheFirstPromptAndNeverBehindIt) {
   EXPECT_TRUE(RawViewHas("login: in the middle"));
 }
 
+// A DXSpider's own prompt tells it from what else ends so; the text goes on up to the one that the
+// program has asked for.
 TEST_F(LoginByRowsTest, LoginMessageEndsWithTheFirstPrompt) {
-  Feed("\r\nWelcome\r\nPlease enter your name, set/name <your name>\r\n");
-  Feed("K1TST-2 de N0DE-1 20-Nov-2026 2148Z dxspider >\r\nsomething else\r\n");
-  const auto& lines = program.session.connection.rtbLoginMsg.Lines();
-  EXPECT_EQ(lines.back(), "Please enter your name, set/name <your name>");
+  Feed("\r\nWelcome\r\nrunning DXSpider V1.57 build 441\r\n");
+  Feed("K1TST-2 de N0DE-1 20-Nov-2026 2148Z dxspider >\r\nOperation successful\r\n");
+  Feed("K1TST-2 de N0DE-1 20-Nov-2026 2148Z 2.4315  dxspider >\r\nsomething else\r\n");
+  const auto& lines = program.session.loginText.rtbLoginMsg.Lines();
+  EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.end()),
+            (std::vector<std::string>{" ", " Welcome", " running DXSpider V1.57 build 441",
+                                      " Operation successful"}));
 }
 
 }  // namespace
