@@ -22,7 +22,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       chain_(*this),
       session(platform_, calendar, settings,
               {.chain = chain_,
-               .feed = feed_,
+               .loggers = loggers_,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .onNodeKnown = [this] { CaptionSetup(); },

@@ -61,11 +61,12 @@ class Program {
   core::Property<FormPlace> form;  // set by the window as the user moves it, and at start
 
  private:
-  // No logging program and no local network yet: what goes to them goes nowhere.
-  class NoFeed : public session::LineFeed {
+  // No logging program yet: what goes to them goes nowhere.
+  class NoLoggers : public session::LoggerServer {
    public:
-    void RawLine(std::string_view) override {}
-    void SendLocal(std::string_view) override {}
+    bool Connected() const override { return false; }
+    void SendLogger(std::string_view) override {}
+    void LoggerRaw(std::string_view) override {}
   };
 
   platform::Platform platform_;
@@ -80,7 +81,7 @@ class Program {
 
  private:
   LineChain chain_;
-  NoFeed feed_;
+  NoLoggers loggers_;
   std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
 
  public:

@@ -11,9 +11,31 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       keepAlive(timers, state,
                 {.sendAsIs = [this](const std::string& text) { outgoing.SendAsIs(text); },
                  .giveUp = [this] { connection.GiveUp("the node fell silent"); }}),
-      outgoing(*WinsockOut, [this] { keepAlive.LineSent(); }),
-      commandLine(outgoing),
-      intake(platform.scheduler, *WinsockOut, state, needs.chain, needs.feed,
+      outgoing(
+          *WinsockOut, state,
+          {.lineSent = [this] { keepAlive.LineSent(); },
+           .tncSend = [this](std::string_view text,
+                             std::string_view shown) { return tncLink.TncSend(text, shown); }}),
+      tncLink(platform.serialPorts, settings, state, timers,
+              {.portPath = needs.portPath,
+               .intakeHeld = [this] { return intake.Held(); },
+               .inputCharacter = [this](std::uint8_t byte) { intake.InputCharacter(byte); },
+               .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+               .onFault = needs.onFault}),
+      localNetwork(platform.serialPorts, settings, timers,
+                   {.portPath = needs.portPath,
+                    .claimedHere = needs.localCommand,
+                    .sendAsIs = [this](std::string_view line) { outgoing.SendAsIs(line); },
+                    .onFault = needs.onFault}),
+      localFeed(settings, state, needs.loggers,
+                {.rcvdPrompt = needs.rcvdPrompt,
+                 .sendRS232 = [this](std::string_view line) { localNetwork.SendRS232(line); },
+                 .onFault = needs.onFault}),
+      commandLine(outgoing, state,
+                  {.sendAutobaud = [this] { tncLink.SendAutobaud(); },
+                   .weatherInFront = needs.weatherInFront,
+                   .beginFreshWeatherPage = needs.beginFreshWeatherPage}),
+      intake(platform.scheduler, *WinsockOut, state, needs.chain, localFeed,
              {.lineReceived = [this] { keepAlive.LineReceived(); },
               .nulReceived = [this](int nulls) { keepAlive.NulReceived(nulls); },
               .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
@@ -36,7 +58,16 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       linkText(platform.scheduler, calendar, settings, state, connection, intake, timers),
       keepAlivePanel(keepAlive, settings,
                      {.autoReconnect = [this] { return connection.AutoReconnect.Value.Get(); },
-                      .writeCfg = needs.writeCfg}) {
+                      .writeCfg = needs.writeCfg}),
+      macros(state, {.send = [this](std::string_view text) { return outgoing.Send(text); },
+                     .rcvdPrompt = needs.rcvdPrompt,
+                     .suppressForward = [this] { intake.ForwardSuppressed = true; },
+                     .openChat = needs.openChat}),
+      latency(platform.scheduler, needs.rcvdPrompt) {
+  timers.SetDuty(TimerId::SerialPoll, [this] {
+    localNetwork.ReadNetwork();
+    tncLink.ReadTNC();
+  });
   timers.SetDuty(TimerId::Clock, [this] { linkText.Tick(); });
   // A change is shown behind the rule that makes it, not with the next second.
   phaseShown_ =

@@ -25,12 +25,14 @@ struct SessionState {
   bool LoginMsgActive = false;    // the login text is being collected
   bool LoginTextDone = false;     // the first prompt behind the login has come
   bool LoginFinished = false;     // the login sequence is complete: prompts for it mean nothing now
+  bool LastSendWasUser = false;   // no prompt has come since the last text was sent
   std::string ConnectedNodeCall;  // the call that the node gave for itself
   std::string ConnectHost;        // what this attempt goes to: a name or an address
 
   bool IsArCluster() const { return Kind == NodeKind::ArCluster; }
   bool IsZelva() const { return Kind == NodeKind::Zelva; }
   bool IsSpider() const { return Kind == NodeKind::Spider; }
+  bool IsClx() const { return Kind == NodeKind::Clx; }
 
   core::Property<LinkPhase> Phase{LinkPhase::Disconnected};
   core::Label txtNode;  // the state of the link in words, in the colour of its phase

@@ -11,6 +11,7 @@ namespace session {
 
 // The timers that rules name. The number is the timer's index.
 enum class TimerId : std::size_t {
+  SerialPoll = 0,
   Clock = 1,
   KeepAliveColour = 2,
   Reconnect = 3,

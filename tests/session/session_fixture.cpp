@@ -52,7 +52,7 @@ core::Settings Station::OwnSettings() {
 
 session::Session::Needs Station::Needs() {
   return {.chain = chain,
-          .feed = log,
+          .loggers = log,
           .defaultNode =
               [] {
                 return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};
