@@ -39,6 +39,7 @@ bool LocalNetwork::OpenComm2() {
 
 void LocalNetwork::ReadNetwork() {
   const std::string input = MSComm2->Input();
+  if (input.empty()) return;
   if (settings_.Echo) MSComm2->Output(input);
   const std::size_t lineEnd = std::min(input.find_first_of("\r\n"), input.size());
   const std::size_t room = kLongestCommand - NetworkLine.size();

@@ -1,0 +1,19 @@
+#include "session/technical.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Technical, CountsAreShownInTheirLabels) {
+  session::Technical technical;
+  technical.ShowEscapedErrors(7);
+  technical.ShowDisconnects(2);
+  EXPECT_EQ(technical.lblTech[10].Caption.Get(), "Escaped Errors = 7");
+  EXPECT_EQ(technical.lblTech[0].Caption.Get(), "Disconnects = 2");
+}
+
+TEST(Technical, EscapedErrorsAreExplained) {
+  EXPECT_EQ(session::Technical().lblTech[10].ToolTip.Get(), "Escaped Errors Fixed");
+}
+
+}  // namespace
