@@ -10,12 +10,14 @@
 #include "core/endpoints.h"
 #include "core/error_log.h"
 #include "core/settings.h"
+#include "filters/profile_reader.h"
+#include "filters/user_settings.h"
 #include "platform/platform.h"
 #include "platform/tasks.h"
 #include "program/chain.h"
 #include "program/offset_form.h"
+#include "program/stand_ins.h"
 #include "program/user_info.h"
-#include "session/forwarding.h"
 #include "session/session.h"
 
 namespace program {
@@ -58,17 +60,10 @@ class Program {
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;
+  core::Check MultiNode;           // two copies are linked; its caption says which one this is
   core::Property<FormPlace> form;  // set by the window as the user moves it, and at start
 
  private:
-  // No logging program yet: what goes to them goes nowhere.
-  class NoLoggers : public session::LoggerServer {
-   public:
-    bool Connected() const override { return false; }
-    void SendLogger(std::string_view) override {}
-    void LoggerRaw(std::string_view) override {}
-  };
-
   platform::Platform platform_;
   const std::string folder_;
   Needs needs_;
@@ -78,14 +73,16 @@ class Program {
   core::ErrorLog errorLog;
   core::Settings settings;
   core::Endpoints endpoints;
+  StandIns standIns;
 
  private:
   LineChain chain_;
-  NoLoggers loggers_;
   std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
 
  public:
   session::Session session;
+  filters::UserSettings userSettings;
+  filters::ProfileReader profileReader;
   UserInfo userInfo;
   OffsetForm offsetForm;
 
@@ -110,6 +107,7 @@ class Program {
 
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
+  std::string LinkWord() const;
   void ApplySettings();
   void WriteCfg();
   void SaveUserInfo(const std::string& password);

@@ -23,7 +23,7 @@ std::string Seconds(platform::Milliseconds span, std::size_t decimals) {
 void LatencyMeter::Begin() { sentAt_ = scheduler_.Now(); }
 
 void LatencyMeter::Latency(std::string_view line) {
-  if (!sentAt_ || !rcvdPrompt_(line)) return;
+  if (!sentAt_ || !state_.RcvdPrompt(line)) return;
   const platform::Milliseconds now = scheduler_.Now();
   const bool soon = now - readAt_.value_or(*sentAt_) < kUsualInterval;
   Text3.Caption.Set(Seconds(now - *sentAt_, soon ? 2 : 1));

@@ -1,20 +1,19 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string_view>
 
 #include "core/controls.h"
 #include "platform/scheduler.h"
+#include "session/session_state.h"
 
 namespace session {
 
 // How long the node takes to answer a command that is timed.
 class LatencyMeter {
  public:
-  LatencyMeter(platform::Scheduler& scheduler,
-               std::function<bool(std::string_view line)> rcvdPrompt)
-      : scheduler_(scheduler), rcvdPrompt_(std::move(rcvdPrompt)) {}
+  LatencyMeter(platform::Scheduler& scheduler, const SessionState& state)
+      : scheduler_(scheduler), state_(state) {}
 
   // The seconds of the last reading: "001.25", or "001.3" if there was no other within 10 seconds.
   core::Label Text3;
@@ -28,7 +27,7 @@ class LatencyMeter {
 
  private:
   platform::Scheduler& scheduler_;
-  std::function<bool(std::string_view line)> rcvdPrompt_;
+  const SessionState& state_;
   std::optional<platform::Milliseconds> sentAt_;
   std::optional<platform::Milliseconds> readAt_;
 };

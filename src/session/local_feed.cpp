@@ -4,11 +4,11 @@
 #include <string>
 #include <utility>
 
+#include "session/feed_options.h"
+
 namespace session {
 namespace {
 
-// The option of SendToLog that keeps a skimmer's mark.
-constexpr int kSkimmerId = 1 << 20;
 constexpr std::string_view kMark = "-#: ";
 constexpr std::string_view kNoMark = ":   ";
 
@@ -46,7 +46,8 @@ void LocalFeed::Pass(std::string_view line) {
   if (!toLoggers && !settings_.LocalNetwork) return;
   if (state_.LastSendWasUser && IsAnswer(line)) return;
   std::string plain;
-  if ((settings_.SendToLog & kSkimmerId) == 0 && line.find(kMark) != std::string_view::npos)
+  const bool marked = line.find(kMark) != std::string_view::npos;
+  if (marked && !Feeds(settings_, FeedOption::SkimmerMark))
     line = plain = WithoutSkimmerMarks(line);
   if (toLoggers) loggers_.SendLogger(line);
   if (settings_.LocalNetwork) needs_.sendRS232(line);
@@ -56,7 +57,7 @@ void LocalFeed::Pass(std::string_view line) {
 bool LocalFeed::IsAnswer(std::string_view line) {
   const bool keepAlive = line.starts_with("Tx ") || line.starts_with("Rx ");
   if (state_.IsArCluster() && keepAlive) return true;
-  if (!needs_.rcvdPrompt(line)) return false;
+  if (!state_.RcvdPrompt(line)) return false;
   state_.LastSendWasUser = false;
   return true;
 }

@@ -27,7 +27,6 @@ class LoggerServer {
 class LocalFeed : public LineFeed {
  public:
   struct Needs {
-    std::function<bool(std::string_view line)> rcvdPrompt;  // the line is the node's prompt
     std::function<void(std::string_view line)> sendRS232;
     platform::FaultHandler onFault;
   };

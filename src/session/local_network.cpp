@@ -33,7 +33,7 @@ bool LocalNetwork::OpenComm2() {
     needs_.onFault("OpenComm2", why);
     return false;
   }
-  timers_.Enable(TimerId::SerialPoll);
+  timers_.Enable(TimerId::Tnc);
   return true;
 }
 

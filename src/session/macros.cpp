@@ -60,7 +60,7 @@ void Macros::SendField(std::size_t index) { needs_.send(txtMacro[index].Text.Get
 bool Macros::UserMacro(std::string_view line) {
   const bool begins = line.starts_with(kWord);
   if (!begins && !reading_) return false;
-  if (needs_.rcvdPrompt(line)) {
+  if (state_.RcvdPrompt(line)) {
     reading_ = false;
     return false;
   }

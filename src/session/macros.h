@@ -19,10 +19,9 @@ class Macros {
   static constexpr std::size_t kCount = 10;
 
   struct Needs {
-    std::function<bool(std::string_view text)> send;        // in upper case; false if it is lost
-    std::function<bool(std::string_view line)> rcvdPrompt;  // the line is the node's prompt
-    std::function<void()> suppressForward;  // this line is nothing to logging programs
-    std::function<void()> openChat;         // frmChat; nothing if it is open
+    std::function<bool(std::string_view text)> send;  // in upper case; false if it is lost
+    std::function<void()> suppressForward;            // this line is nothing to logging programs
+    std::function<void()> openChat;                   // frmChat; nothing if it is open
   };
 
   Macros(const SessionState& state, Needs needs);

@@ -3,16 +3,11 @@
 namespace session {
 namespace {
 
-constexpr std::size_t kDisconnects = 0;
 constexpr std::size_t kEscapedErrors = 10;
 
 }  // namespace
 
 Technical::Technical() { lblTech[kEscapedErrors].ToolTip.Set("Escaped Errors Fixed"); }
-
-void Technical::ShowDisconnects(int count) {
-  lblTech[kDisconnects].Caption.Set("Disconnects = " + std::to_string(count));
-}
 
 void Technical::ShowEscapedErrors(int count) {
   lblTech[kEscapedErrors].Caption.Set("Escaped Errors = " + std::to_string(count));

@@ -12,11 +12,10 @@ namespace session {
 struct Technical {
   Technical();
 
-  // [0] "Disconnects = 2", [10] "Escaped Errors = 7".
+  // [10] "Escaped Errors = 7".
   std::array<core::Label, 15> lblTech;
   std::array<core::Label, 2> lblTechnical;  // of the next try over a TNC: "Retry in 3"
 
-  void ShowDisconnects(int count);
   void ShowEscapedErrors(int count);
 };
 

@@ -61,7 +61,7 @@ bool TncLink::OpenComm1() {
     return false;
   }
   MSComm1->Output({}, kRestOfANewPort);
-  timers_.Enable(TimerId::SerialPoll);
+  timers_.Enable(TimerId::Tnc);
   return true;
 }
 

@@ -14,17 +14,17 @@ class LatencyMeterTest : public testing::Test {
   void Answered(platform::Milliseconds after) {
     meter.Begin();
     world.Run(after);
-    meter.Latency("prompt >");
+    meter.Latency("K1TST de N0NODE arc >");
   }
   std::string Shown() const { return meter.Text3.Caption.Get(); }
 
   platform::sim::World world;
-  session::LatencyMeter meter{world.scheduler,
-                              [](std::string_view line) { return line.ends_with(">"); }};
+  session::SessionState state;
+  session::LatencyMeter meter{world.scheduler, state};
 };
 
 TEST_F(LatencyMeterTest, PromptWithoutATimedCommandShowsNothing) {
-  meter.Latency("prompt >");
+  meter.Latency("K1TST de N0NODE arc >");
   EXPECT_EQ(Shown(), "");
 }
 
@@ -34,7 +34,7 @@ TEST_F(LatencyMeterTest, LineThatIsNoPromptLeavesTheMark) {
   meter.Latency("DX de K1TST");
   EXPECT_EQ(Shown(), "");
   world.Run(1s);
-  meter.Latency("prompt >");
+  meter.Latency("K1TST de N0NODE arc >");
   EXPECT_EQ(Shown(), "002.00");
 }
 
@@ -50,7 +50,7 @@ TEST_F(LatencyMeterTest, SecondsHaveThreeDigitsAndTwoDecimals) {
 TEST_F(LatencyMeterTest, PromptClearsTheMark) {
   Answered(1s);
   world.Run(5s);
-  meter.Latency("prompt >");
+  meter.Latency("K1TST de N0NODE arc >");
   EXPECT_EQ(Shown(), "001.00");
 }
 
@@ -81,7 +81,7 @@ TEST_F(LatencyMeterTest, AnswerThatTakesHoursKeepsItsDigits) {
 TEST_F(LatencyMeterTest, PromptOfTheNextSessionIsNoAnswer) {
   meter.Begin();
   meter.Disconnected();
-  meter.Latency("prompt >");
+  meter.Latency("K1TST de N0NODE arc >");
   EXPECT_EQ(Shown(), "");
 }
 

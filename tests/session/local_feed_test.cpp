@@ -33,7 +33,7 @@ class FakeLoggers : public session::LoggerServer {
 
 class LocalFeedTest : public testing::Test {
  protected:
-  static constexpr const char* kPrompt = "K1TST-2 de N0NODE >";
+  static constexpr const char* kPrompt = "K1TST-2 de N0NODE arc >";
 
   core::Settings settings;
   session::SessionState state;
@@ -43,8 +43,7 @@ class LocalFeedTest : public testing::Test {
   session::LocalFeed feed{settings,
                           state,
                           loggers,
-                          {.rcvdPrompt = [](std::string_view line) { return line.ends_with(" >"); },
-                           .sendRS232 = [this](std::string_view line) { rs232.emplace_back(line); },
+                          {.sendRS232 = [this](std::string_view line) { rs232.emplace_back(line); },
                            .onFault =
                                [this](std::string_view name, std::string_view what) {
                                  faults.push_back(std::string(name) + ": " + std::string(what));

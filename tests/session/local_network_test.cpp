@@ -67,14 +67,14 @@ TEST_F(LocalNetworkTest, OpensWithItsBaudRateAndEightBitsWithoutParity) {
   EXPECT_TRUE(network.OpenComm2());
   EXPECT_EQ(device.openedWith, (platform::SerialSettings{
                                    .baud = 1200, .parity = 'N', .dataBits = 8, .stopBits = "1"}));
-  EXPECT_TRUE(timers.Enabled(session::TimerId::SerialPoll));
+  EXPECT_TRUE(timers.Enabled(session::TimerId::Tnc));
 }
 
 TEST_F(LocalNetworkTest, PortThatDoesNotOpenIsReportedAndNothingIsPolled) {
   device.busy = true;
   EXPECT_FALSE(network.OpenComm2());
   EXPECT_THAT(faults, ElementsAre("OpenComm2: busy"));
-  EXPECT_FALSE(timers.Enabled(session::TimerId::SerialPoll));
+  EXPECT_FALSE(timers.Enabled(session::TimerId::Tnc));
 }
 
 TEST_F(LocalNetworkTest, NumberWithoutAPortDoesNotOpen) {

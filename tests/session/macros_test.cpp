@@ -26,7 +26,6 @@ class MacrosTest : public testing::Test {
                                 if (linkIsUp) sent.emplace_back(text);
                                 return linkIsUp;
                               },
-                          .rcvdPrompt = [](std::string_view line) { return line.ends_with(" >"); },
                           .suppressForward = [this] { ++suppressed; },
                           .openChat = [this] { ++chatsOpened; }}};
 };
@@ -98,7 +97,7 @@ TEST_F(MacrosTest, ListFillsTheFieldsUpToThePrompt) {
   EXPECT_TRUE(Receive(" 4) dx/40"));
   EXPECT_TRUE(Receive("5 = dx/80=x"));
   EXPECT_TRUE(Receive("9."));
-  EXPECT_FALSE(Receive("K1TST-2 de N0NODE >"));
+  EXPECT_FALSE(Receive("K1TST-2 de N0NODE arc >"));
   EXPECT_FALSE(Receive("6: too late"));
   EXPECT_EQ(Field(0), "sh/dx 10");
   EXPECT_EQ(Field(1), "sh/wwv");
@@ -116,7 +115,7 @@ TEST_F(MacrosTest, LinesOfTheListAreNotForwarded) {
   Receive("Macro 0 = a");
   Receive("1: b");
   EXPECT_EQ(suppressed, 2);
-  Receive("K1TST-2 de N0NODE >");
+  Receive("K1TST-2 de N0NODE arc >");
   EXPECT_EQ(suppressed, 2);
 }
 
@@ -131,13 +130,14 @@ TEST_F(MacrosTest, ListEndsAtTheFirstLineThatIsNoMacro) {
 }
 
 TEST_F(MacrosTest, WithoutAListNothingIsClaimed) {
-  for (const std::string_view line : {"0: x", "macro 0 = x", " Macro 0 = x", "K1TST de N0NODE >"})
+  for (const std::string_view line :
+       {"0: x", "macro 0 = x", " Macro 0 = x", "K1TST de N0NODE arc >"})
     EXPECT_FALSE(Receive(line)) << line;
   EXPECT_FALSE(macros.MacrosLoaded);
 }
 
 TEST_F(MacrosTest, PromptThatBeginsLikeAListIsAPrompt) {
-  EXPECT_FALSE(Receive("Macro de N0NODE >"));
+  EXPECT_FALSE(Receive("Macro de N0NODE arc >"));
   EXPECT_FALSE(macros.MacrosLoaded);
 }
 

@@ -15,12 +15,26 @@ class SerialFeed : public SessionFixture {
     settings.LocalNetwork = true;
     settings.NetworkPort = 1;
     settings.NetworkBaud = 9600;
+    settings.SendToLog &= ~(1 << 20);
     LogIn();
-    EXPECT_TRUE(program.localNetwork.OpenComm2());
+    device.written.clear();
   }
 
   platform::sim::SimDevice& device = world.serialPorts.Plug("/dev/ttyS0");
 };
+
+TEST_F(SerialFeed, ConnectButtonOpensThePort) {
+  EXPECT_TRUE(program.localNetwork.MSComm2->PortOpen());
+}
+
+TEST_F(SerialFeed, ConnectButtonLeavesThePortAloneWhileTheNetworkIsOff) {
+  program.localNetwork.MSComm2->Close();
+  settings.LocalNetwork = false;
+  PressDisconnect();
+  LetPass(5s);
+  Connect();
+  EXPECT_FALSE(program.localNetwork.MSComm2->PortOpen());
+}
 
 TEST_F(SerialFeed, CommandIsPolledAndSentToTheNode) {
   device.Feed("sh/dx\r");

@@ -58,7 +58,7 @@ TEST_F(TncSending, PortOpensWithItsSettings) {
                                       .dataBits = 7,
                                       .stopBits = "2",
                                       .flow = platform::FlowControl::Hardware}));
-  EXPECT_TRUE(program.timers.Enabled(session::TimerId::SerialPoll));
+  EXPECT_TRUE(program.timers.Enabled(session::TimerId::Tnc));
 }
 
 TEST_F(TncSending, FlowControlIsHardwareUnlessItIsAnotherByName) {
