@@ -46,7 +46,12 @@ constexpr std::array<Row, 65> kRows = {{
      Stop::Tail},
     {16, "WcyLine", Pass, Stop::Tail},
     {17, "ExtendedRecordLines", Pass, Stop::Tail},
-    {18, "Latency", Pass, Stop::Never},
+    {18, "Latency",
+     [](Program& p, Line l) {
+       p.session.latency.Latency(l);
+       return false;
+     },
+     Stop::Never},
     {19, "PagePrompt",
      [](Program& p, Line l) {
        return session::PagePrompt(l, p.session.state, p.session.outgoing, p.session.intake);
@@ -74,7 +79,7 @@ constexpr std::array<Row, 65> kRows = {{
     {37, "BandAndTimeFilterReply", Pass, Stop::Tail},
     {38, "KeywordFilterReply", Pass, Stop::Tail},
     {39, "ConfirmSettings", Pass, Stop::Tail},
-    {40, "UserMacro", Pass, Stop::Tail},
+    {40, "UserMacro", [](Program& p, Line l) { return p.session.macros.UserMacro(l); }, Stop::Tail},
     {41, "Settings", Pass, Stop::Tail},
     {42, "UserInfo", Pass, Stop::Tail},
     {43, "HaveNewMail", Pass, Stop::Tail},

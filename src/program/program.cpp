@@ -22,7 +22,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       chain_(*this),
       session(platform_, calendar, settings,
               {.chain = chain_,
-               .feed = standIns,
+               .loggers = standIns,
                .requests = standIns,
                .clockWork = standIns,
                .defaultNode = [this] { return DefaultNode(); },

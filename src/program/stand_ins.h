@@ -3,20 +3,21 @@
 #include <map>
 #include <string>
 
-#include "session/forwarding.h"
+#include "session/local_feed.h"
 #include "session/requests.h"
 
 namespace program {
 
 // Takes the place of what this version doesn't have yet, and counts what it was asked for.
-class StandIns : public session::LineFeed,
+class StandIns : public session::LoggerServer,
                  public session::LoginRequests,
                  public session::ClockWork {
  public:
   std::map<std::string, int> calls;
 
-  void RawLine(std::string_view) override {}
-  void SendLocal(std::string_view) override {}
+  bool Connected() const override { return false; }
+  void SendLogger(std::string_view) override {}
+  void LoggerRaw(std::string_view) override {}
   void GetEm() override { ++calls["GetEm"]; }
   void GetLatestVersion() override { ++calls["GetLatestVersion"]; }
   void AskSunTimes() override { ++calls["AskSunTimes"]; }

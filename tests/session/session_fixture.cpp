@@ -55,7 +55,7 @@ core::Settings Station::OwnSettings() {
 
 session::Session::Needs Station::Needs() {
   return {.chain = chain,
-          .feed = log,
+          .loggers = log,
           .requests = above,
           .clockWork = above,
           .defaultNode =

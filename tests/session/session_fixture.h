@@ -26,13 +26,14 @@ class Station {
 
   // Everything in the order in which it happened, each with its source in front: "First: <line>",
   // "raw view: <line>", "feed: <line>", "forwarded: <line>".
-  class Log : public session::LineFeed {
+  class Log : public session::LoggerServer {
    public:
     bool on = true;
     Lines entries;
     void Add(std::string_view source, std::string_view text);
-    void RawLine(std::string_view line) override { Add("feed", line); }
-    void SendLocal(std::string_view line) override { Add("forwarded", line); }
+    bool Connected() const override { return true; }
+    void LoggerRaw(std::string_view line) override { Add("feed", line); }
+    void SendLogger(std::string_view line) override { Add("forwarded", line); }
     // What that source had to say.
     Lines Of(std::string_view source) const;
   };
