@@ -36,6 +36,7 @@ class BandRail {
     std::uint64_t total = 0;
   };
 
+  static std::size_t Index(int band) { return static_cast<std::size_t>(band); }
   void Add(int band);
 
   std::function<void(int band)> firstUnseen_;

@@ -27,7 +27,7 @@ class SpotTable {
   enum Source { kDx, kSkimmer };
 
   // Both outlive the table. The limits of the stores follow the settings.
-  SpotTable(const core::Calendar& calendar, const core::Settings& settings);
+  SpotTable(core::Calendar& calendar, const core::Settings& settings);
 
   core::Property<std::string> TabCaption{"DX"};  // "DX = 5" while there are unseen ones
   std::array<core::Check, 2> chkShSkm;           // "DX" and "Skimmer"
@@ -48,7 +48,9 @@ class SpotTable {
   // Stores a row of that band, and shows it where band and view are the selected ones.
   void Add(std::string_view row, int band);
 
-  const RowStore& SpotStore(int band, int view) const { return At(band, view); }
+  const RowStore& SpotStore(int band, int view) const {
+    return stores_[static_cast<std::size_t>(band)][static_cast<std::size_t>(view)];
+  }
 
  private:
   using Stores = std::array<std::array<RowStore, kViews>, kBandCount>;
@@ -60,11 +62,12 @@ class SpotTable {
   void KeepLimits(int band, int memory);
   void Forget(int band, int view, std::size_t spots);
   bool Selected(int band, int view) const;
-  TableRow StarsRow() const;
-  RowStore& At(int band, int view);
-  const RowStore& At(int band, int view) const;
+  TableRow StarsRow();
+  RowStore& At(int band, int view) {
+    return stores_[static_cast<std::size_t>(band)][static_cast<std::size_t>(view)];
+  }
 
-  const core::Calendar& calendar_;
+  core::Calendar& calendar_;
   const core::Settings& settings_;
   Stores stores_;
   int selectedView_ = kAllSpots;
