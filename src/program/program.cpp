@@ -36,6 +36,13 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
         ApplySettings();
         DelayedWriteCfg();
       }),
+      views({.winCluster = [this] { return session.state.Kind == session::NodeKind::WinCluster; },
+             .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+      appearance(settings, [this] { DelayedWriteCfg(); }),
+      textSizes(settings, [this] { DelayedWriteCfg(); }),
+      linkCondition_(conditions, session),
+      autoReconnectTicked_(
+          session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] {
     session.timers.Disable(TimerId::WriteCfg);
@@ -69,6 +76,8 @@ void Program::ApplySettings() {
   session.intake.stopLists.Build(settings.MyCall);
   session.linkText.Tick();
   userInfo.Refresh();
+  appearance.Load();
+  textSizes.Load();
   CaptionSetup();
 }
 
@@ -89,6 +98,7 @@ void Program::CaptionSetup() {
   title.Set("Molva Desk " + std::string(core::kProgramVersion) +
             (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
             (node.empty() ? "" : "  (" + node + ")"));
+  views.FollowNode();
 }
 
 }  // namespace program

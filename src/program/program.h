@@ -12,9 +12,15 @@
 #include "core/settings.h"
 #include "platform/platform.h"
 #include "platform/tasks.h"
+#include "program/appearance.h"
 #include "program/chain.h"
+#include "program/conditions.h"
+#include "program/link_condition.h"
+#include "program/message_form.h"
 #include "program/offset_form.h"
+#include "program/text_sizes.h"
 #include "program/user_info.h"
+#include "program/views.h"
 #include "session/forwarding.h"
 #include "session/session.h"
 
@@ -87,6 +93,11 @@ class Program {
   session::Session session;
   UserInfo userInfo;
   OffsetForm offsetForm;
+  MessageForm messageForm;  // frmMsg
+  Conditions conditions;
+  Views views;
+  Appearance appearance;
+  TextSizes textSizes;
 
  private:
   struct Step;
@@ -118,6 +129,9 @@ class Program {
   bool ending_ = false;
   bool folderIsNew_ = false;
   bool configurationIsNew_ = false;
+  LinkCondition linkCondition_;
+  platform::Registration autoReconnectTicked_;
+  platform::Registration saved_;
   platform::Tasks tasks_;
 };
 
