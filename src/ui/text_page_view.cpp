@@ -41,6 +41,31 @@ void TextPageView::resizeEvent(QResizeEvent* event) {
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
+bool TextPageView::Find(const QString& text, Way way) {
+  QTextCursor from = textCursor();
+  if (!from.hasSelection()) from = cursorForPosition({0, 0});
+  if (way == Way::Here) from.setPosition(from.selectionStart());
+  const auto flags =
+      way == Way::Previous ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  QTextCursor found = document()->find(text, from, flags);
+  if (found.isNull()) {
+    from.movePosition(way == Way::Previous ? QTextCursor::End : QTextCursor::Start);
+    found = document()->find(text, from, flags);
+  }
+  if (found.isNull()) return false;
+  setTextCursor(found);
+  ensureCursorVisible();
+  return true;
+}
+
+void TextPageView::SetSize(int pixels) {
+  const bool atEnd = AtEnd();
+  QFont font = this->font();
+  font.setPixelSize(pixels);
+  setFont(font);
+  if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
 bool TextPageView::AtEnd() const {
   return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
 }

@@ -4,15 +4,20 @@
 
 #include "core/text_page.h"
 #include "ui/frames.h"
+#include "ui/searchable.h"
 
 namespace ui {
 
 // Shows a text page: what a node sends, as plain text. It follows the end if the reader is there,
 // and otherwise stays where he reads.
-class TextPageView : public QPlainTextEdit {
+class TextPageView : public QPlainTextEdit, public Searchable {
  public:
   // The page and the frames outlive the view.
   TextPageView(core::TextPage& page, Frames& frames, QWidget* parent = nullptr);
+
+  bool Find(const QString& text, Way way) override;
+  // Of its text, in pixels.
+  void SetSize(int pixels);
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -7,7 +7,7 @@ namespace {
 
 class KeysTest : public Desk {
  protected:
-  void SetUp() override { Open(); }
+  void SetUp() override { Open({"\"StartTab\",7"}); }
   QString Focus() const { return QApplication::focusWidget()->accessibleName(); }
 };
 
