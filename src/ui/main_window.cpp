@@ -215,7 +215,6 @@ void MainWindow::Find() {
 void MainWindow::ListKeys() {
   if (keyList_ == nullptr) keyList_ = new KeyList(this);
   keyList_->show();
-  keyList_->raise();
   keyList_->activateWindow();
 }
 

@@ -41,6 +41,13 @@ void TextPageView::resizeEvent(QResizeEvent* event) {
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
+void TextPageView::changeEvent(QEvent* event) {
+  QPlainTextEdit::changeEvent(event);
+  // Another style sheet brings back the font that the view was made with.
+  const bool changed = event->type() == QEvent::FontChange && font().pixelSize() != pixels_;
+  if (changed && pixels_ > 0) SetSize(pixels_);
+}
+
 bool TextPageView::Find(const QString& text, Way way) {
   QTextCursor from = textCursor();
   if (!from.hasSelection()) from = cursorForPosition({0, 0});
@@ -60,9 +67,10 @@ bool TextPageView::Find(const QString& text, Way way) {
 
 void TextPageView::SetSize(int pixels) {
   const bool atEnd = AtEnd();
-  QFont font = this->font();
-  font.setPixelSize(pixels);
-  setFont(font);
+  pixels_ = pixels;
+  QFont changed = font();
+  changed.setPixelSize(pixels);
+  setFont(changed);
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 

@@ -22,6 +22,7 @@ class TextPageView : public QPlainTextEdit, public Searchable {
  protected:
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   bool AtEnd() const;
@@ -31,6 +32,7 @@ class TextPageView : public QPlainTextEdit, public Searchable {
   void AppendLast(std::size_t lines);
 
   core::TextPage& page_;
+  int pixels_ = 0;           // of its text, once somebody has said so
   std::size_t shown_ = 0;    // lines of the page that the widget holds
   std::size_t removed_ = 0;  // of those, how many have left the page since
   std::shared_ptr<Frames::Item> item_;
