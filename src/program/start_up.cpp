@@ -4,6 +4,7 @@
 #include "core/password_file.h"
 #include "core/quoted.h"
 #include "program/program.h"
+#include "program/save_condition.h"
 
 namespace program {
 namespace {
@@ -66,6 +67,9 @@ platform::Task<> Program::PrepareFolder() {
   Primary = platform_.files.Lock(Path("molva.lock"));
   configuration_ = std::make_unique<core::Configuration>(
       platform_.files, platform_.dialogs, calendar, errorLog, folder_, Primary, folderIsNew_);
+  saved_ = configuration_->LastWrite.Observe([this](platform::Files::Fault fault) {
+    ShowSaved(conditions, fault, [this] { WriteCfg(); });
+  });
   CaptionSetup();
   co_return;
 }
@@ -117,6 +121,7 @@ platform::Task<> Program::PrepareSession() {
             .height = settings.FormHeight,
             .inputHeight = settings.InputHeight,
             .maximised = settings.FormMaximized});
+  views.Begin(settings.StartTab);
   ApplySettings();
   co_return;
 }

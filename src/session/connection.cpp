@@ -51,6 +51,7 @@ Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& cal
   cmdConnect.Caption.Set("Connect");
   cmdDisconnect.Caption.Set("Disconnect");
   cmdDisconnect.Enabled.Set(false);
+  AutoReconnect.Caption.Set("Auto Reconnect");
   AutoReconnect.Value.Set(true);
 }
 
