@@ -239,6 +239,7 @@ constexpr auto kRows = std::to_array<SettingRow>({
     {"K3 Port", &Settings::K3Port, Form::Plain, IfChanged},
     {"K3 Read Spot Freq", &Settings::K3ReadSpotFreq, Form::Words, IfChanged, kOne},
     {"Show Skimmer Dupes", &Settings::ShowSkimmerDupes, Form::Words, IfChanged, kTrue},
+    {"Ask Settings", &Settings::AskSettings, Form::Plain, IfChanged},
     {"Freq", FrequencyFamily{&Settings::Freq, 0, 2}},
     {"WwvWeb", &Ignore, Form::Plain, Never},
     {"DxSourceToNetwork", &KeepFromLog, Form::Plain, Never},

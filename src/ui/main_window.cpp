@@ -47,7 +47,7 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, const Theme& t
       tabs_(new QTabBar(this)),
       pages_(new QStackedWidget(this)),
       splitter_(new QSplitter(Qt::Vertical, this)),
-      loginMessage_(new TextPageView(program.session.connection.rtbLoginMsg, frames, this)),
+      loginMessage_(new TextPageView(program.session.loginText.rtbLoginMsg, frames, this)),
       raw_(new TextPageView(program.session.outgoing.Text2, frames, this)),
       commandRow_(new CommandRow(program.session, frames, this)) {
   AddTabs(frames);
