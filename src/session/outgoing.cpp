@@ -23,7 +23,7 @@ void Outgoing::SendPassword() {
 }
 
 bool Outgoing::Dispatch(Line line) {
-  lineSent_();
+  lineSent_(line.shown);
   if (socket_.State() == platform::SocketState::Connecting) {
     waiting_.push_back(std::move(line));
     return true;

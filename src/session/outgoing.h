@@ -13,8 +13,8 @@ namespace session {
 // Everything that goes to the node, and what the operator sees of the traffic.
 class Outgoing {
  public:
-  // `lineSent` is told of each line that is to be sent, a lost one too.
-  Outgoing(platform::TcpSocket& socket, std::function<void()> lineSent)
+  // `lineSent` is told of each line that is to be sent, a lost one too, as the raw view shows it.
+  Outgoing(platform::TcpSocket& socket, std::function<void(std::string_view text)> lineSent)
       : socket_(socket), lineSent_(std::move(lineSent)) {}
 
   core::TextPage Text2;      // the raw view: lines received, and those sent behind "   <- "
@@ -45,7 +45,7 @@ class Outgoing {
   void Put(const Line& line);
 
   platform::TcpSocket& socket_;
-  std::function<void()> lineSent_;
+  std::function<void(std::string_view text)> lineSent_;
   std::vector<Line> waiting_;
 };
 

@@ -11,7 +11,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       keepAlive(timers, state,
                 {.sendAsIs = [this](const std::string& text) { outgoing.SendAsIs(text); },
                  .giveUp = [this] { connection.GiveUp("the node fell silent"); }}),
-      outgoing(*WinsockOut, [this] { keepAlive.LineSent(); }),
+      outgoing(*WinsockOut, [this](std::string_view text) { LineSent(text); }),
       commandLine(outgoing),
       intake(platform.scheduler, *WinsockOut, state, needs.chain, needs.feed,
              {.lineReceived = [this] { keepAlive.LineReceived(); },
@@ -80,9 +80,17 @@ void Session::Ended() {
   echoes_.Forget();
 }
 
+void Session::LineSent(std::string_view text) {
+  keepAlive.LineSent();
+  // What the login asks for is not sent back: it is no command.
+  if (state.LoggedIn) echoes_.Sent(text);
+}
+
+// The echo of a changed prompt ends like a prompt, and is none.
 bool Session::IsEcho(std::string_view line) {
+  if (state.IsSpider() && echoes_.IsEcho(line)) return true;
   if (EndsInPrompt(line, NodeKind::Spider, "dxspider >")) echoes_.Prompted();
-  return state.IsSpider() && echoes_.IsEcho(line);
+  return false;
 }
 
 }  // namespace session

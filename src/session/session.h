@@ -74,6 +74,7 @@ class Session {
   KeepAlivePanel keepAlivePanel;
 
  private:
+  void LineSent(std::string_view text);
   bool IsEcho(std::string_view line);
   void LoggedIn();
   void Ended();
