@@ -76,6 +76,7 @@ void Session::LoggedIn() {
 }
 
 void Session::Ended() {
+  ar17.Forget();
   profileHints.Forget();
   echoes_.Forget();
 }
