@@ -58,6 +58,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       linkCondition_(conditions, session),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
+      debuggingTicked_(DebuggingOn.Click.Add([this] { WriteDebugCfg(DebuggingOn.Value.Get()); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
   FollowViews();

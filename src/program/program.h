@@ -67,6 +67,7 @@ class Program {
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;
+  core::Check DebuggingOn;         // the next run tells of each failure at once
   core::Check MultiNode;           // two copies are linked; its caption says which one this is
   core::Property<FormPlace> form;  // set by the window as the user moves it, and at start
 
@@ -107,6 +108,7 @@ class Program {
   platform::Task<> ReadDebugCfg();
   platform::Task<> BringDataFiles();
   platform::Task<> ReadCfg();
+  platform::Task<> StartLogger();
   platform::Task<> ReadPassword();
   platform::Task<> PrepareSession();
   platform::Task<> EndLoading();
@@ -114,11 +116,14 @@ class Program {
   platform::Task<> AutoStart();
 
   platform::Task<> ShutDown(Close how);
+  platform::Task<bool> MayEnd();
   platform::Task<bool> UserAgrees();
+  platform::Task<bool> MailIsDone();
   bool WindowHasMoved() const;
   void Quit();
 
   void FollowViews();
+  void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
@@ -136,6 +141,7 @@ class Program {
   LinkCondition linkCondition_;
   platform::Registration autoReconnectTicked_;
   platform::Registration saved_;
+  platform::Registration debuggingTicked_;
   platform::Registration dxCaption_;
   platform::Registration viewShown_;
   platform::Tasks tasks_;
