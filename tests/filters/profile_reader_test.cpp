@@ -1,108 +1,16 @@
-#include "filters/profile_reader.h"
-
 #include <gmock/gmock.h>
 
-#include <algorithm>
-
-#include "session/session_fixture.h"
+#include "profile_station.h"
 
 using namespace std::chrono_literals;
 using filters::Switch;
 using testing::Contains;
-using testing::Each;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
 namespace {
 
-constexpr const char* kOwnPrompt = "%C de %M %D %T 2.4315  dxspider >";
-constexpr const char* kSetPrompt = "set/prompt %C de %M %D %T 2.4315  dxspider >";
-constexpr const char* kPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z dxspider >";
-
-struct Row {
-  std::string label;
-  std::string value;
-};
-using Rows = std::vector<Row>;
-
-// A station that has asked a node for the profile, and reads it in its row.
-class Desk : public Station {
- public:
-  explicit Desk(const std::string& greeting = "running DXSpider V1.57 build 441") {
-    settings.MyName = "ANNA";
-    settings.MyQth = "Newington, CT";
-    settings.MyGrid = "FN31";
-    settings.MyLocation = "41 42 N 72 43 W";
-    settings.HomeCluster = "N0HOME";
-    on["Third"] = [this](std::string_view line) {
-      return reader.StatUser(line) ? Claim::Tail : Claim::None;
-    };
-    Connect();
-    ReceiveBytes("login: ");
-    Receive("");
-    Receive("K1TST-2 de N0NODE 20-Nov-2026 2101Z");
-    Receive(greeting);
-    if (profileAsked > 0) reader.AskedByLogin();
-    Sent();
-    log.entries.clear();
-  }
-
-  // The rows as a node shows them, their labels right-aligned to that width.
-  void ReceiveRows(const Rows& rows, std::size_t width) {
-    for (const Row& row : rows) {
-      const std::string blanks(width - std::min(width, row.label.size()), ' ');
-      Receive(blanks + row.label + ": " + row.value);
-    }
-  }
-  // A report whose labels are aligned to its longest one.
-  void ReceiveReport(Rows rows) {
-    rows.insert(rows.begin(), {"Callsign", "K1TST-2"});
-    rows.push_back({"Type of User", "U"});
-    std::size_t width = 0;
-    for (const Row& row : rows) width = std::max(width, row.label.size());
-    ReceiveRows(rows, width);
-    LetPass(2s);
-  }
-  bool Ticked(Switch which) const { return page.chkSettings[which].Value.Get(); }
-  std::string Told(filters::UserSettings::Pair filters::UserSettings::*field) const {
-    return (page.*field)[0].Text.Get();
-  }
-
-  filters::UserSettings page;
-  filters::ProfileReader reader{settings,
-                                program.state,
-                                program.outgoing,
-                                program.intake,
-                                program.profileHints,
-                                program.keepAlive,
-                                above,
-                                page};
-};
-
-class ProfileTest : public testing::Test, protected Desk {};
-
-// A profile that lacks nothing.
-const Rows kComplete = {{"Home Node", "N0HOME"},
-                        {"Language", "en"},
-                        {"Location", "41 42 N 72 43 W"},
-                        {"Locator", "FN31"},
-                        {"Name", "ANNA"},
-                        {"Req Echo", "No"},
-                        {"Required Prompt", kOwnPrompt}};
-
-Rows Without(const std::string& label) {
-  Rows rows = kComplete;
-  std::erase_if(rows, [&label](const Row& row) { return row.label == label; });
-  return rows;
-}
-
-Rows With(const std::string& label, const std::string& value) {
-  Rows rows = kComplete;
-  for (Row& row : rows)
-    if (row.label == label) row.value = value;
-  return rows;
-}
+class ProfileTest : public testing::Test, protected ProfileStation {};
 
 // Switches.
 
@@ -150,17 +58,17 @@ TEST_F(ProfileTest, SwitchesHaveTheirIndexes) {
 
 TEST_F(ProfileTest, BlanksInFrontOfALabelMeanNothing) {
   for (const std::size_t width : {0u, 11u, 14u, 15u, 16u, 30u}) {
-    Desk desk;
-    desk.ReceiveRows({{"Callsign", "K1TST-2"},
-                      {"Req WWV", "Yes"},
-                      {"Name", "ANNA"},
-                      {"Req Announce", "Yes"},
-                      {"Type of User", "U"}},
-                     width);
-    EXPECT_TRUE(desk.Ticked(filters::kWwv)) << width;
-    EXPECT_TRUE(desk.Ticked(filters::kAnnounce)) << width;
-    EXPECT_EQ(desk.Told(&filters::UserSettings::txtMyName), "ANNA") << width;
-    EXPECT_THAT(desk.Sent(), Contains(" ")) << width;
+    ProfileStation station;
+    station.ReceiveRows({{"Callsign", "K1TST-2"},
+                         {"Req WWV", "Yes"},
+                         {"Name", "ANNA"},
+                         {"Req Announce", "Yes"},
+                         {"Type of User", "U"}},
+                        width);
+    EXPECT_TRUE(station.Ticked(filters::kWwv)) << width;
+    EXPECT_TRUE(station.Ticked(filters::kAnnounce)) << width;
+    EXPECT_EQ(station.Told(&filters::UserSettings::txtMyName), "ANNA") << width;
+    EXPECT_THAT(station.Sent(), Contains(" ")) << width;
   }
 }
 
@@ -234,23 +142,23 @@ TEST_F(ProfileTest, ReportBeginsWithTheOwnCallOrTheBuddies) {
   for (const char* line : {"       Callsign: K1TST-2", "       Callsign: K1TST",
                            "     Callsign: K1TST-2", "Callsign        : k1tst",
                            "User          : K1TST", "        Buddies:", "        Buddies: K2AAA"}) {
-    Desk desk;
-    desk.Receive(line);
-    desk.Receive("Req WWV: Yes");
-    EXPECT_TRUE(desk.Ticked(filters::kWwv)) << line;
+    ProfileStation station;
+    station.Receive(line);
+    station.Receive("Req WWV: Yes");
+    EXPECT_TRUE(station.Ticked(filters::kWwv)) << line;
   }
 }
 
 TEST_F(ProfileTest, ReportOfAnotherUserIsNotRead) {
   for (const char* line : {"       Callsign: K2AAA", "       Callsign: K1TSTX",
                            "User          : K1TS", "hello", "K1TST-2"}) {
-    Desk desk;
-    desk.Receive(line);
-    desk.Receive("Req WWV: Yes");
-    desk.Receive("Name: Bert");
-    EXPECT_FALSE(desk.Ticked(filters::kWwv)) << line;
-    EXPECT_EQ(desk.Told(&filters::UserSettings::txtMyName), "") << line;
-    EXPECT_THAT(desk.Sent(), IsEmpty()) << line;
+    ProfileStation station;
+    station.Receive(line);
+    station.Receive("Req WWV: Yes");
+    station.Receive("Name: Bert");
+    EXPECT_FALSE(station.Ticked(filters::kWwv)) << line;
+    EXPECT_EQ(station.Told(&filters::UserSettings::txtMyName), "") << line;
+    EXPECT_THAT(station.Sent(), IsEmpty()) << line;
   }
 }
 
@@ -280,7 +188,7 @@ TEST_F(ProfileTest, LinesBehindTheTypeOfUserAreReadAndCompleteNothingAgain) {
   Sent();
   Receive("     Users Here: 1");
   Receive("        Req WWV: Yes");
-  Receive(kPrompt);
+  Receive(kSpiderPrompt);
   LetPass(2s);
   EXPECT_TRUE(Ticked(filters::kWwv));
   ExpectNothingSent();
@@ -297,12 +205,12 @@ TEST_F(ProfileTest, RequiredPromptInTheReportDoesNotEndIt) {
 }
 
 TEST_F(ProfileTest, RowsBehindThePromptAreReadAndTheReaderIsShutThen) {
-  Receive(kPrompt);
+  Receive(kSpiderPrompt);
   ExpectNothingSent();
   ReceiveReport(kComplete);
   EXPECT_THAT(Sent(), Contains("SET/PAGE 9999"));
   EXPECT_TRUE(program.state.LoggedIn);
-  Receive(kPrompt);
+  Receive(kSpiderPrompt);
   Receive("Name: Bert");
   EXPECT_EQ(Told(&filters::UserSettings::txtMyName), "ANNA");
 }
@@ -311,7 +219,7 @@ TEST_F(ProfileTest, RowsOfAnotherCommandBehindTheReportAreNotTakenForIt) {
   ReceiveReport(kComplete);
   Sent();
   program.outgoing.SendAsIs("sh/station K2AAA");
-  Receive(kPrompt);  // comes first, the rows follow
+  Receive(kSpiderPrompt);  // comes first, the rows follow
   LetPass(400ms);
   ReceiveRows({{"User", "K2AAA"}, {"Name", "Bert"}, {"QTH", "Boston"}, {"Home Node", ""}}, 13);
   EXPECT_EQ(Told(&filters::UserSettings::txtMyName), "ANNA");
@@ -330,7 +238,7 @@ TEST_F(ProfileTest, PromptUnaskedForClosesAndCompletesNothing) {
   Sent();
   for (int i = 0; i < 3; ++i) {
     LetPass(5min);
-    Receive(kPrompt);
+    Receive(kSpiderPrompt);
   }
   ExpectNothingSent();
 }
@@ -342,167 +250,6 @@ TEST_F(ProfileTest, NothingIsReadWithoutALogin) {
   ReceiveReport(Without("Required Prompt"));  // whose own end is a login prompt
   EXPECT_EQ(Told(&filters::UserSettings::txtMyName), "");
   ExpectNothingSent();
-}
-
-// Completing the profile on a DXSpider.
-
-TEST_F(ProfileTest, ProfileThatLacksNothingIsLeftAsItIs) {
-  ReceiveReport(kComplete);
-  ExpectSent({" ", "set/molva", "SET/PAGE 9999"});
-}
-
-TEST_F(ProfileTest, EmptyProfileIsCompletedInItsOrder) {
-  settings.AutoFilter = true;
-  ReceiveReport({});
-  ExpectSent({" ", "unset/echo", kSetPrompt, "set/lang en", "set/qra FN31",
-              "set/location 41 42 N 72 43 W", "set/molva", "sh/filter", "SET/PAGE 9999",
-              "set/name ANNA"});
-}
-
-TEST(Completion, EachThatIsMissingIsSent) {
-  struct Case {
-    Rows rows;
-    Station::Lines answers;
-  };
-  const Case cases[] = {
-      {Without("Req Echo"), {" ", "unset/echo", "set/molva", "SET/PAGE 9999"}},
-      {With("Req Echo", "Yes"), {" ", "unset/echo", "set/molva", "SET/PAGE 9999"}},
-      {Without("Required Prompt"), {" ", kSetPrompt, "set/molva", "SET/PAGE 9999"}},
-      {Without("Language"), {" ", "set/lang en", "set/molva", "SET/PAGE 9999"}},
-      {With("Language", "fr"), {" ", "set/lang en", "set/molva", "SET/PAGE 9999"}},
-      {Without("Locator"), {" ", "set/qra FN31", "set/molva", "SET/PAGE 9999"}},
-      {With("Locator", ""), {" ", "set/qra FN31", "set/molva", "SET/PAGE 9999"}},
-      {Without("Location"), {" ", "set/location 41 42 N 72 43 W", "set/molva", "SET/PAGE 9999"}},
-      {Without("Name"), {" ", "set/molva", "SET/PAGE 9999", "set/name ANNA"}},
-      {With("Name", ""), {" ", "set/molva", "SET/PAGE 9999", "set/name ANNA"}},
-  };
-  for (const Case& each : cases) {
-    Desk desk;
-    desk.ReceiveReport(each.rows);
-    EXPECT_EQ(desk.Sent(), each.answers) << (&each - cases);
-  }
-}
-
-TEST(Completion, LocationOfAnEmptyLineIsSentOnce) {
-  Desk desk;
-  desk.ReceiveReport(With("Location", ""));
-  const auto sent = desk.Sent();
-  EXPECT_EQ(std::count(sent.begin(), sent.end(), "set/location 41 42 N 72 43 W"), 1);
-}
-
-TEST(Completion, WholeValueOfTheRequiredPromptMustBeRight) {
-  for (const char* prompt :
-       {"%C de %M %D %T  dxspider >", "%C de %M %D %T 2.4314  dxspider >",
-        "%C de %M %D %T 2.4315 dxspider >", "x %C de %M %D %T 2.4315  dxspider >", ""}) {
-    Desk desk;
-    desk.ReceiveReport(With("Required Prompt", prompt));
-    EXPECT_THAT(desk.Sent(), Contains(kSetPrompt)) << prompt;
-  }
-}
-
-TEST(Completion, WhatIsNotStoredIsNotSent) {
-  Desk desk;
-  auto& own = desk.settings;
-  own.MyName = own.MyQth = own.MyGrid = own.MyLocation = own.HomeCluster = "";
-  desk.ReceiveReport({{"Home Node", ""}});
-  EXPECT_THAT(desk.Sent(), ElementsAre(" ", "unset/echo", kSetPrompt, "set/lang en", "set/molva",
-                                       "SET/PAGE 9999"));
-}
-
-TEST(Completion, WhatAHintGotIsNotSentAgain) {
-  Desk desk;
-  desk.Receive("Please enter your name, set/name <your name>");
-  desk.Receive("Please enter your location with set/location or set/qra");
-  desk.Receive("Please enter your Home Node, set/homenode <your home DX Cluster>");
-  desk.Sent();
-  desk.ReceiveReport({{"Home Node", ""}, {"Name", ""}});
-  EXPECT_THAT(desk.Sent(), ElementsAre(" ", "unset/echo", kSetPrompt, "set/lang en", "set/molva",
-                                       "SET/PAGE 9999"));
-}
-
-TEST(Completion, LaterReportDoesNotAskForFiltersNorRepeatAnUnknownCommand) {
-  Desk desk;
-  desk.settings.AutoFilter = true;
-  desk.ReceiveReport(kComplete);
-  desk.Receive("Invalid command");
-  desk.Receive(kPrompt);
-  desk.Sent();
-  desk.ReceiveReport(kComplete);
-  EXPECT_THAT(desk.Sent(), ElementsAre(" ", "SET/PAGE 9999"));
-}
-
-TEST(Completion, UnknownCommandStopsNothing) {
-  Desk desk;
-  desk.ReceiveRows({{"Callsign", "K1TST-2"}, {"Type of User", "U"}}, 14);
-  desk.Receive("Invalid command");
-  desk.Receive(kPrompt);
-  desk.LetPass(2s);
-  EXPECT_THAT(desk.Sent(), testing::IsSupersetOf({"set/molva", "SET/PAGE 9999", "set/name ANNA"}));
-}
-
-TEST(Completion, ReportThatTheUserAsksForIsNotTheLoginsOne) {
-  Desk desk;
-  desk.reader.Forget();
-  desk.ReceiveReport(kComplete);
-  EXPECT_THAT(desk.Sent(), ElementsAre(" ", "SET/PAGE 9999"));
-}
-
-TEST(Completion, MissedSpotsAreAskedForAtItsEnd) {
-  Desk desk;
-  desk.program.state.WantMissedSpots = desk.program.state.FirstConnect = true;
-  desk.ReceiveReport(kComplete);
-  EXPECT_THAT(desk.above.asked, ElementsAre("GetEm"));
-}
-
-TEST(Completion, NoMissedSpotsAreAskedForIfNobodyWantsThem) {
-  Desk desk;
-  desk.ReceiveReport(kComplete);
-  EXPECT_THAT(desk.above.asked, IsEmpty());
-}
-
-TEST(Completion, TextOfTheNodeWaitsUntilItIsThrough) {
-  Desk desk;
-  desk.node.Say("Callsign: K1TST-2\r\nType of User: U\r\nbehind\r\n");
-  desk.LetPass(90ms);
-  EXPECT_THAT(desk.log.Of("First"), Not(Contains("behind")));
-  desk.LetPass(2s);
-  EXPECT_THAT(desk.log.Of("raw view").back(), "behind");
-}
-
-TEST(Completion, SessionThatEndsInTheMiddleIsSentNothingMore) {
-  Desk desk;
-  desk.node.Say("Callsign: K1TST-2\r\nType of User: U\r\n");
-  desk.LetPass(50ms);
-  desk.program.connection.ForceClose();
-  desk.LetPass(2s);
-  EXPECT_EQ(desk.CountInRawView("SET/PAGE 9999"), 0);
-}
-
-// Zelva Cluster.
-
-TEST(ZelvaProfile, IsCompletedInItsOwnWay) {
-  Desk desk("N0NODE, a Zelva Cluster");
-  desk.settings.AutoFilter = true;
-  desk.program.keepAlive.KeepAliveMinutes = 7;
-  desk.ReceiveReport({});
-  EXPECT_THAT(desk.Sent(),
-              ElementsAre(" ", "unset/echo", "set/qra FN31", "set/location 41 42 N 72 43 W",
-                          "sh/filter", "set/name ANNA", "KeepAlive Rx 7  V2.4315"));
-}
-
-TEST(ZelvaProfile, VersionIsToldOnceASession) {
-  Desk desk("N0NODE, a Zelva Cluster");
-  desk.program.keepAlive.KeepAliveRx = false;
-  desk.program.keepAlive.KeepAliveMinutes = 5;
-  for (int i = 0; i < 2; ++i) desk.ReceiveReport(kComplete);
-  EXPECT_THAT(desk.Sent(), ElementsAre(" ", "KeepAlive Tx 5  V2.4315", " "));
-}
-
-TEST(ZelvaProfile, MissedSpotsAreAskedForAtTheEnd) {
-  Desk desk("N0NODE, a Zelva Cluster");
-  desk.program.state.WantMissedSpots = desk.program.state.FirstConnect = true;
-  desk.ReceiveReport(kComplete);
-  EXPECT_THAT(desk.above.asked, ElementsAre("GetEm"));
 }
 
 // What a DXSpider answers to changes of its filters, outside of any report.
@@ -528,13 +275,13 @@ TEST_F(ProfileTest, SpotsThatTheNodeTurnsOffAreUntickedWithoutACommand) {
 }
 
 TEST_F(ProfileTest, ThoseLinesCountOnADxSpiderOnly) {
-  Desk desk("N0NODE running CLX 5.20");
-  desk.page.chkSettings[filters::kDxSpots].Value.Set(true);
-  desk.page.chkSettings[filters::kBottomOfBand].Value.Set(true);
-  desk.Receive("DX Spots disabled for K1TST-2");
-  desk.Receive("spots Filter 4 updated");
-  EXPECT_TRUE(desk.Ticked(filters::kDxSpots));
-  EXPECT_TRUE(desk.Ticked(filters::kBottomOfBand));
+  ProfileStation station("N0NODE running CLX 5.20");
+  station.page.chkSettings[filters::kDxSpots].Value.Set(true);
+  station.page.chkSettings[filters::kBottomOfBand].Value.Set(true);
+  station.Receive("DX Spots disabled for K1TST-2");
+  station.Receive("spots Filter 4 updated");
+  EXPECT_TRUE(station.Ticked(filters::kDxSpots));
+  EXPECT_TRUE(station.Ticked(filters::kBottomOfBand));
 }
 
 // The session's beginning and end.

@@ -8,10 +8,8 @@
 
 using namespace std::chrono_literals;
 using session::TimerId;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 namespace {
 

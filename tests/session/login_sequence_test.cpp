@@ -6,11 +6,8 @@
 
 using namespace std::chrono_literals;
 using session::SpiderHasMyDx;
-using session::TimerId;
 using testing::Contains;
-using testing::Each;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
@@ -137,6 +134,14 @@ TEST_F(LoginSequenceTest, FiltersAreAskedForOfNoOtherSoftwareAtItsFirstPrompt) {
   Receive("k1tst-2 de n0node 2101Z clx >");
   LetPass(1s);
   ExpectNothingSent();
+}
+
+TEST_F(LoginSequenceTest, NodeThatPromptsLikeAnArClusterIsAskedLikeOne) {
+  LogInTo("hello");
+  Receive("N0NODEarc >");
+  LetPass(1s);
+  ExpectSent({"SET/DX_ARPC ON"});
+  EXPECT_TRUE(program.state.LoginFinished);
 }
 
 // DXSpider.
@@ -309,67 +314,6 @@ TEST_F(LoginSequenceTest, NobodyDrawsThePasswordOutBehindTheFirstPromptOfAnArClu
   }
 }
 
-// What the first prompt sets going.
-
-TEST_F(LoginSequenceTest, MissedSpotsAreAskedForBehindTheFirstPromptOfSoftwareWithoutASequence) {
-  program.state.WantMissedSpots = program.state.FirstConnect = true;
-  LogInTo("N0NODE running CLX 5.20");
-  Receive("k1tst-2 de n0node 2101Z clx >");
-  LetPass(150ms);
-  EXPECT_THAT(above.asked, IsEmpty());
-  LetPass(50ms);
-  EXPECT_THAT(above.asked, ElementsAre("GetEm"));
-  EXPECT_FALSE(program.state.FirstConnect);
-  Receive("k1tst-2 de n0node 2101Z clx >");
-  LetPass(1s);
-  EXPECT_THAT(above.asked, ElementsAre("GetEm"));
-}
-
-TEST_F(LoginSequenceTest, TextBehindThatPromptWaits) {
-  program.state.WantMissedSpots = program.state.FirstConnect = true;
-  LogInTo("N0NODE running CLX 5.20");
-  log.entries.clear();
-  ReceiveBytes("k1tst-2 de n0node 2101Z clx >\r\nbehind\r\n");
-  LetPass(150ms);
-  EXPECT_THAT(log.Of("First"), Not(Contains("behind")));
-  LetPass(50ms);
-  EXPECT_THAT(log.Of("First"), Contains("behind"));
-}
-
-TEST_F(LoginSequenceTest, MissedSpotsAreAskedForLaterOfSoftwareWithASequence) {
-  const Other kinds[] = {
-      {"Welcome to the N0NODE AR-Cluster node", kArPrompt},
-      {"N0NODE, a Zelva Cluster", "K1TST-2 de N0NODE 2101Z ZLV >"},
-      {"running DXSpider V1.57 build 441", "K1TST-2 de N0NODE 2101Z 2.4315  dxspider >"}};
-  for (const Other& kind : kinds) {
-    Station station;
-    station.program.state.WantMissedSpots = station.program.state.FirstConnect = true;
-    station.Connect();
-    station.ReceiveBytes("login: \r\n");
-    station.Receive(kind.greeting);
-    station.Receive(kind.prompt);
-    station.LetPass(1s);
-    EXPECT_TRUE(station.program.state.LoginTextDone) << kind.greeting;
-    EXPECT_THAT(station.above.asked, IsEmpty()) << kind.greeting;
-  }
-}
-
-TEST_F(LoginSequenceTest, NewerVersionIsLookedForAtTheFirstPromptIfTheUserWants) {
-  settings.InternetCheckVersion = true;
-  LogInTo("N0NODE running CLX 5.20");
-  EXPECT_FALSE(program.timers.Enabled(TimerId::Updater));
-  Receive("k1tst-2 de n0node 2101Z clx >");
-  EXPECT_THAT(above.asked, ElementsAre("GetLatestVersion"));
-  EXPECT_TRUE(program.timers.Enabled(TimerId::Updater));
-}
-
-TEST_F(LoginSequenceTest, NewerVersionIsNotLookedForOtherwise) {
-  LogInTo("N0NODE running CLX 5.20");
-  Receive("k1tst-2 de n0node 2101Z clx >");
-  EXPECT_THAT(above.asked, IsEmpty());
-  EXPECT_FALSE(program.timers.Enabled(TimerId::Updater));
-}
-
 // Sun times.
 
 TEST_F(LoginSequenceTest, SunTimesAreAskedForOnceBehindTheEndOfTheSequence) {
@@ -397,73 +341,6 @@ TEST_F(LoginSequenceTest, SunTimesAreAskedForAgainInTheNextSession) {
   LetRetry();
   ReceiveBytes("login: \r\nN0NODE running CLX 5.20\r\nany line\r\n");
   EXPECT_THAT(above.asked, ElementsAre("AskSunTimes", "AskSunTimes"));
-}
-
-// The login text.
-
-TEST_F(LoginSequenceTest, LoginTextEndsAtTheFirstPromptWhichIsNotPartOfIt) {
-  LogInTo("N0NODE running CLX 5.20");
-  Receive("hello");
-  Receive("k1tst-2 de n0node 2101Z clx >");
-  Receive("later");
-  EXPECT_TRUE(program.state.LoginTextDone);
-  EXPECT_THAT(program.loginText.rtbLoginMsg.Lines(),
-              ElementsAre(" ", " N0NODE running CLX 5.20", " hello"));
-}
-
-TEST_F(LoginSequenceTest, PromptThatADxSpiderHasBeforeItIsToldIsNotPartOfItEither) {
-  LogInTo("running DXSpider V1.57 build 441");
-  Receive(kSpiderPrompt);
-  Receive("more");
-  EXPECT_FALSE(program.state.LoginTextDone);
-  EXPECT_THAT(program.loginText.rtbLoginMsg.Lines(),
-              ElementsAre(" ", " running DXSpider V1.57 build 441", " more"));
-}
-
-TEST_F(LoginSequenceTest, SoftwareIsRecognisedOnceASession) {
-  LogInTo("N0NODE running CLX 5.20");
-  Receive("our friends have a DXSpider");
-  EXPECT_TRUE(program.state.IsClx());
-}
-
-TEST_F(LoginSequenceTest, SoftwareNamedBehindTheLoginTextMeansNothing) {
-  LogInTo("hello");
-  Receive("N0NODEarc >");
-  EXPECT_TRUE(program.state.LoginTextDone);
-  Receive("running DXSpider V1.57 build 441");
-  EXPECT_FALSE(program.state.IsSpider());
-}
-
-TEST_F(LoginSequenceTest, NodeThatPromptsLikeAnArClusterIsAskedLikeOne) {
-  LogInTo("hello");
-  Receive("N0NODEarc >");
-  LetPass(1s);
-  ExpectSent({"SET/DX_ARPC ON"});
-  EXPECT_TRUE(program.state.LoginFinished);
-}
-
-TEST_F(LoginSequenceTest, NodeOfUnknownSoftwareKeepsItsLoginTextOpen) {
-  LogInTo("hello");
-  for (int i = 0; i < 3; ++i) Receive("K1TST-2 de N0NODE 2101Z >");
-  EXPECT_FALSE(program.state.LoginTextDone);
-  EXPECT_THAT(program.loginText.rtbLoginMsg.Lines(),
-              Contains(" K1TST-2 de N0NODE 2101Z >").Times(3));
-}
-
-TEST_F(LoginSequenceTest, LoginTextIsForwardedIfTheUserWants) {
-  LogInTo("hello");
-  EXPECT_THAT(log.Of("forwarded"), Contains("hello"));
-  settings.SendToLog &= ~(1 << 7);
-  Receive("again");
-  EXPECT_THAT(log.Of("forwarded"), Not(Contains("again")));
-}
-
-TEST_F(LoginSequenceTest, TextBehindTheLoginTextIsForwardedAnyway) {
-  settings.SendToLog &= ~(1 << 7);
-  LogInTo("N0NODE running CLX 5.20");
-  Receive("k1tst-2 de n0node 2101Z clx >");
-  Receive("later");
-  EXPECT_THAT(log.Of("forwarded"), Contains("later"));
 }
 
 }  // namespace
