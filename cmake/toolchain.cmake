@@ -25,7 +25,8 @@ endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
                     -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  add_compile_options(-fcoroutines)
+  # GCC 12 takes the operator+ of the standard library's strings for an overlapping copy.
+  add_compile_options(-fcoroutines -Wno-restrict)
 endif()
 
 if(MOLVA_SANITIZE)
@@ -35,6 +36,10 @@ if(MOLVA_SANITIZE)
     add_compile_options(-Wno-maybe-uninitialized)  # false alarms in the standard library's regex
   endif()
   add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(MOLVA_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 if(MOLVA_LINT)

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "core/version.h"
+#include "platform/qt/qt_colour_scheme.h"
 #include "platform/qt/qt_end_signals.h"
 #include "platform/qt/qt_platform.h"
 #include "program/folder.h"
@@ -10,7 +11,6 @@
 #include "ui/frames.h"
 #include "ui/main_window.h"
 #include "ui/style.h"
-#include "ui/theme.h"
 
 namespace {
 
@@ -27,17 +27,17 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("molva-desk"));
   QApplication::setApplicationDisplayName(QString());
   QApplication::setApplicationVersion(QString::fromLatin1(core::kProgramVersion));
-  const ui::Theme theme = ui::Theme::OfSystem();
-  ui::Apply(theme, application);
-
   platform::qt::QtPlatform qt;
   const platform::Platform platform = qt.Platform();
   program::Program program(platform, program::ProgramFolder(Variable),
                            {.quit = [] { QApplication::exit(0); }, .seed = std::random_device{}()});
   platform::qt::QtEndSignals endSignals(
       [&program] { program.RequestClose(program::Program::Close::WithoutAsking); });
+  const platform::qt::QtColourScheme colourScheme(
+      [&program](platform::ColourScheme scheme) { program.appearance.SystemHas(scheme); });
+  ui::Wardrobe wardrobe(program.appearance, application);
   ui::Frames frames(platform.scheduler);
-  ui::MainWindow window(program, frames, theme);
+  ui::MainWindow window(program, frames, wardrobe.theme);
   program.Start();
   window.show();
   return QApplication::exec();

@@ -5,7 +5,7 @@ BUILD_PACKAGES=(ccache cmake g++ lld ninja-build qt6-base-dev qt6-serialport-dev
 # What it runs with, and what shows it where there is no display.
 RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono imagemagick xvfb)
 # What its tests need besides.
-TEST_PACKAGES=(googletest libgmock-dev libgtest-dev)
+TEST_PACKAGES=(dbus-daemon googletest libgmock-dev libgtest-dev)
 # What the benchmarks are built with.
 BENCH_PACKAGES=(libbenchmark-dev)
 # What the second compiler and the lint need.

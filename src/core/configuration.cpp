@@ -151,8 +151,8 @@ void Configuration::WriteCfg(const Settings& settings) {
   if (!loaded_) return;
   const std::string dts = calendar_.EnglishDate() + ' ' + calendar_.GmtTime();
   const Fault fault = Write(FormatSettings(settings, dts));
-  if (fault != Fault::None && !faultTold_) TellFault(fault);
-  faultTold_ = fault != Fault::None;
+  if (fault != Fault::None && LastWrite.Get() == Fault::None) TellFault(fault);
+  LastWrite.Set(fault);
 }
 
 // The backup never shrinks: a file that lost settings can't replace it. Private, for the passwords

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/controls.h"
 #include "core/dates.h"
 #include "core/error_log.h"
 #include "core/settings.h"
@@ -47,6 +48,9 @@ class Configuration {
   // succeeds again. Does nothing before ReadCfg has given settings to go on with.
   void WriteCfg(const Settings& settings);
 
+  // How the last try to write ended.
+  Property<platform::Files::Fault> LastWrite{platform::Files::Fault::None};
+
  private:
   platform::Task<platform::Files::Content> Open(std::string path, bool mayBeEmpty);
   platform::Task<platform::Files::Content> OpenBackup();
@@ -67,7 +71,6 @@ class Configuration {
   const bool primary_;
   const bool folderIsNew_;
   bool loaded_ = false;
-  bool faultTold_ = false;
 };
 
 }  // namespace core

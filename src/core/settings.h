@@ -194,6 +194,9 @@ struct Settings {
   int SpotWidth = 0;
 
   // Colours and fonts.
+  std::string Theme;   // "Light" or "Dark"; empty follows the system
+  int RawSize = 13;    // of the text in the raw view, in pixels
+  int LoginSize = 13;  // and in the login message
   int ColourRaw = 0;
   int ColourRawText = 0;
   int ColourDx = 15531007;

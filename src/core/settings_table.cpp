@@ -23,6 +23,8 @@ constexpr std::array<std::string_view, 4> kDataBits = {"4", "5", "6", "7"};
 constexpr std::array<std::string_view, 2> kStopBits = {"1.5", "2"};
 constexpr std::array<std::string_view, 3> kFlowControls = {"Xon / Xoff", "None", "Both"};
 
+constexpr std::array<std::string_view, 2> kThemes = {"Light", "Dark"};
+
 void Ignore(Settings&, std::string_view) {}
 
 void KeepFromLog(Settings& settings, std::string_view value) {
@@ -240,6 +242,9 @@ constexpr auto kRows = std::to_array<SettingRow>({
     {"K3 Read Spot Freq", &Settings::K3ReadSpotFreq, Form::Words, IfChanged, kOne},
     {"Show Skimmer Dupes", &Settings::ShowSkimmerDupes, Form::Words, IfChanged, kTrue},
     {"Ask Settings", &Settings::AskSettings, Form::Plain, IfChanged},
+    {"Theme", &Settings::Theme, Form::Words, IfOneOf, kThemes},
+    {"Raw Size", &Settings::RawSize, Form::Plain, IfChanged},
+    {"Login Size", &Settings::LoginSize, Form::Plain, IfChanged},
     {"Freq", FrequencyFamily{&Settings::Freq, 0, 2}},
     {"WwvWeb", &Ignore, Form::Plain, Never},
     {"DxSourceToNetwork", &KeepFromLog, Form::Plain, Never},

@@ -22,24 +22,26 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       chain_(*this),
       session(platform_, calendar, settings,
               {.chain = chain_,
-               .feed = standIns,
+               .loggers = standIns,
                .requests = standIns,
                .clockWork = standIns,
+               .tncScript = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .onNodeKnown = [this] { CaptionSetup(); },
                .delayedWriteCfg = [this] { DelayedWriteCfg(); },
                .writeCfg = [this] { WriteCfg(); },
-               .showMessage =
-                   [this](const std::string& heading, const std::string& text) {
-                     platform_.dialogs.Tell({.title = heading, .text = text});
-                   },
-               .closeMessage = [] {},
+               .showMessage = [this](const std::string& heading,
+                                     const std::string& text) { messageForm.Show(heading, text); },
+               .closeMessage = [this] { messageForm.Close(); },
                .ar17Settled = [] {},
                .profileAsked = [this] { profileReader.AskedByLogin(); },
                .onEnding = [this] { profileReader.Forget(); },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed}),
+      spotPipeline(platform_.scheduler, calendar, settings,
+                   {.nodeFacts = [this] { return NodeFacts(); },
+                    .sendSettlingLine = [this] { session.outgoing.Send(""); }}),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
                     session.keepAlive, standIns, userSettings),
       userInfo(settings, {.password = [this] { return session.outgoing.NodePassword; },
@@ -49,11 +51,39 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
         ApplySettings();
         DelayedWriteCfg();
       }),
+      views({.winCluster = [this] { return session.state.Kind == session::NodeKind::WinCluster; },
+             .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+      appearance(settings, [this] { DelayedWriteCfg(); }),
+      textSizes(settings, [this] { DelayedWriteCfg(); }),
+      linkCondition_(conditions, session),
+      autoReconnectTicked_(
+          session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
-  session.timers.SetDuty(TimerId::WriteCfg, [this] {
-    session.timers.Disable(TimerId::WriteCfg);
-    WriteCfg();
+  session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
+  FollowViews();
+}
+
+// The table counts what comes while another view is on show, and says so on its tab.
+void Program::FollowViews() {
+  dxCaption_ = spotPipeline.table.TabCaption.Observe(
+      [this](const std::string& caption) { views.tab[Views::Dx].Caption.Set(caption); });
+  viewShown_ = views.onShow.Observe([this](int view) {
+    spots::SpotTable& table = spotPipeline.table;
+    if (view == Views::Dx)
+      table.EnterTab();
+    else if (table.OnShow())
+      table.LeaveTab();
   });
+}
+
+spots::NodeFacts Program::NodeFacts() const {
+  const session::SessionState& state = session.state;
+  return {.IsClx = state.IsClx(),
+          .IsWinCluster = state.IsWinCluster(),
+          .KeepsLeadingBlanks = state.IsSkimmer(),
+          .Ar17Active = state.ArpcAsked,
+          .Ar17Refused = state.Ar17Refused(),
+          .SessionUp = state.LoggedIn};
 }
 
 session::DefaultNode Program::DefaultNode() const {
@@ -83,6 +113,8 @@ void Program::ApplySettings() {
   session.linkText.Tick();
   userInfo.Refresh();
   userSettings.Take(settings);
+  appearance.Load();
+  textSizes.Load();
   CaptionSetup();
 }
 
@@ -109,6 +141,7 @@ void Program::CaptionSetup() {
       link + "Molva Desk " + std::string(core::kProgramVersion) +
       (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
       (node.empty() ? "" : "  (" + node + (word.empty() ? "" : " ") + std::string(word) + ")"));
+  views.FollowNode();
 }
 
 // The second of two linked copies is fed through the first, in the extended line forms.

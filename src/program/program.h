@@ -14,11 +14,18 @@
 #include "filters/user_settings.h"
 #include "platform/platform.h"
 #include "platform/tasks.h"
+#include "program/appearance.h"
 #include "program/chain.h"
+#include "program/conditions.h"
+#include "program/link_condition.h"
+#include "program/message_form.h"
 #include "program/offset_form.h"
 #include "program/stand_ins.h"
+#include "program/text_sizes.h"
 #include "program/user_info.h"
+#include "program/views.h"
 #include "session/session.h"
+#include "spots/spot_pipeline.h"
 
 namespace program {
 
@@ -81,10 +88,16 @@ class Program {
 
  public:
   session::Session session;
+  spots::SpotPipeline spotPipeline;
   filters::UserSettings userSettings;
   filters::ProfileReader profileReader;
   UserInfo userInfo;
   OffsetForm offsetForm;
+  MessageForm messageForm;  // frmMsg
+  Conditions conditions;
+  Views views;
+  Appearance appearance;
+  TextSizes textSizes;
 
  private:
   struct Step;
@@ -105,8 +118,11 @@ class Program {
   bool WindowHasMoved() const;
   void Quit();
 
+  void FollowViews();
+  spots::NodeFacts NodeFacts() const;
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
+  void ShowTncCluster();
   std::string LinkWord() const;
   void ApplySettings();
   void WriteCfg();
@@ -117,6 +133,11 @@ class Program {
   bool ending_ = false;
   bool folderIsNew_ = false;
   bool configurationIsNew_ = false;
+  LinkCondition linkCondition_;
+  platform::Registration autoReconnectTicked_;
+  platform::Registration saved_;
+  platform::Registration dxCaption_;
+  platform::Registration viewShown_;
   platform::Tasks tasks_;
 };
 

@@ -4,6 +4,7 @@
 #include "core/password_file.h"
 #include "core/quoted.h"
 #include "program/program.h"
+#include "program/save_condition.h"
 
 namespace program {
 namespace {
@@ -66,6 +67,9 @@ platform::Task<> Program::PrepareFolder() {
   Primary = platform_.files.Lock(Path("molva.lock"));
   configuration_ = std::make_unique<core::Configuration>(
       platform_.files, platform_.dialogs, calendar, errorLog, folder_, Primary, folderIsNew_);
+  saved_ = configuration_->LastWrite.Observe([this](platform::Files::Fault fault) {
+    ShowSaved(conditions, fault, [this] { WriteCfg(); });
+  });
   CaptionSetup();
   co_return;
 }
@@ -106,6 +110,8 @@ platform::Task<> Program::PrepareSession() {
   session.connection.AutoReconnect.Value.Set(settings.AutoReconnect);
   session.state.UserDisconnected = true;
   session.state.WantMissedSpots = session.state.FirstConnect = settings.GetMissedOnes;
+  session.state.TncMode = settings.TncMode;
+  if (settings.TncMode) ShowTncCluster();
   session.nodeAddress.EnsureNode();
   session.keepAlivePanel.Load();
   session.timers.SetInterval(TimerId::Reconnect, RetryInterval(needs_.seed));
@@ -115,6 +121,7 @@ platform::Task<> Program::PrepareSession() {
             .height = settings.FormHeight,
             .inputHeight = settings.InputHeight,
             .maximised = settings.FormMaximized});
+  views.Begin(settings.StartTab);
   ApplySettings();
   co_return;
 }
@@ -123,6 +130,11 @@ platform::Task<> Program::EndLoading() {
   Loading = false;
   session.timers.Begin();
   co_return;
+}
+
+void Program::ShowTncCluster() {
+  session.state.txtNode.Caption.Set(settings.TncCluster);
+  session.state.ConnectedNodeCall = settings.TncCluster;
 }
 
 // None of these forms holds anything up.
@@ -134,6 +146,7 @@ platform::Task<> Program::AskWhatIsMissing() {
 
 platform::Task<> Program::AutoStart() {
   if (settings.AutoStart) session.connection.cmdConnect.Press();
+  if (settings.TncMode) session.tncLink.OpenComm1();
   co_return;
 }
 

@@ -78,7 +78,8 @@ LineBuffer::Prompts Intake::PromptsNow() const {
 
 void Intake::FinishLine() {
   line_.Take(whole_);
-  EscapedErrors += RepairEscapes(whole_);
+  const int escapes = RepairEscapes(whole_);
+  if (escapes > 0) needs_.escapesRepaired(EscapedErrors += escapes);
   InputLine(whole_);
   GiveBackGiant(whole_);
 }

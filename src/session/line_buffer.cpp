@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/escapes.h"
 #include "core/text.h"
 
 namespace session {
@@ -28,20 +29,6 @@ constexpr std::array kLoginPrompts = {
 };
 
 constexpr std::string_view kTncPrompt = "cmd:";
-
-int HexDigit(char digit) {
-  if (digit >= '0' && digit <= '9') return digit - '0';
-  const char lower = core::LCase(digit);
-  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
-// The byte that the escape at `at` names; 0 if there is none.
-unsigned EscapedByte(std::string_view line, std::size_t at) {
-  if (at + 2 >= line.size()) return 0;
-  const int high = HexDigit(line[at + 1]);
-  const int low = HexDigit(line[at + 2]);
-  return high < 0 || low < 0 ? 0 : static_cast<unsigned>(high * 16 + low);
-}
 
 }  // namespace
 
@@ -84,25 +71,6 @@ void GiveBackGiant(std::string& text) {
   if (text.capacity() > kKeptCapacity) std::string().swap(text);
 }
 
-int RepairEscapes(std::string& line) {
-  std::size_t read = line.find('%');
-  if (read == std::string::npos) return 0;
-  int repaired = 0;
-  std::size_t written = read;
-  while (read < line.size()) {
-    if (line[read] != '%') {
-      line[written++] = line[read++];
-      continue;
-    }
-    const unsigned byte = EscapedByte(line, read);
-    if (byte < ' ') break;
-    ++repaired;
-    read += 2;
-    line[read] = static_cast<char>(byte);
-    if (byte != '%') line[written++] = line[read++];
-  }
-  line.erase(written, read - written);
-  return repaired;
-}
+int RepairEscapes(std::string& line) { return core::RepairEscapes(line, ' '); }
 
 }  // namespace session

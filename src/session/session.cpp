@@ -11,12 +11,34 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       keepAlive(timers, state,
                 {.sendAsIs = [this](const std::string& text) { outgoing.SendAsIs(text); },
                  .giveUp = [this] { connection.GiveUp("the node fell silent"); }}),
-      outgoing(*WinsockOut, [this](std::string_view text) { LineSent(text); }),
-      commandLine(outgoing),
-      intake(platform.scheduler, *WinsockOut, state, needs.chain, needs.feed,
+      outgoing(
+          *WinsockOut, state,
+          {.lineSent = [this] { keepAlive.LineSent(); },
+           .tncSend = [this](std::string_view text,
+                             std::string_view shown) { return tncLink.TncSend(text, shown); }}),
+      tncLink(platform.serialPorts, settings, state, timers,
+              {.portPath = needs.portPath,
+               .intakeHeld = [this] { return intake.Held(); },
+               .inputCharacter = [this](std::uint8_t byte) { intake.InputCharacter(byte); },
+               .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+               .onFault = needs.onFault}),
+      localNetwork(platform.serialPorts, settings, timers,
+                   {.portPath = needs.portPath,
+                    .claimedHere = needs.localCommand,
+                    .sendAsIs = [this](std::string_view line) { outgoing.SendAsIs(line); },
+                    .onFault = needs.onFault}),
+      localFeed(settings, state, needs.loggers,
+                {.sendRS232 = [this](std::string_view line) { localNetwork.SendRS232(line); },
+                 .onFault = needs.onFault}),
+      commandLine(outgoing, state,
+                  {.sendAutobaud = [this] { tncLink.SendAutobaud(); },
+                   .weatherInFront = needs.weatherInFront,
+                   .beginFreshWeatherPage = needs.beginFreshWeatherPage}),
+      intake(platform.scheduler, *WinsockOut, state, needs.chain, localFeed,
              {.lineReceived = [this] { keepAlive.LineReceived(); },
               .nulReceived = [this](int nulls) { keepAlive.NulReceived(nulls); },
               .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+              .escapesRepaired = [this](int escapes) { technical.ShowEscapedErrors(escapes); },
               .isEcho = [this](std::string_view line) { return IsEcho(line); },
               .sendPassword = [this] { outgoing.SendPassword(); },
               .onFault = needs.onFault}),
@@ -26,10 +48,11 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                {.showMessage = needs.showMessage,
                 .closeMessage = needs.closeMessage,
                 .seed = needs.seed}),
+      tncRetry(state, technical),
       loginWatch(settings, state, *WinsockOut, outgoing, intake, timers,
                  {.giveUp = [this] { connection.GiveUpLogin(); }}),
       connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
-                 nodeAddress, loginWatch, duelling, timers,
+                 nodeAddress, loginWatch, duelling, tncRetry, needs.tncScript, timers,
                  {.askUserInfo = needs.askUserInfo,
                   .delayedWriteCfg = needs.delayedWriteCfg,
                   .onConnected = [this] { loginText.rtbLoginMsg.Clear(); },
@@ -38,10 +61,14 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                   .onEnding = needs.onEnding,
                   .onEnded = [this] { Ended(); },
                   .onFault = needs.onFault}),
-      linkButtons(
-          platform.scheduler, settings, state, connection, loginWatch, outgoing, timers,
-          {.askUserInfo = needs.askUserInfo, .openLocalNetwork = [] {}, .onFault = needs.onFault}),
-      login(settings, state, outgoing, connection, duelling),
+      linkButtons(platform.scheduler, settings, state, connection, loginWatch, outgoing, timers,
+                  {.askUserInfo = needs.askUserInfo,
+                   .openLocalNetwork =
+                       [this, &settings] {
+                         if (settings.LocalNetwork) localNetwork.OpenComm2();
+                       },
+                   .onFault = needs.onFault}),
+      login(settings, state, outgoing, connection, duelling, tncLink),
       loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
       loginSequence(settings, state, outgoing, intake, needs.requests,
                     {.profileAsked = needs.profileAsked}),
@@ -60,8 +87,19 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                  .second = [this] { linkText.Tick(); }}),
       keepAlivePanel(keepAlive, settings,
                      {.autoReconnect = [this] { return connection.AutoReconnect.Value.Get(); },
-                      .writeCfg = needs.writeCfg}) {
+                      .writeCfg = needs.writeCfg}),
+      macros(state, {.send = [this](std::string_view text) { return outgoing.Send(text); },
+                     .suppressForward = [this] { intake.ForwardSuppressed = true; },
+                     .openChat = needs.openChat}),
+      latency(platform.scheduler, state) {
+  timers.SetDuty(TimerId::Tnc, [this] {
+    localNetwork.ReadNetwork();
+    tncLink.ReadTNC();
+  });
   loginText.onKind = needs.onNodeKnown;
+  outgoing.onSent = [this](std::string_view text) {
+    if (state.LoggedIn) echoes_.Sent(text);  // what the login asks for is no command
+  };
   // A change is shown behind the rule that makes it, not with the next second.
   phaseShown_ =
       state.Phase.Observe([this, &scheduler = platform.scheduler, first = true](LinkPhase) mutable {
@@ -71,6 +109,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
 
 void Session::LoggedIn() {
   commandLine.txtCmdLine.Text.Set({});
+  if (state.TncMode) tncLink.lblTnc.ForeColour.Set(tncLink.BpqLink ? core::kBlue : core::kGreen);
   keepAlive.LoggedIn();
   ar17.LoggedIn();
 }
@@ -79,12 +118,8 @@ void Session::Ended() {
   ar17.Forget();
   profileHints.Forget();
   echoes_.Forget();
-}
-
-void Session::LineSent(std::string_view text) {
-  keepAlive.LineSent();
-  // What the login asks for is not sent back: it is no command.
-  if (state.LoggedIn) echoes_.Sent(text);
+  macros.Disconnected();
+  latency.Disconnected();
 }
 
 // The echo of a changed prompt ends like a prompt, and is none.

@@ -44,6 +44,7 @@ struct SessionState : NodeState {
   bool FirstConnect = false;      // and have not been yet
   bool SysopLink = false;         // the node is the operator's own
   std::string TempCall;           // the call to log in with in place of one's own; usually empty
+  bool LastSendWasUser = false;   // no prompt has come since the last text was sent
   std::string ConnectedNodeCall;  // the call that the node gave for itself
   std::vector<std::string> KnownNodes;  // the connected node, then those it told of
   std::string ConnectHost;              // what this attempt goes to: a name or an address

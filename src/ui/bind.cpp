@@ -17,6 +17,18 @@ struct Watch : QObject {
   platform::Registration observing;
 };
 
+// Shows text of the rules as it stands: an "&" in it is no mnemonic. Without a name of its own the
+// widget goes by that text.
+void BindCaption(QAbstractButton* widget, core::Control& model, Frames& frames) {
+  const bool named = !widget->accessibleName().isEmpty();
+  BindProperty<std::string>(widget, model.Caption, frames,
+                            [widget, named](const std::string& text) {
+                              const QString line = OneLine(text, kLongestLabel);
+                              widget->setText(Literally(line));
+                              if (!named) widget->setAccessibleName(line);
+                            });
+}
+
 void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
   BindProperty<bool>(widget, model.Enabled, frames, [widget](bool on) { widget->setEnabled(on); });
   BindProperty<bool>(widget, model.Visible, frames, [widget](bool on) { widget->setVisible(on); });
@@ -34,7 +46,7 @@ void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
   const QString name = widget->accessibleName();
   BindProperty<std::string>(widget, model.Caption, frames, [widget, name](const std::string& text) {
     const QString line = OneLine(text, kLongestLabel);
-    widget->setText(line);
+    widget->setText(widget->buddy() != nullptr ? Literally(line) : line);
     const bool says = !name.isEmpty() && !line.isEmpty();
     widget->setAccessibleName(says ? name + ": " + line : name);
   });
@@ -42,15 +54,13 @@ void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
 
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames) {
   BindCommon(widget, model, frames);
-  BindProperty<std::string>(widget, model.Caption, frames,
-                            [widget](const std::string& text) { widget->setText(TextOf(text)); });
+  BindCaption(widget, model, frames);
   QObject::connect(widget, &QAbstractButton::clicked, widget, [&model] { model.Press(); });
 }
 
 void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames) {
   BindCommon(widget, model, frames);
-  BindProperty<std::string>(widget, model.Caption, frames,
-                            [widget](const std::string& text) { widget->setText(TextOf(text)); });
+  BindCaption(widget, model, frames);
   BindProperty<bool>(widget, model.Value, frames, [widget](bool on) { widget->setChecked(on); });
   QObject::connect(widget, &QCheckBox::clicked, widget, [&model](bool on) { model.UserSets(on); });
 }

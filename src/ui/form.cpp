@@ -56,7 +56,6 @@ void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, 
     button->setDefault(first);
     button->setAutoDefault(first);
     BindButton(button, *model, frames);
-    button->setAccessibleName(button->text());
     row->addWidget(button);
   }
   form->addRow(row);

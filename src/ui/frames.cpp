@@ -16,10 +16,23 @@ std::shared_ptr<Frames::Item> Frames::Add(std::function<void()> repaint) {
   return item;
 }
 
+void Frames::Touched() {
+  const bool quiet = Frame() == kQuietFrame;
+  touched_ = scheduler_.Now();
+  if (asked_ && quiet) Wait();  // what is due comes sooner now
+}
+
 void Frames::Ask() {
-  if (std::exchange(asked_, true)) return;
-  const auto wait = std::max(last_ + kFrame - scheduler_.Now(), platform::Milliseconds{0});
+  if (!std::exchange(asked_, true)) Wait();
+}
+
+void Frames::Wait() {
+  const auto wait = std::max(last_ + Frame() - scheduler_.Now(), platform::Milliseconds{0});
   next_ = scheduler_.After(wait, [this] { Paint(); });
+}
+
+platform::Milliseconds Frames::Frame() const {
+  return scheduler_.Now() - touched_ < kTouch ? kFrame : kQuietFrame;
 }
 
 void Frames::Paint() {

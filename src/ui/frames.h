@@ -8,7 +8,8 @@
 
 namespace ui {
 
-// Repaints what has changed, at most once in 33 ms, however often it changes.
+// Repaints what has changed, however often it changes: at most once in 33 ms while somebody is at
+// it, and ten times a second when nobody is.
 class Frames {
  public:
   // Something on the screen. Marked as changed it is repainted with the next frame.
@@ -27,19 +28,28 @@ class Frames {
   };
 
   static constexpr platform::Milliseconds kFrame{33};
+  static constexpr platform::Milliseconds kQuietFrame{100};
+  // How long a touch counts.
+  static constexpr platform::Milliseconds kTouch{2000};
 
   explicit Frames(platform::Scheduler& scheduler) : scheduler_(scheduler) {}
+
+  // A key, a button, the wheel: somebody is at it.
+  void Touched();
 
   // The item is repainted as long as the result is kept.
   std::shared_ptr<Item> Add(std::function<void()> repaint);
 
  private:
   void Ask();
+  void Wait();
   void Paint();
+  platform::Milliseconds Frame() const;
 
   platform::Scheduler& scheduler_;
   std::vector<std::weak_ptr<Item>> items_;
-  platform::Milliseconds last_{-kFrame};
+  platform::Milliseconds last_{-kQuietFrame};
+  platform::Milliseconds touched_{-kTouch};
   bool asked_ = false;
   platform::Registration next_;
 };

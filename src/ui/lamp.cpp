@@ -28,14 +28,15 @@ void Lamp::paintEvent(QPaintEvent*) {
   painter.drawEllipse(1, 1, kDiameter, kDiameter);
 }
 
-void BindLamp(Lamp* lamp, session::SessionState& state, Frames& frames, const Theme& theme) {
+void BindLamp(Lamp* lamp, session::SessionState& state, Frames& frames, LiveTheme& theme) {
   const auto light = [lamp, &state, &theme] {
     constexpr std::array kTokens = {Token::Bad, Token::Caution, Token::Good};
     const Token token = kTokens[static_cast<std::size_t>(state.Phase.Get())];
-    lamp->SetColour(theme.Of(state.txtNode.ForeColour.Get(), token));
+    lamp->SetColour(theme.Get().Of(state.txtNode.ForeColour.Get(), token));
   };
   BindProperty<session::LinkPhase>(lamp, state.Phase, frames, [light](auto) { light(); });
   BindProperty<core::Colour>(lamp, state.txtNode.ForeColour, frames, [light](auto) { light(); });
+  BindProperty<Theme>(lamp, theme, frames, [light](auto) { light(); });
 }
 
 }  // namespace ui

@@ -23,6 +23,6 @@ class Lamp : public QWidget {
 };
 
 // Lights it by the phase of the link: in the user's colour for it, else in the theme's.
-void BindLamp(Lamp* lamp, session::SessionState& state, Frames& frames, const Theme& theme);
+void BindLamp(Lamp* lamp, session::SessionState& state, Frames& frames, LiveTheme& theme);
 
 }  // namespace ui

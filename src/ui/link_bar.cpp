@@ -19,7 +19,7 @@ QFont Bold(QFont font, int pixels) {
 
 }  // namespace
 
-LinkBar::LinkBar(program::Program& program, Frames& frames, const Theme& theme, QWidget* parent)
+LinkBar::LinkBar(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent)
     : QWidget(parent),
       program_(program),
       lamp_(new Lamp(this)),
@@ -78,7 +78,7 @@ void LinkBar::Name() {
   nodes_->setToolTip(tr("The node directory is not part of this version."));
 }
 
-void LinkBar::Tie(program::Program& program, Frames& frames, const Theme& theme) {
+void LinkBar::Tie(program::Program& program, Frames& frames, LiveTheme& theme) {
   session::Session& session = program.session;
   for (auto* button : {&session.connection.cmdConnect, &session.connection.cmdDisconnect})
     BindProperty<bool>(this, button->Enabled, frames, [this](bool) { HandFocusOn(); });

@@ -15,7 +15,7 @@ namespace ui {
 // time.
 class LinkBar : public QWidget {
  public:
-  LinkBar(program::Program& program, Frames& frames, const Theme& theme, QWidget* parent = nullptr);
+  LinkBar(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent = nullptr);
 
   QPushButton* Connect() { return connect_; }
   QPushButton* Disconnect() { return disconnect_; }
@@ -23,7 +23,7 @@ class LinkBar : public QWidget {
  private:
   void Lay();
   void Name();
-  void Tie(program::Program& program, Frames& frames, const Theme& theme);
+  void Tie(program::Program& program, Frames& frames, LiveTheme& theme);
   void ShowButtons();
   // Before the pressed one of the two goes: who works by keyboard finds the other under his finger.
   void HandFocusOn();

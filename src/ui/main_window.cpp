@@ -1,5 +1,6 @@
 #include "ui/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScreen>
@@ -10,26 +11,22 @@
 
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/conditions_bar.h"
+#include "ui/message_dialog.h"
 #include "ui/offset_dialog.h"
 #include "ui/settings_page.h"
 #include "ui/status_line.h"
+#include "ui/touch_watch.h"
 #include "ui/user_info_dialog.h"
 
 namespace ui {
 namespace {
-
-constexpr int kSettingsTab = 0;
-constexpr int kLoginTab = 7;
 
 constexpr QSize kUsualSize(1280, 800);
 constexpr int kTwipsPerPixel = 15;
 
 int Pixels(int twips) { return twips / kTwipsPerPixel; }
 int Twips(int pixels) { return pixels * kTwipsPerPixel; }
-
-// The tabs in their order. A tab without a page yet stands there disabled.
-constexpr std::array kTabs = {"Settings", "Country",   "State", "Bands",   "Users", "DX",
-                              "WWV",      "Login Msg", "Ann",   "Wx Plus", "Mail"};
 
 // A screen may have gone since the place was stored.
 bool OnSomeScreen(const QRect& place) {
@@ -39,27 +36,34 @@ bool OnSomeScreen(const QRect& place) {
   });
 }
 
+// The focus is on it or on something in it.
+bool HasFocusWithin(const QWidget* widget) {
+  const QWidget* focus = QApplication::focusWidget();
+  return widget == focus || widget->isAncestorOf(focus);
+}
+
 }  // namespace
 
-MainWindow::MainWindow(program::Program& program, Frames& frames, const Theme& theme)
+MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& theme)
     : program_(program),
       linkBar_(new LinkBar(program, frames, theme, this)),
-      tabs_(new QTabBar(this)),
+      tabs_(new ViewTabs(program.views, frames, this)),
       pages_(new QStackedWidget(this)),
       splitter_(new QSplitter(Qt::Vertical, this)),
+      dx_(new DxPage(program, frames, this)),
       loginMessage_(new TextPageView(program.session.loginText.rtbLoginMsg, frames, this)),
       raw_(new TextPageView(program.session.outgoing.Text2, frames, this)),
+      findInLogin_(new FindBar(loginMessage_, *loginMessage_, tr("login message"))),
+      findInRaw_(new FindBar(raw_, *raw_, tr("raw view"))),
       commandRow_(new CommandRow(program.session, frames, this)) {
-  AddTabs(frames);
-  Lay();
-  layout()->setContentsMargins(0, 0, 0, 0);
-  centralWidget()->layout()->addWidget(new StatusLine(program.session, frames, theme, this));
+  AddPages(frames);
+  Lay(frames, theme);
+  AddDialogs(frames);
   AddKeys();
+  new TouchWatch(this, frames);
   BindProperty<std::string>(this, program.title, frames, [this](const std::string& title) {
     setWindowTitle(platform::qt::TextOf(title));
   });
-  new UserInfoDialog(program.userInfo, frames, this);
-  new OffsetDialog(program.offsetForm, frames, this);
   placing_ = program.form.Observe([this](const program::FormPlace& place) { Place(place); });
   connect(splitter_, &QSplitter::splitterMoved, this, [this] { StorePlace(); });
   commandRow_->Line()->setFocus();
@@ -109,64 +113,86 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
   StorePlace();
 }
 
-void MainWindow::AddTabs(Frames& frames) {
-  tabs_->setDrawBase(false);
-  tabs_->setExpanding(false);
-  tabs_->setAccessibleName(tr("Views"));
-  for (const char* caption : kTabs) {
-    const int tab = tabs_->addTab(tr(caption));
-    QWidget* page = MakePage(tab, frames);
-    pages_->addWidget(page != nullptr ? page : new QWidget(this));
-    tabs_->setTabEnabled(tab, page != nullptr);
-    if (page == nullptr) tabs_->setTabToolTip(tab, tr("This view is not part of this version."));
-  }
-  connect(tabs_, &QTabBar::currentChanged, pages_, &QStackedWidget::setCurrentIndex);
-  tabs_->setCurrentIndex(kLoginTab);
-}
-
-QWidget* MainWindow::MakePage(int tab, Frames& frames) {
-  if (tab == kSettingsTab) return new SettingsPage(program_, frames, this);
-  if (tab == kLoginTab) return loginMessage_;
-  return nullptr;
-}
-
-void MainWindow::Lay() {
+void MainWindow::AddPages(Frames& frames) {
   loginMessage_->setAccessibleName(tr("Login message of the node"));
   raw_->setAccessibleName(tr("Raw view: all text from and to the node"));
+  for (int tab = 0; tab < program::Views::kTabs; ++tab) {
+    QWidget* page = tab == program::Views::Settings   ? new SettingsPage(program_, frames, this)
+                    : tab == program::Views::Dx       ? dx_
+                    : tab == program::Views::LoginMsg ? loginMessage_
+                                                      : new QWidget(this);
+    pages_->addWidget(page);
+  }
+  following_ = program_.views.onShow.Observe([this](int tab) { pages_->setCurrentIndex(tab); });
+  const auto size = [&](TextPageView* view, program::TextSizes::View which) {
+    BindProperty<int>(view, program_.textSizes.Size[which], frames,
+                      [view](const int& pixels) { view->SetSize(pixels); });
+  };
+  size(raw_, program::TextSizes::Raw);
+  size(loginMessage_, program::TextSizes::LoginMsg);
+}
+
+void MainWindow::AddDialogs(Frames& frames) {
+  new UserInfoDialog(program_.userInfo, frames, this);
+  new OffsetDialog(program_.offsetForm, frames, this);
+  new MessageDialog(program_.messageForm, frames, this);
+}
+
+void MainWindow::Lay(Frames& frames, LiveTheme& theme) {
   splitter_->setHandleWidth(1);
   splitter_->setChildrenCollapsible(false);
   splitter_->addWidget(pages_);
   splitter_->addWidget(raw_);
-  splitter_->setSizes({250, 450});
+  splitter_->setSizes({450, 250});
   auto* column = new QWidget(this);
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
   rows->addWidget(linkBar_);
+  rows->addWidget(new ConditionsBar(program_.conditions, frames, theme, this));
   rows->addWidget(tabs_);
   rows->addWidget(splitter_, 1);
   rows->addWidget(commandRow_);
+  rows->addWidget(new StatusLine(program_.session, frames, theme, this));
   setCentralWidget(column);
 }
 
 void MainWindow::AddKeys() {
-  const auto key = [this](const QKeySequence& keys, auto act) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
-  };
-  key(QStringLiteral("Ctrl+L"), [this] { commandRow_->Line()->setFocus(); });
-  key(QStringLiteral("F6"), [this] { GoRound(); });
-  key(QStringLiteral("F5"), [this] {
-    session::Connection& connection = program_.session.connection;
-    (connection.cmdConnect.Enabled.Get() ? connection.cmdConnect : connection.cmdDisconnect)
-        .Press();
-  });
-  for (int tab = 0; tab < tabs_->count(); ++tab) {
-    const QString last = tab == 9 ? QStringLiteral("0") : QStringLiteral("-");
-    const QString name = tab < 9 ? QString::number(tab + 1) : last;
-    key(QStringLiteral("Alt+") + name, [this, tab] {
-      if (tabs_->isTabEnabled(tab)) tabs_->setCurrentIndex(tab);
-    });
+  for (const ui::Key& key : Keys()) {
+    for (const QKeySequence& keys : QKeySequence::listFromString(QLatin1String(key.keys)))
+      connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, &key] { Do(key); });
   }
+}
+
+void MainWindow::Do(const Key& key) {
+  session::Connection& connection = program_.session.connection;
+  switch (key.act) {
+    case Act::ChooseTab:
+      return program_.views.Choose(key.number);
+    case Act::CommandLine:
+      return commandRow_->Line()->setFocus();
+    case Act::ReturnToTable:
+      return ReturnToTable();
+    case Act::GoRound:
+      return GoRound();
+    case Act::Find:
+      return Find();
+    case Act::LargerText:
+      return program_.textSizes.Change(ViewAtHand(), 1);
+    case Act::SmallerText:
+      return program_.textSizes.Change(ViewAtHand(), -1);
+    case Act::ConnectOrDisconnect:
+      return (connection.cmdConnect.Enabled.Get() ? connection.cmdConnect
+                                                  : connection.cmdDisconnect)
+          .Press();
+    case Act::ListKeys:
+      return ListKeys();
+  }
+}
+
+void MainWindow::ReturnToTable() {
+  program_.views.Choose(program::Views::Dx);
+  dx_->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::GoRound() {
@@ -176,8 +202,27 @@ void MainWindow::GoRound() {
                                           commandRow_->Line()};
   std::size_t next = 0;
   for (std::size_t i = 0; i < places.size(); ++i)
-    if (places[i]->hasFocus()) next = (i + 1) % places.size();
+    if (HasFocusWithin(places[i])) next = (i + 1) % places.size();
   places[next]->setFocus(Qt::TabFocusReason);
+}
+
+void MainWindow::Find() {
+  const program::TextSizes::View view = ViewAtHand();
+  if (view == program::TextSizes::Raw) findInRaw_->Open();
+  if (view == program::TextSizes::LoginMsg) findInLogin_->Open();
+}
+
+void MainWindow::ListKeys() {
+  if (keyList_ == nullptr) keyList_ = new KeyList(this);
+  keyList_->show();
+  keyList_->activateWindow();
+}
+
+program::TextSizes::View MainWindow::ViewAtHand() const {
+  if (HasFocusWithin(raw_)) return program::TextSizes::Raw;
+  if (loginMessage_->isVisible()) return program::TextSizes::LoginMsg;
+  if (dx_->isVisible()) return program::TextSizes::Dx;
+  return program::TextSizes::Raw;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -3,14 +3,18 @@
 #include <QMainWindow>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QTabBar>
 
 #include "program/program.h"
 #include "ui/command_row.h"
+#include "ui/dx_page.h"
+#include "ui/find_bar.h"
 #include "ui/frames.h"
+#include "ui/key_list.h"
+#include "ui/keys.h"
 #include "ui/link_bar.h"
 #include "ui/text_page_view.h"
 #include "ui/theme.h"
+#include "ui/view_tabs.h"
 
 namespace ui {
 
@@ -18,7 +22,7 @@ namespace ui {
 class MainWindow : public QMainWindow {
  public:
   // All three outlive the window.
-  MainWindow(program::Program& program, Frames& frames, const Theme& theme);
+  MainWindow(program::Program& program, Frames& frames, LiveTheme& theme);
 
  protected:
   // Never closes by itself: the program asks, says goodbye to the node, and ends.
@@ -27,24 +31,34 @@ class MainWindow : public QMainWindow {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void AddTabs(Frames& frames);
-  QWidget* MakePage(int tab, Frames& frames);  // nullptr: the view isn't there yet
-  void Lay();
+  void AddPages(Frames& frames);
+  void AddDialogs(Frames& frames);
+  void Lay(Frames& frames, LiveTheme& theme);
   void AddKeys();
+  void Do(const Key& key);
+  void ReturnToTable();
   void GoRound();
+  void Find();
+  void ListKeys();
+  program::TextSizes::View ViewAtHand() const;
   void Place(const program::FormPlace& place);
   void StorePlace();
 
   program::Program& program_;
   LinkBar* linkBar_;
-  QTabBar* tabs_;
+  ViewTabs* tabs_;
   QStackedWidget* pages_;
   QSplitter* splitter_;
+  DxPage* dx_;
   TextPageView* loginMessage_;
   TextPageView* raw_;
+  FindBar* findInLogin_;
+  FindBar* findInRaw_;
   CommandRow* commandRow_;
+  KeyList* keyList_ = nullptr;             // once it was asked for
   program::FormPlace placed_{.left = -1};  // as last applied or stored
   platform::Registration placing_;
+  platform::Registration following_;
 };
 
 }  // namespace ui

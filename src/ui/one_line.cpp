@@ -49,4 +49,6 @@ QString OneLine(std::string_view bytes, core::Position longest) {
   return text;
 }
 
+QString Literally(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
+
 }  // namespace ui

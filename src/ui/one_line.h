@@ -11,4 +11,7 @@ namespace ui {
 // symbol, and what comes behind the first `longest` bytes as an ellipsis.
 QString OneLine(std::string_view bytes, core::Position longest);
 
+// The same for a widget that takes an "&" for the mark of a mnemonic.
+QString Literally(QString text);
+
 }  // namespace ui

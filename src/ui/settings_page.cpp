@@ -1,7 +1,7 @@
 #include "ui/settings_page.h"
 
+#include <QCheckBox>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -19,7 +19,8 @@ SettingsPage::SettingsPage(program::Program& program, Frames& frames, QWidget* p
   column_->setContentsMargins(16, 16, 16, 16);
   column_->setSpacing(kBetweenGroups);
   AddUserInfo(program.userInfo, frames);
-  AddKeepAlive(program.session.keepAlivePanel, frames);
+  AddKeepAlive(program.session, frames);
+  AddAppearance(program.appearance, frames);
   AddTechnical(program.session, frames);
   column_->addStretch();
 }
@@ -39,8 +40,8 @@ void SettingsPage::AddUserInfo(program::UserInfo& model, Frames& frames) {
   who->setAccessibleName(tr("Your call, name and QTH"));
   BindLabel(who, model.lblWho, frames);
   auto* change = new QPushButton(this);
-  BindButton(change, model.cmdOpen, frames);
   change->setAccessibleName(tr("User info"));
+  BindButton(change, model.cmdOpen, frames);
   auto* row = new QHBoxLayout;
   row->setSpacing(16);
   row->addWidget(who);
@@ -49,28 +50,45 @@ void SettingsPage::AddUserInfo(program::UserInfo& model, Frames& frames) {
   AddGroup(tr("User information"))->addLayout(row);
 }
 
-void SettingsPage::AddKeepAlive(session::KeepAlivePanel& model, Frames& frames) {
+void SettingsPage::AddChoice(QHBoxLayout* row, const QString& label, const QString& name,
+                             core::Choice& model, Frames& frames) {
+  auto* box = new QComboBox(this);
+  box->setAccessibleName(name);
+  auto* words = new QLabel(label, this);
+  words->setBuddy(box);
+  BindChoice(box, model, frames);
+  row->addWidget(words);
+  row->addWidget(box);
+}
+
+void SettingsPage::AddKeepAlive(session::Session& session, Frames& frames) {
+  session::KeepAlivePanel& model = session.keepAlivePanel;
   auto* row = new QHBoxLayout;
   row->setSpacing(8);
-  const auto choice = [&](const QString& label, const QString& name, core::Choice& options) {
-    auto* box = new QComboBox(this);
-    box->setAccessibleName(name);
-    auto* words = new QLabel(label, this);
-    words->setBuddy(box);
-    BindChoice(box, options, frames);
-    row->addWidget(words);
-    row->addWidget(box);
-  };
-  choice(tr("&Minutes"), tr("Keep-alive minutes, 0 is off"), model.optKA);
-  choice(tr("&Watch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
-         model.optDirection);
-  choice(tr("St&ored for"), tr("Keep-alive is stored for Telnet or TNC"), model.optMode);
+  AddChoice(row, tr("&Minutes"), tr("Keep-alive minutes, 0 is off"), model.optKA, frames);
+  AddChoice(row, tr("&Watch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
+            model.optDirection, frames);
+  AddChoice(row, tr("St&ored for"), tr("Keep-alive is stored for Telnet or TNC"), model.optMode,
+            frames);
   auto* apply = new QPushButton(this);
-  BindButton(apply, model.cmdExit, frames);
   apply->setAccessibleName(tr("Apply keep-alive"));
+  BindButton(apply, model.cmdExit, frames);
   row->addWidget(apply);
   row->addStretch();
-  AddGroup(tr("Keep-alive"))->addLayout(row);
+  auto* reconnect = new QCheckBox(this);
+  BindCheck(reconnect, session.connection.AutoReconnect, frames);
+  QVBoxLayout* group = AddGroup(tr("Keep-alive"));
+  group->addLayout(row);
+  group->addWidget(reconnect);
+}
+
+void SettingsPage::AddAppearance(program::Appearance& model, Frames& frames) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(8);
+  AddChoice(row, tr("&Theme"), tr("Theme: as the system has it, light or dark"), model.optTheme,
+            frames);
+  row->addStretch();
+  AddGroup(tr("Appearance"))->addLayout(row);
 }
 
 void SettingsPage::AddTechnical(session::Session& session, Frames& frames) {

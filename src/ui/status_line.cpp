@@ -11,8 +11,7 @@ constexpr int kHeight = 24;
 
 }  // namespace
 
-StatusLine::StatusLine(session::Session& session, Frames& frames, const Theme& theme,
-                       QWidget* parent)
+StatusLine::StatusLine(session::Session& session, Frames& frames, LiveTheme& theme, QWidget* parent)
     : QWidget(parent),
       lamp_(new Lamp(this)),
       text_(new QLabel(this)),

@@ -13,7 +13,7 @@ namespace ui {
 // The line at the foot of the window: lamps with words, and the link's state as the rules say it.
 class StatusLine : public QWidget {
  public:
-  StatusLine(session::Session& session, Frames& frames, const Theme& theme,
+  StatusLine(session::Session& session, Frames& frames, LiveTheme& theme,
              QWidget* parent = nullptr);
 
  private:

@@ -32,6 +32,8 @@ QPalette PaletteOf(const Theme& theme) {
 // {name} stands for the theme's colour of that name.
 constexpr const char* kSheet = R"(
 QWidget#LinkBar { background: {panel}; border-bottom: 1px solid {line}; }
+QWidget#ConditionsBar { background: {alarm}; border-bottom: 1px solid {line}; }
+QFrame#FindBar { background: {panel}; border: 1px solid {line}; border-radius: 4px; }
 QWidget#StatusLine { background: {panel}; border-top: 1px solid {line}; }
 QWidget#CommandRow { background: {panel}; }
 QLabel { color: {text}; }
@@ -61,6 +63,11 @@ QTabBar::tab:hover:!selected:!disabled { border-bottom-color: {line}; }
 QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
 QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
+QTreeView { background: {ground}; color: {text}; border: none; }
+QTreeView::item { padding: 3px 8px; }
+QTreeView::item:selected { background: {selection}; color: {text}; }
+QHeaderView::section { background: {panel}; color: {dim}; border: none;
+                       border-bottom: 1px solid {line}; padding: 6px 12px; }
 QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
 QAbstractScrollArea::corner { background: {ground}; border: none; }
@@ -84,6 +91,7 @@ constexpr std::array kNames = {
     Name{"{line}", Token::Line},           Name{"{text}", Token::Text},
     Name{"{dim}", Token::DimText},         Name{"{accent}", Token::Accent},
     Name{"{selection}", Token::Selection}, Name{"{bad}", Token::Bad},
+    Name{"{alarm}", Token::AlarmGround},
 };
 
 QColor Between(const QColor& a, const QColor& b) {
@@ -98,6 +106,10 @@ QString SheetOf(const Theme& theme) {
   return sheet;
 }
 
+Theme ThemeOf(platform::ColourScheme scheme) {
+  return Theme(scheme == platform::ColourScheme::Dark ? Theme::Kind::Dark : Theme::Kind::Light);
+}
+
 }  // namespace
 
 void Apply(const Theme& theme, QApplication& application) {
@@ -106,5 +118,11 @@ void Apply(const Theme& theme, QApplication& application) {
   QApplication::setFont(InterfaceFont());
   application.setStyleSheet(SheetOf(theme));
 }
+
+Wardrobe::Wardrobe(program::Appearance& appearance, QApplication& application)
+    : following_(appearance.OnShow.Observe([this, &application](platform::ColourScheme scheme) {
+        theme.Set(ThemeOf(scheme));
+        Apply(theme.Get(), application);
+      })) {}
 
 }  // namespace ui

@@ -41,6 +41,39 @@ void TextPageView::resizeEvent(QResizeEvent* event) {
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
+void TextPageView::changeEvent(QEvent* event) {
+  QPlainTextEdit::changeEvent(event);
+  // Another style sheet brings back the font that the view was made with.
+  const bool changed = event->type() == QEvent::FontChange && font().pixelSize() != pixels_;
+  if (changed && pixels_ > 0) SetSize(pixels_);
+}
+
+bool TextPageView::Find(const QString& text, Way way) {
+  QTextCursor from = textCursor();
+  if (!from.hasSelection()) from = cursorForPosition({0, 0});
+  if (way == Way::Here) from.setPosition(from.selectionStart());
+  const auto flags =
+      way == Way::Previous ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  QTextCursor found = document()->find(text, from, flags);
+  if (found.isNull()) {
+    from.movePosition(way == Way::Previous ? QTextCursor::End : QTextCursor::Start);
+    found = document()->find(text, from, flags);
+  }
+  if (found.isNull()) return false;
+  setTextCursor(found);
+  ensureCursorVisible();
+  return true;
+}
+
+void TextPageView::SetSize(int pixels) {
+  const bool atEnd = AtEnd();
+  pixels_ = pixels;
+  QFont changed = font();
+  changed.setPixelSize(pixels);
+  setFont(changed);
+  if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
 bool TextPageView::AtEnd() const {
   return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
 }

@@ -4,19 +4,25 @@
 
 #include "core/text_page.h"
 #include "ui/frames.h"
+#include "ui/searchable.h"
 
 namespace ui {
 
 // Shows a text page: what a node sends, as plain text. It follows the end if the reader is there,
 // and otherwise stays where he reads.
-class TextPageView : public QPlainTextEdit {
+class TextPageView : public QPlainTextEdit, public Searchable {
  public:
   // The page and the frames outlive the view.
   TextPageView(core::TextPage& page, Frames& frames, QWidget* parent = nullptr);
 
+  bool Find(const QString& text, Way way) override;
+  // Of its text, in pixels.
+  void SetSize(int pixels);
+
  protected:
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   bool AtEnd() const;
@@ -26,6 +32,7 @@ class TextPageView : public QPlainTextEdit {
   void AppendLast(std::size_t lines);
 
   core::TextPage& page_;
+  int pixels_ = 0;           // of its text, once somebody has said so
   std::size_t shown_ = 0;    // lines of the page that the widget holds
   std::size_t removed_ = 0;  // of those, how many have left the page since
   std::shared_ptr<Frames::Item> item_;

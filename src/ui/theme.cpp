@@ -1,7 +1,5 @@
 #include "ui/theme.h"
 
-#include <QApplication>
-#include <QPalette>
 #include <algorithm>
 #include <cmath>
 
@@ -60,11 +58,6 @@ double Luminance(const QColor& colour) {
 }
 
 }  // namespace
-
-Theme Theme::OfSystem() {
-  const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
-  return Theme(dark ? Kind::Dark : Kind::Light);
-}
 
 QColor Theme::operator[](Token token) const {
   return Pick(kTokens[static_cast<std::size_t>(token)], kind_);

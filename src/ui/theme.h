@@ -50,8 +50,7 @@ class Theme {
   enum class Kind { Light, Dark };
 
   explicit Theme(Kind kind) : kind_(kind) {}
-  // The one that goes with the system's palette.
-  static Theme OfSystem();
+  bool operator==(const Theme&) const = default;
 
   Kind kind() const { return kind_; }
   QColor operator[](Token token) const;
@@ -64,6 +63,9 @@ class Theme {
  private:
   Kind kind_;
 };
+
+// The one that the window is in. It may change at any time.
+using LiveTheme = core::Property<Theme>;
 
 // How well one colour can be read on another: 1 (not at all) to 21, as WCAG 2 computes it.
 double Contrast(const QColor& a, const QColor& b);

@@ -233,6 +233,9 @@ const Keys& AllKeys() {
                             "K3 Port",
                             "K3 Read Spot Freq",
                             "Show Skimmer Dupes",
+                            "Theme",
+                            "Raw Size",
+                            "Login Size",
                             "00Freq",
                             "01Freq",
                             "02Freq",
@@ -271,7 +274,7 @@ Settings NothingAtItsDefault() {
   std::string text;
   for (const std::string& key : AllKeys())
     text += key + (key == "DownloaderOk" ? ",0\n" : ",9999\n");
-  text += "TncParity,Odd\nTncDataBits,7\nTncStopBits,2\nTncFlowControl,Both\n";
+  text += "TncParity,Odd\nTncDataBits,7\nTncStopBits,2\nTncFlowControl,Both\nTheme,Dark\n";
   return ParseSettings(text);
 }
 

@@ -188,6 +188,12 @@ TEST(ParseSettings, SerialSettingsTakeOnlyTheirWords) {
   EXPECT_EQ(Parsed("TncFlowControl,Some").TncFlowControl, "Hardware");
 }
 
+TEST(ParseSettings, AThemeIsLightOrDarkAndAnythingElseFollowsTheSystem) {
+  EXPECT_EQ(Parsed("Theme,Dark").Theme, "Dark");
+  EXPECT_EQ(Parsed("Theme,Light").Theme, "Light");
+  EXPECT_EQ(Parsed("Theme,Pink").Theme, "");
+}
+
 TEST(ParseSettings, ALastLineThatWasCutOffDoesNotCount) {
   for (const char* cut : {"\"SelectedNode", "\"SelectedNode\"", "\"SelectedNode\",",
                           "\"SelectedNode\",\"K1", "\"SelectedNode\",\""})
@@ -274,6 +280,9 @@ TEST(FormatSettings, KeysAtTheirDefaultThatAreOptionalAreLeftOut) {
                           "K3 Port",
                           "K3 Read Spot Freq",
                           "Show Skimmer Dupes",
+                          "Theme",
+                          "Raw Size",
+                          "Login Size",
                           "TncParity",
                           "TncDataBits",
                           "TncStopBits",

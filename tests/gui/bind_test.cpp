@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
@@ -18,7 +19,7 @@ using namespace std::chrono_literals;
 class BindTest : public ::testing::Test {
  protected:
   void Frame() {
-    world.Run(ui::Frames::kFrame);
+    world.Run(ui::Frames::kQuietFrame);
     QApplication::processEvents();
   }
 
@@ -85,6 +86,42 @@ TEST_F(BindTest, AToolTipIsShownAsItStandsMarkupOrNot) {
   Frame();
   EXPECT_TRUE(Qt::mightBeRichText(widget.toolTip()));
   EXPECT_TRUE(widget.toolTip().contains("&lt;b&gt;x&lt;/b&gt;"));
+}
+
+TEST_F(BindTest, AnAmpersandInACaptionIsNoMnemonic) {
+  core::Button buttonModel;
+  core::Check checkModel;
+  core::Label labelModel;
+  QPushButton button;
+  QCheckBox check;
+  QLabel label;
+  ui::BindButton(&button, buttonModel, frames);
+  ui::BindCheck(&check, checkModel, frames);
+  ui::BindLabel(&label, labelModel, frames);
+  for (core::Control* each :
+       {static_cast<core::Control*>(&buttonModel), static_cast<core::Control*>(&checkModel),
+        static_cast<core::Control*>(&labelModel)})
+    each->Caption.Set("Ann &Bob");
+  Frame();
+  EXPECT_TRUE(button.shortcut().isEmpty());
+  EXPECT_TRUE(check.shortcut().isEmpty());
+  for (QWidget* each : {static_cast<QWidget*>(&button), static_cast<QWidget*>(&check),
+                        static_cast<QWidget*>(&label)})
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(each)->text(QAccessible::Name), "Ann &Bob");
+  QPushButton plain("Ann &&Bob");
+  plain.resize(button.size());
+  EXPECT_EQ(button.grab().toImage(), plain.grab().toImage());
+}
+
+TEST_F(BindTest, ALabelOfAFieldShowsAnAmpersandToo) {
+  core::Label model;
+  QLabel label;
+  QLineEdit field;
+  label.setBuddy(&field);
+  ui::BindLabel(&label, model, frames);
+  model.Caption.Set("Ann &Bob");
+  Frame();
+  EXPECT_EQ(label.text(), "Ann &&Bob");
 }
 
 TEST_F(BindTest, AWidgetIsEnabledAndVisibleAsItsModelSays) {

@@ -9,7 +9,7 @@ namespace {
 class CommandLineTest : public Desk {
  protected:
   void SetUp() override {
-    Open();
+    Open({"\"StartTab\",7"});
     LogIn();
     CommandLine().setFocus();
   }

@@ -27,7 +27,7 @@ void Desk::Open(const std::vector<std::string>& more) {
   program = std::make_unique<program::Program>(
       world.platform(), kFolder,
       program::Program::Needs{.quit = [this] { hasQuit = true; }, .seed = 1});
-  window = std::make_unique<ui::MainWindow>(*program, frames, theme);
+  window = std::make_unique<ui::MainWindow>(*program, frames, liveTheme);
   window->show();
   QApplication::setActiveWindow(window.get());
   program->Start();

@@ -47,7 +47,8 @@ class Desk : public ::testing::Test {
   ScriptedNode node{world};
   bool hasQuit = false;
   ui::Frames frames{world.scheduler};
-  const ui::Theme theme{ui::Theme::Kind::Light};
+  const ui::Theme theme{ui::Theme::Kind::Light};  // what the window begins with
+  ui::LiveTheme liveTheme{theme};
   std::unique_ptr<program::Program> program;
   std::unique_ptr<ui::MainWindow> window;
 };

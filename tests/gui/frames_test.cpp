@@ -14,6 +14,13 @@ using ::testing::ElementsAre;
 
 class FramesTest : public ::testing::Test {
  protected:
+  void KeepChangingFor(Milliseconds time) {
+    for (; time > 0ms; time -= 1ms) {
+      item->Changed();
+      world.Run(1ms);
+    }
+  }
+
   platform::sim::World world;
   ui::Frames frames{world.scheduler};
   std::vector<Milliseconds> painted;
@@ -31,11 +38,55 @@ TEST_F(FramesTest, TheFirstChangeAfterAPauseIsPaintedAtOnce) {
 
 TEST_F(FramesTest, TheNextOneWaitsForItsFrame) {
   world.Run(10s);
+  frames.Touched();
   item->Changed();
   world.Run(5ms);
   item->Changed();
   world.Run(100ms);
   EXPECT_THAT(painted, ElementsAre(10s, 10033ms));
+}
+
+TEST_F(FramesTest, WhenNobodyIsAtItThereAreTenASecond) {
+  KeepChangingFor(1s);
+  EXPECT_THAT(painted, ElementsAre(0ms, 100ms, 200ms, 300ms, 400ms, 500ms, 600ms, 700ms, 800ms,
+                                   900ms, 1000ms));
+}
+
+TEST_F(FramesTest, ATouchBringsWhatIsDueSooner) {
+  world.Run(10s);
+  item->Changed();
+  world.Run(10ms);
+  item->Changed();
+  world.Run(5ms);
+  frames.Touched();
+  world.Run(1s);
+  EXPECT_THAT(painted, ElementsAre(10s, 10033ms));
+}
+
+TEST_F(FramesTest, ATouchThatComesLateBringsItAtOnce) {
+  world.Run(10s);
+  item->Changed();
+  world.Run(10ms);
+  item->Changed();
+  world.Run(70ms);
+  frames.Touched();
+  world.Run(1s);
+  EXPECT_THAT(painted, ElementsAre(10s, 10080ms));
+}
+
+TEST_F(FramesTest, ATouchCountsForTwoSeconds) {
+  world.Run(10s);
+  frames.Touched();
+  KeepChangingFor(1s);
+  EXPECT_GE(painted.size(), 30U);
+  KeepChangingFor(1s);
+  painted.clear();
+  KeepChangingFor(1s);
+  EXPECT_LE(painted.size(), 11U);
+  painted.clear();
+  frames.Touched();
+  KeepChangingFor(1s);
+  EXPECT_GE(painted.size(), 30U);
 }
 
 TEST_F(FramesTest, WithoutAChangeNothingIsPainted) {
@@ -59,7 +110,7 @@ TEST_F(FramesTest, WhatAPaintingChangesIsPaintedInTheNextFrame) {
     endless->Changed();
   });
   endless->Changed();
-  world.Run(330ms);
+  world.Run(1s);
   EXPECT_EQ(paints, 11);
 }
 

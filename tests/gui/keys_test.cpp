@@ -1,13 +1,17 @@
 #include <QApplication>
+#include <QShortcut>
+#include <QTreeWidget>
+#include <set>
 
 #include "gui/desk.h"
+#include "ui/keys.h"
 
 namespace gui {
 namespace {
 
 class KeysTest : public Desk {
  protected:
-  void SetUp() override { Open(); }
+  void SetUp() override { Open({"\"StartTab\",7"}); }
   QString Focus() const { return QApplication::focusWidget()->accessibleName(); }
 };
 
@@ -81,6 +85,106 @@ TEST_F(KeysTest, NothingMovesWhenTheFocusDoes) {
     Run(100ms);
     EXPECT_EQ(view->viewport()->geometry(), before);
   }
+}
+
+TEST_F(KeysTest, CtrlPlusAndMinusChangeTheTextOfTheViewWithTheFocus) {
+  auto& login = *Named<QPlainTextEdit>(*window, "Login message of the node");
+  Raw().setFocus();
+  Press(Qt::Key_Plus, Qt::ControlModifier);
+  Press(Qt::Key_Equal, Qt::ControlModifier);
+  Run(100ms);
+  EXPECT_EQ(Raw().font().pixelSize(), 15);
+  EXPECT_EQ(login.font().pixelSize(), 13);
+  login.setFocus();
+  Press(Qt::Key_Minus, Qt::ControlModifier);
+  Run(100ms);
+  EXPECT_EQ(login.font().pixelSize(), 12);
+  EXPECT_EQ(Raw().font().pixelSize(), 15);
+}
+
+TEST_F(KeysTest, FromElsewhereTheyChangeTheViewOnThePage) {
+  CommandLine().setFocus();
+  Press(Qt::Key_Plus, Qt::ControlModifier);
+  Run(100ms);
+  EXPECT_EQ(Named(*window, "Login message of the node")->font().pixelSize(), 14);
+  EXPECT_EQ(Raw().font().pixelSize(), 13);
+}
+
+TEST_F(KeysTest, AReaderAtTheEndStaysThereWhenTheTextGrows) {
+  LogIn();
+  for (int line = 0; line < 300; ++line) node.Say("line " + std::to_string(line));
+  Run(1s);
+  Raw().setFocus();
+  for (int step = 0; step < 19; ++step) {
+    Press(Qt::Key_Plus, Qt::ControlModifier);
+    Run(100ms);
+    ASSERT_TRUE(IsAtEnd(Raw())) << step;
+  }
+  EXPECT_EQ(Raw().font().pixelSize(), 32);
+}
+
+TEST_F(KeysTest, EscapeReturnsToTheSpots) {
+  for (const char* place : {"Command to the node", "Login message of the node"}) {
+    program->views.Choose(program::Views::LoginMsg);
+    Named(*window, place)->setFocus();
+    Press(Qt::Key_Escape);
+    Run(100ms);
+    EXPECT_EQ(Tabs().currentIndex(), program::Views::Dx);
+    EXPECT_EQ(Focus(), "Spots");
+  }
+}
+
+TEST_F(KeysTest, AllKeysAreListedAndTheListHoldsNothingUp) {
+  for (const auto& [key, modifiers] :
+       {std::pair{Qt::Key_Question, Qt::ControlModifier}, std::pair{Qt::Key_F1, Qt::NoModifier}}) {
+    QApplication::setActiveWindow(window.get());
+    Press(key, modifiers);
+    Run(100ms);
+    auto* list = Named<QTreeWidget>(*window, "Keys and what they do");
+    ASSERT_TRUE(list->isVisible());
+    EXPECT_FALSE(list->window()->isModal());
+    QStringList names;
+    for (int row = 0; row < list->topLevelItemCount(); ++row)
+      names << list->topLevelItem(row)->text(0);
+    EXPECT_THAT(names, Contains(QString("Ctrl+L")));
+    EXPECT_THAT(names, Contains(QString("Alt+-")));
+    EXPECT_EQ(names.size(), static_cast<qsizetype>(ui::Keys().size()));
+    QTest::keyClick(list, Qt::Key_Escape);
+    EXPECT_FALSE(list->isVisible());
+  }
+}
+
+TEST_F(KeysTest, EveryKeyOfTheListIsAShortcutOfItsOwn) {
+  std::set<QString> all;
+  for (const QShortcut* each : window->findChildren<QShortcut*>())
+    EXPECT_TRUE(all.insert(each->key().toString()).second) << each->key().toString().toStdString();
+  for (const ui::Key& key : ui::Keys())
+    for (const QKeySequence& each : QKeySequence::listFromString(key.keys)) {
+      EXPECT_FALSE(each.isEmpty()) << key.keys;
+      EXPECT_TRUE(all.contains(each.toString())) << key.keys;
+    }
+}
+
+TEST_F(KeysTest, ATouchOfTheWindowMakesItQuick) {
+  const auto framesIn = [this](platform::Milliseconds time) {
+    int painted = 0;
+    const auto item = frames.Add([&painted] { ++painted; });
+    for (; time > 0ms; time -= 5ms) {
+      item->Changed();
+      Run(5ms);
+    }
+    return painted;
+  };
+  Run(3s);
+  EXPECT_LE(framesIn(1s), 11);
+  Press(Qt::Key_X);
+  EXPECT_GE(framesIn(1s), 25);
+  Run(3s);
+  QTest::mouseClick(Raw().viewport(), Qt::LeftButton);
+  EXPECT_GE(framesIn(1s), 25);
+  Run(3s);
+  QTest::mouseMove(Raw().viewport(), {5, 5});
+  EXPECT_LE(framesIn(1s), 11) << "passing over it is not touching it";
 }
 
 }  // namespace

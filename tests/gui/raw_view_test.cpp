@@ -25,6 +25,7 @@ class RawViewTest : public Desk {
 TEST_F(RawViewTest, ShowsWhatComesAndWhatGoesInTheirOrder) {
   const QString spot =
       "DX de W1TST:     14025.0  3Y0J         CW                             2100Z";
+  Run(5s);  // till then an unknown node may still turn out to send extended lines
   node.Say(spot.toStdString());
   Run(1s);
   QTest::keyClicks(&CommandLine(), "sh/wwv");

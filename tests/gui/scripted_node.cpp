@@ -11,8 +11,10 @@ constexpr std::size_t kPiece = 65536;
 ScriptedNode::ScriptedNode(platform::sim::World& world)
     : world_(world), listener_(world.network.MakeListener()) {
   listener_->connectionRequest = [this] { LetIn(); };
-  listener_->Listen("127.0.0.1", kPort);
+  ListenAgain();
 }
+
+void ScriptedNode::ListenAgain() { listener_->Listen("127.0.0.1", kPort); }
 
 void ScriptedNode::LetIn() {
   ++calls;

@@ -20,6 +20,7 @@ class ScriptedNode {
   void HangUp() { caller_->Close(); }
   // Nobody is let in any more.
   void StopListening() { listener_->Close(); }
+  void ListenAgain();
 
   // The lines heard since the start, whatever the number of calls.
   std::vector<std::string> Heard() const;

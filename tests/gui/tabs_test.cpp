@@ -3,9 +3,15 @@
 namespace gui {
 namespace {
 
-constexpr int kLoginMsg = 7;
+using program::Views;
 
-class TabsTest : public Desk {};
+class TabsTest : public Desk {
+ protected:
+  void Enable(Views::Tab tab) {
+    program->views.tab[tab].Enabled.Set(true);
+    Run(100ms);
+  }
+};
 
 TEST_F(TabsTest, ElevenTabsStandInTheirOrder) {
   Open();
@@ -21,30 +27,38 @@ TEST_F(TabsTest, ATabThatCannotBeUsedSaysWhy) {
     EXPECT_NE(Tabs().isTabEnabled(tab), Tabs().tabToolTip(tab).size() > 10) << tab;
 }
 
-TEST_F(TabsTest, TheLoginMessageOfTheNodeIsOnItsTab) {
+TEST_F(TabsTest, TheTabAtTheStartIsThatOfTheConfiguration) {
   Open();
+  EXPECT_EQ(Tabs().currentIndex(), Views::Dx);
+  EXPECT_TRUE(Named(*window, "Spots")->isVisible());
+  Open({"\"StartTab\",0"});
+  EXPECT_EQ(Tabs().currentIndex(), Views::Settings);
+  EXPECT_FALSE(Named(*window, "Spots")->isVisible());
+}
+
+TEST_F(TabsTest, TheLoginMessageOfTheNodeIsOnItsTab) {
+  Open({"\"StartTab\",7"});
   LogIn();
   auto& message = *Named<QPlainTextEdit>(*window, "Login message of the node");
-  EXPECT_EQ(Tabs().currentIndex(), kLoginMsg);
+  EXPECT_EQ(Tabs().currentIndex(), Views::LoginMsg);
   EXPECT_TRUE(message.isVisible());
   EXPECT_THAT(LinesOf(message), Contains(QString(" Welcome to N0DE-1")));
 }
 
 TEST_F(TabsTest, AltAndANumberChoosesATab) {
   Open();
-  Tabs().setTabEnabled(0, true);
   Press(Qt::Key_1, Qt::AltModifier);
   EXPECT_EQ(Tabs().currentIndex(), 0);
   EXPECT_FALSE(Named(*window, "Login message of the node")->isVisible());
   Press(Qt::Key_8, Qt::AltModifier);
-  EXPECT_EQ(Tabs().currentIndex(), kLoginMsg);
+  EXPECT_EQ(Tabs().currentIndex(), Views::LoginMsg);
   EXPECT_TRUE(Named(*window, "Login message of the node")->isVisible());
 }
 
 TEST_F(TabsTest, AltZeroAndAltMinusChooseTheLastTwo) {
   Open();
-  Tabs().setTabEnabled(9, true);
-  Tabs().setTabEnabled(10, true);
+  Enable(Views::Wx);
+  Enable(Views::Mail);
   Press(Qt::Key_0, Qt::AltModifier);
   EXPECT_EQ(Tabs().currentIndex(), 9);
   Press(Qt::Key_Minus, Qt::AltModifier);
@@ -53,9 +67,26 @@ TEST_F(TabsTest, AltZeroAndAltMinusChooseTheLastTwo) {
 
 TEST_F(TabsTest, AKeyDoesNotChooseATabThatCannotBeUsed) {
   Open();
-  Tabs().setTabEnabled(1, false);
   Press(Qt::Key_2, Qt::AltModifier);
-  EXPECT_EQ(Tabs().currentIndex(), kLoginMsg);
+  EXPECT_EQ(Tabs().currentIndex(), Views::Dx);
+}
+
+TEST_F(TabsTest, ATabSaysWhatItsModelSays) {
+  Open();
+  program->views.tab[Views::Ann].Caption.Set("Ann & = 3");
+  Run(100ms);
+  EXPECT_EQ(Tabs().tabText(Views::Ann), "Ann && = 3") << "the second one is drawn";
+}
+
+TEST_F(TabsTest, AClickThatTheRulesTurnDownChangesNothing) {
+  Open();
+  Enable(Views::Country);
+  program->session.state.Kind = session::NodeKind::WinCluster;
+  QTest::mouseClick(&Tabs(), Qt::LeftButton, {}, Tabs().tabRect(Views::Country).center());
+  EXPECT_EQ(Tabs().currentIndex(), Views::Dx);
+  QTest::mouseClick(&Tabs(), Qt::LeftButton, {}, Tabs().tabRect(Views::LoginMsg).center());
+  EXPECT_EQ(Tabs().currentIndex(), Views::LoginMsg);
+  EXPECT_EQ(program->views.TabType(), "Talk");
 }
 
 TEST_F(TabsTest, TheTitleTellsTheVersionAndTheCall) {

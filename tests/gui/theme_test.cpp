@@ -107,19 +107,12 @@ TEST(ThemeTest, AColourThatTheUserChoseHoldsInBothThemes) {
   }
 }
 
-class SystemThemeTest : public testing::Test {
+class StyleTest : public testing::Test {
  protected:
-  ~SystemThemeTest() override { ui::Apply(kLight, *qApp); }
+  ~StyleTest() override { ui::Apply(kLight, *qApp); }
 };
 
-TEST_F(SystemThemeTest, FollowsTheLightnessOfTheSystemsPalette) {
-  QApplication::setPalette(QPalette(QColor(40, 40, 44)));
-  EXPECT_EQ(Theme::OfSystem().kind(), Theme::Kind::Dark);
-  QApplication::setPalette(QPalette(QColor(240, 240, 240)));
-  EXPECT_EQ(Theme::OfSystem().kind(), Theme::Kind::Light);
-}
-
-TEST_F(SystemThemeTest, PaintsTheWholeApplication) {
+TEST_F(StyleTest, PaintsTheWholeApplication) {
   for (const Theme& theme : {kDark, kLight}) {
     ui::Apply(theme, *qApp);
     const QPalette palette = QApplication::palette();

@@ -72,6 +72,22 @@ TEST_F(ChainTest, TalkThruNoticeIsClaimed) {
   EXPECT_EQ(Claims("Entering Talk-Thru mode."), "TalkThruNotice");
 }
 
+TEST_F(ChainTest, MacrosAreClaimedUpToThePrompt) {
+  EXPECT_EQ(Claims("Macro 1 = sh/dx 10"), "UserMacro");
+  EXPECT_EQ(Claims("2: sh/wwv"), "UserMacro");
+  EXPECT_TRUE(program.session.intake.ForwardSuppressed);
+  EXPECT_NE(Claims("K1TST-2 de N0NODE arc >"), "UserMacro");
+  EXPECT_EQ(program.session.macros.txtMacro[2].Text.Get(), "sh/wwv");
+}
+
+TEST_F(ChainTest, PromptBehindATimedCommandIsTimedAndClaimedByNone) {
+  program.session.state.LoggedIn = true;
+  program.session.latency.Begin();
+  desk.world.Run(1500ms);
+  EXPECT_EQ(Claims("K1TST-2 de N0NODE arc >"), "");
+  EXPECT_EQ(program.session.latency.Text3.Caption.Get(), "001.50");
+}
+
 // Bytes as a node sends them, through the real rows.
 class LoginByRowsTest : public ChainTest {
  protected:

@@ -167,6 +167,18 @@ TEST_F(StartUpTest, ManyChangesCostOneWriteTwoSecondsAfterTheLast) {
   EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"My QTH\",\"Elsewhere\""));
 }
 
+TEST_F(StartUpTest, ATickOfAutoReconnectIsStoredAndDoesNothingElse) {
+  desk.HasUsualConfiguration("\"AutoReconnect\",0\r\n");
+  core::Check& autoReconnect = desk.Start().session.connection.AutoReconnect;
+  EXPECT_FALSE(autoReconnect.Value.Get());
+  autoReconnect.UserSets(true);
+  desk.world.Run(3s);
+  EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"AutoReconnect\",-1\r\n"));
+  desk.world.Run(5min);
+  EXPECT_EQ(desk.program->session.state.Phase.Get(), session::LinkPhase::Disconnected);
+  EXPECT_TRUE(desk.program->session.state.UserDisconnected);
+}
+
 TEST_F(StartUpTest, TitleNamesTheVersionAndTheCall) {
   desk.HasUsualConfiguration();
   EXPECT_EQ(desk.Start().title.Get(), "Molva Desk 2.4315 @ K1TST-2");

@@ -55,9 +55,10 @@ core::Settings Station::OwnSettings() {
 
 session::Session::Needs Station::Needs() {
   return {.chain = chain,
-          .feed = log,
+          .loggers = log,
           .requests = above,
           .clockWork = above,
+          .tncScript = above,
           .defaultNode =
               [] {
                 return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};

@@ -26,19 +26,22 @@ class Station {
 
   // Everything in the order in which it happened, each with its source in front: "First: <line>",
   // "raw view: <line>", "feed: <line>", "forwarded: <line>".
-  class Log : public session::LineFeed {
+  class Log : public session::LoggerServer {
    public:
     bool on = true;
     Lines entries;
     void Add(std::string_view source, std::string_view text);
-    void RawLine(std::string_view line) override { Add("feed", line); }
-    void SendLocal(std::string_view line) override { Add("forwarded", line); }
+    bool Connected() const override { return true; }
+    void LoggerRaw(std::string_view line) override { Add("feed", line); }
+    void SendLogger(std::string_view line) override { Add("forwarded", line); }
     // What that source had to say.
     Lines Of(std::string_view source) const;
   };
 
   // What was asked of the program above the session.
-  class Above : public session::LoginRequests, public session::ClockWork {
+  class Above : public session::LoginRequests,
+                public session::ClockWork,
+                public session::TncScript {
    public:
     Lines asked;
     void GetEm() override { asked.emplace_back("GetEm"); }
@@ -48,6 +51,8 @@ class Station {
     void Sun() override { ++minutes; }
     void DayChange() override { asked.emplace_back("DayChange"); }
     void EnableLoggingSpots() override { asked.emplace_back("EnableLoggingSpots"); }
+    void Connect() override { asked.emplace_back("Connect"); }
+    void DisconnectTNC() override { asked.emplace_back("DisconnectTNC"); }
     int hours = 0;
     int minutes = 0;
   };

@@ -1,0 +1,31 @@
+#include "program/save_condition.h"
+
+#include <utility>
+
+namespace program {
+namespace {
+
+using Fault = platform::Files::Fault;
+
+constexpr auto kKey = "save";
+
+std::string Reason(Fault fault) {
+  if (fault == Fault::Full) return "the disk is full";
+  if (fault == Fault::Denied) return "no permission to write there";
+  return "the disk does not take them";
+}
+
+}  // namespace
+
+void ShowSaved(Conditions& conditions, Fault fault, std::function<void()> save) {
+  if (fault == Fault::None) {
+    conditions.Clear(kKey);
+    return;
+  }
+  conditions.Raise({.key = kKey,
+                    .text = "Settings are not saved: " + Reason(fault) + ".",
+                    .button = "Save now",
+                    .help = std::move(save)});
+}
+
+}  // namespace program

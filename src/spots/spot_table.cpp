@@ -1,0 +1,110 @@
+#include "spots/spot_table.h"
+
+#include <algorithm>
+
+#include "spots/classic_row.h"
+#include "spots/spot_date.h"
+
+namespace spots {
+namespace {
+
+// What a store may hold, in characters for each unit of the spot memory.
+constexpr std::size_t kViewFull = 1000;  // on show; a piece is cut off, so that this is often
+constexpr std::size_t kStoreFull = 1100;
+constexpr std::size_t kStoreKept = 1010;
+constexpr std::size_t kViewCut = 5000;  // the piece, in characters
+
+}  // namespace
+
+SpotTable::SpotTable(core::Calendar& calendar, const core::Settings& settings)
+    : rail([this](int band) { At(band, selectedView_).Append(StarsRow()); }),
+      calendar_(calendar),
+      settings_(settings) {
+  chkShSkm[kDx].Caption.Set("DX");
+  chkShSkm[kSkimmer].Caption.Set("Skimmer");
+  selectingBand_ = rail.optBand.Click.Add([this] { SelectBand(); });
+  for (const Source source : {kDx, kSkimmer})
+    selectingView_[source] = chkShSkm[source].Click.Add([this] { SelectView(); });
+}
+
+void SpotTable::EnterTab() {
+  onShow_ = true;
+  unseen_ = 0;
+  TabCaption.Set("DX");
+}
+
+void SpotTable::LeaveTab() {
+  onShow_ = false;
+  TabCaption.Set("DX");
+  UpdateDxSpots();
+  ClearStars();
+}
+
+void SpotTable::NoteSkimmer() {
+  if (skimmerNoted_ || !onShow_) return;
+  skimmerNoted_ = true;
+  for (core::Check& check : chkShSkm) check.Value.Set(true);
+  if (selectedView_ != kAllSpots) SelectView();
+}
+
+void SpotTable::CountUnseen(int band) {
+  const int selected = rail.SelectedBand();
+  if (onShow_ || (selected != kAllBands && selected != band)) return;
+  if (++unseen_ == 1) RtbDx.Append(StarsRow());
+  TabCaption.Set("DX = " + std::to_string(unseen_));
+}
+
+void SpotTable::Add(std::string_view text, int band) {
+  KeepLimits(kAllBands, settings_.SpotMemoryAll);
+  KeepLimits(band, settings_.SpotMemorySingle);
+  const bool skimmer = IsSkimmerRow(text);
+  const TableRow row(text, skimmer ? TableRow::Kind::Skimmer : TableRow::Kind::Other, band);
+  for (const int where : {kAllBands, band})
+    for (const int view : {kAllSpots, skimmer ? kSkimmerSpots : kOtherSpots}) {
+      At(where, view).Append(row);
+      if (Selected(where, view)) RtbDx.Append(row);
+    }
+}
+
+void SpotTable::KeepLimits(int band, int memory) {
+  const auto units = static_cast<std::size_t>(std::max(memory, 0));
+  for (int view = 0; view < kViews; ++view)
+    if (At(band, view).Characters() > units * kStoreFull)
+      Forget(band, view, At(band, view).KeepLast(units * kStoreKept));
+  RowStore& shown = At(band, selectedView_);
+  if (shown.Characters() > units * kViewFull)
+    Forget(band, selectedView_, shown.CutBefore(kViewCut));
+}
+
+void SpotTable::Forget(int band, int view, std::size_t spots) {
+  if (Selected(band, view)) RtbDx.RemoveSpots(spots);
+}
+
+void SpotTable::SelectBand() {
+  rail.ClearUnseen(rail.SelectedBand());
+  UpdateDxSpots();
+  ClearStars();
+}
+
+void SpotTable::SelectView() {
+  const bool dx = chkShSkm[kDx].Value.Get();
+  const bool skimmer = chkShSkm[kSkimmer].Value.Get();
+  selectedView_ = dx == skimmer ? kAllSpots : (skimmer ? kSkimmerSpots : kOtherSpots);
+  UpdateDxSpots();
+  ClearStars();
+}
+
+void SpotTable::UpdateDxSpots() { RtbDx.Redraw(At(rail.SelectedBand(), selectedView_).Rows()); }
+
+// Only behind the drawing: the separators are to be seen once.
+void SpotTable::ClearStars() { At(rail.SelectedBand(), selectedView_).ClearStars(); }
+
+bool SpotTable::Selected(int band, int view) const {
+  return band == rail.SelectedBand() && view == selectedView_;
+}
+
+TableRow SpotTable::StarsRow() {
+  return {Stars(kTableWidth), TableRow::Kind::Stars, 0, MomentNow(calendar_).minutes};
+}
+
+}  // namespace spots

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/controls.h"
+#include "core/dates.h"
+#include "core/settings.h"
+#include "spots/band_rail.h"
+#include "spots/dx_pane.h"
+#include "spots/row_store.h"
+
+namespace spots {
+
+// The DX tab: the rows that are kept by band and view, and those on show.
+//
+// A spot goes through NoteSkimmer, rail.Increment, CountUnseen and Add, in this order.
+class SpotTable {
+ public:
+  // Views of a band.
+  enum View { kAllSpots, kSkimmerSpots, kOtherSpots };
+  static constexpr int kViews = 3;
+  // Entries of chkShSkm.
+  enum Source { kDx, kSkimmer };
+
+  // Both outlive the table. The limits of the stores follow the settings.
+  SpotTable(core::Calendar& calendar, const core::Settings& settings);
+
+  core::Property<std::string> TabCaption{"DX"};  // "DX = 5" while there are unseen ones
+  std::array<core::Check, 2> chkShSkm;           // "DX" and "Skimmer"
+  BandRail rail;
+  DxPane RtbDx;
+
+  // What chkShSkm says: with both ticked or none it is all spots.
+  int SelectedView() const { return selectedView_; }
+  // The tab comes on show, and leaves it. It isn't on show at first.
+  void EnterTab();
+  void LeaveTab();
+  bool OnShow() const { return onShow_; }
+
+  // The first Skimmer's row that comes while the tab is on show ticks both sources.
+  void NoteSkimmer();
+  // Counts a spot of that band that comes while the tab isn't on show, if it will be on view there.
+  void CountUnseen(int band);
+  // Stores a row of that band, and shows it where band and view are the selected ones.
+  void Add(std::string_view row, int band);
+
+  const RowStore& SpotStore(int band, int view) const {
+    return stores_[static_cast<std::size_t>(band)][static_cast<std::size_t>(view)];
+  }
+
+ private:
+  using Stores = std::array<std::array<RowStore, kViews>, kBandCount>;
+
+  void SelectBand();
+  void SelectView();
+  void UpdateDxSpots();
+  void ClearStars();
+  void KeepLimits(int band, int memory);
+  void Forget(int band, int view, std::size_t spots);
+  bool Selected(int band, int view) const;
+  TableRow StarsRow();
+  RowStore& At(int band, int view) {
+    return stores_[static_cast<std::size_t>(band)][static_cast<std::size_t>(view)];
+  }
+
+  core::Calendar& calendar_;
+  const core::Settings& settings_;
+  Stores stores_;
+  int selectedView_ = kAllSpots;
+  bool onShow_ = false;
+  bool skimmerNoted_ = false;
+  std::uint64_t unseen_ = 0;
+  platform::Registration selectingBand_;
+  std::array<platform::Registration, 2> selectingView_;
+};
+
+}  // namespace spots

@@ -1,0 +1,42 @@
+#include "ui/key_list.h"
+
+#include <QHeaderView>
+#include <QKeySequence>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "ui/keys.h"
+
+namespace ui {
+namespace {
+
+constexpr QSize kUsualSize(460, 520);
+
+QString Spelled(const Key& key) {
+  QStringList names;
+  for (const QKeySequence& each : QKeySequence::listFromString(QString::fromLatin1(key.keys)))
+    names << each.toString(QKeySequence::NativeText);
+  return names.join(QStringLiteral(",  "));
+}
+
+}  // namespace
+
+KeyList::KeyList(QWidget* parent) : QDialog(parent) {
+  setWindowTitle(tr("Keys"));
+  resize(kUsualSize);
+  auto* list = new QTreeWidget(this);
+  list->setAccessibleName(tr("Keys and what they do"));
+  list->setColumnCount(2);
+  list->setHeaderLabels({tr("Key"), tr("What it does")});
+  list->setRootIsDecorated(false);
+  list->setUniformRowHeights(true);
+  for (const Key& key : Keys())
+    list->addTopLevelItem(new QTreeWidgetItem(QStringList{Spelled(key), tr(key.says)}));
+  list->setCurrentItem(list->topLevelItem(0));
+  list->resizeColumnToContents(0);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(list);
+}
+
+}  // namespace ui
