@@ -37,6 +37,10 @@ if(MOLVA_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(MOLVA_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(MOLVA_LINT)
   find_program(CLANG_TIDY clang-tidy REQUIRED)
   set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet)

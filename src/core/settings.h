@@ -114,6 +114,7 @@ struct Settings {
   int TelnetKAtime = 5;
   bool DontShowClusterUpdate = false;
   bool DxARPCoff = false;
+  bool AskSettings = false;  // an AR-Cluster is asked for the user's switches at login
 
   // The radio path and the serial ports.
   bool TncMode = false;

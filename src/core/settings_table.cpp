@@ -244,6 +244,7 @@ constexpr auto kRows = std::to_array<SettingRow>({
     {"Theme", &Settings::Theme, Form::Words, IfOneOf, kThemes},
     {"Raw Size", &Settings::RawSize, Form::Plain, IfChanged},
     {"Login Size", &Settings::LoginSize, Form::Plain, IfChanged},
+    {"Ask Settings", &Settings::AskSettings, Form::Plain, IfChanged},
     {"Freq", FrequencyFamily{&Settings::Freq, 0, 2}},
     {"WwvWeb", &Ignore, Form::Plain, Never},
     {"DxSourceToNetwork", &KeepFromLog, Form::Plain, Never},

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "program/program.h"
+#include "session/page_prompt.h"
 
 namespace program {
 namespace {
@@ -45,12 +46,22 @@ constexpr std::array<Row, 65> kRows = {{
      Stop::Tail},
     {16, "WcyLine", Pass, Stop::Tail},
     {17, "ExtendedRecordLines", Pass, Stop::Tail},
-    {18, "Latency", Pass, Stop::Never},
-    {19, "PagePrompt", Pass, Stop::Tail},
+    {18, "Latency",
+     [](Program& p, Line l) {
+       p.session.latency.Latency(l);
+       return false;
+     },
+     Stop::Never},
+    {19, "PagePrompt",
+     [](Program& p, Line l) {
+       return session::PagePrompt(l, p.session.state, p.session.outgoing, p.session.intake);
+     },
+     Stop::Tail},
     {20, "MailMsg", Pass, Stop::Tail},
     {21, "AnnouncementList", Pass, Stop::Tail},
     {22, "WeatherList", Pass, Stop::Tail},
-    {23, "ArFirstPrompt", Pass, Stop::Tail},
+    {23, "ArFirstPrompt",
+     [](Program& p, Line l) { return p.session.loginSequence.ArFirstPrompt(l); }, Stop::Tail},
     {24, "ShTNC", Pass, Stop::Tail},
     {25, "DOS", Pass, Stop::Tail},
     {26, "ExtendedMailOrUserLine", Pass, Stop::Tail},
@@ -60,14 +71,15 @@ constexpr std::array<Row, 65> kRows = {{
     {30, "ClusterCfg", Pass, Stop::Tail},
     {31, "NetworkCfg", Pass, Stop::Tail},
     {32, "Passives", Pass, Stop::Tail},
-    {33, "NoName", Pass, Stop::Tail},
-    {34, "SetEmail", Pass, Stop::Tail},
+    {33, "NoName", [](Program& p, Line l) { return p.session.profileHints.NoName(l); }, Stop::Tail},
+    {34, "SetEmail", [](Program& p, Line l) { return p.session.profileHints.SetEmail(l); },
+     Stop::Tail},
     {35, "FilterErrorLine", Pass, Stop::Tail},
     {36, "BandAndModeFilterReply", Pass, Stop::Tail},
     {37, "BandAndTimeFilterReply", Pass, Stop::Tail},
     {38, "KeywordFilterReply", Pass, Stop::Tail},
     {39, "ConfirmSettings", Pass, Stop::Tail},
-    {40, "UserMacro", Pass, Stop::Tail},
+    {40, "UserMacro", [](Program& p, Line l) { return p.session.macros.UserMacro(l); }, Stop::Tail},
     {41, "Settings", Pass, Stop::Tail},
     {42, "UserInfo", Pass, Stop::Tail},
     {43, "HaveNewMail", Pass, Stop::Tail},
@@ -79,28 +91,31 @@ constexpr std::array<Row, 65> kRows = {{
     {49, "ReconnectedNotice", Pass, Stop::Tail},
     {50, "RetryNotice", Pass, Stop::Tail},
     {51, "StationInfo", Pass, Stop::Tail},
-    {52, "YourInfo", Pass, Stop::Tail},
+    {52, "YourInfo", [](Program& p, Line l) { return p.session.profileHints.YourInfo(l); },
+     Stop::Tail},
     {53, "TalkEnd", Pass, Stop::Tail},
-    {54, "ArpcReply", Pass, Stop::Tail},
+    {54, "ArpcReply", [](Program& p, Line l) { return p.session.ar17.ArpcReply(l); }, Stop::Tail},
     {55, "Sun", Pass, Stop::Tail},
     {56, "TalkThruNotice",
      [](Program&, Line l) { return l.find("Entering Talk-Thru mode.") != Line::npos; }, Stop::Tail},
     {57, "WwvHistoryRows", Pass, Stop::Tail},
-    {58, "SeventyThree", Pass, Stop::Tail},
-    {59, "StatUser", Pass, Stop::Tail},
+    {58, "SeventyThree", [](Program& p, Line l) { return p.session.duelling.SeventyThree(l); },
+     Stop::Tail},
+    {59, "StatUser", [](Program& p, Line l) { return p.profileReader.StatUser(l); }, Stop::Tail},
     {60, "ClxSettings", Pass, Stop::Tail},
     {61, "ChatList", Pass, Stop::Tail},
     {62, "NotWxPage", Pass, Stop::Tail},
-    {63, "InstanceNotice", Pass, Stop::Never},
+    {63, "InstanceNotice", [](Program& p, Line l) { return p.session.duelling.InstanceNotice(l); },
+     Stop::Never},
     {64, "updatetxtLoginMsg",
      [](Program& p, Line l) {
-       p.session.login.updatetxtLoginMsg(l);
+       p.session.loginText.updatetxtLoginMsg(l);
        return false;
      },
      Stop::Never},
     {65, "LoginSequence",
      [](Program& p, Line l) {
-       p.session.login.LoginSequence(l);
+       p.session.loginSequence.Run(l);
        return false;
      },
      Stop::Never},

@@ -22,13 +22,26 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       chain_(*this),
       session(platform_, calendar, settings,
               {.chain = chain_,
-               .feed = feed_,
+               .loggers = standIns,
+               .requests = standIns,
+               .clockWork = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .onNodeKnown = [this] { CaptionSetup(); },
                .delayedWriteCfg = [this] { DelayedWriteCfg(); },
                .writeCfg = [this] { WriteCfg(); },
-               .onFault = errorLog.FaultHandler()}),
+               .showMessage =
+                   [this](const std::string& heading, const std::string& text) {
+                     platform_.dialogs.Tell({.title = heading, .text = text});
+                   },
+               .closeMessage = [] {},
+               .ar17Settled = [] {},
+               .profileAsked = [this] { profileReader.AskedByLogin(); },
+               .onEnding = [this] { profileReader.Forget(); },
+               .onFault = errorLog.FaultHandler(),
+               .seed = needs_.seed}),
+      profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
+                    session.keepAlive, standIns, userSettings),
       userInfo(settings, {.password = [this] { return session.outgoing.NodePassword; },
                           .save = [this](const std::string& password) { SaveUserInfo(password); }}),
       offsetForm([this](const std::string& gmtOffset) {
@@ -78,6 +91,7 @@ void Program::ApplySettings() {
   userInfo.Refresh();
   appearance.Load();
   textSizes.Load();
+  userSettings.Take(settings);
   CaptionSetup();
 }
 
@@ -94,11 +108,25 @@ void Program::SaveUserInfo(const std::string& password) {
 }
 
 void Program::CaptionSetup() {
-  const std::string& node = session.state.ConnectedNodeCall;
-  title.Set("Molva Desk " + std::string(core::kProgramVersion) +
-            (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
-            (node.empty() ? "" : "  (" + node + ")"));
+  const session::SessionState& state = session.state;
+  const std::string& node = state.ConnectedNodeCall;
+  const std::string_view word = session::DialectOf(state.Kind).titleWord;
+  const std::string link = LinkWord();
+  MultiNode.Value.Set(settings.Linking);
+  MultiNode.Caption.Set(link);
+  title.Set(
+      link + "Molva Desk " + std::string(core::kProgramVersion) +
+      (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
+      (node.empty() ? "" : "  (" + node + (word.empty() ? "" : " ") + std::string(word) + ")"));
   views.FollowNode();
+}
+
+// The second of two linked copies is fed through the first, in the extended line forms.
+std::string Program::LinkWord() const {
+  if (!settings.Linking) return {};
+  if (Primary) return "Primary - ";
+  const bool good = session.state.IsArCluster() || session.state.IsZelva();
+  return good ? "Secondary - " : "Bad as Secondary - ";
 }
 
 }  // namespace program

@@ -10,6 +10,8 @@
 #include "core/endpoints.h"
 #include "core/error_log.h"
 #include "core/settings.h"
+#include "filters/profile_reader.h"
+#include "filters/user_settings.h"
 #include "platform/platform.h"
 #include "platform/tasks.h"
 #include "program/appearance.h"
@@ -18,10 +20,10 @@
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
+#include "program/stand_ins.h"
 #include "program/text_sizes.h"
 #include "program/user_info.h"
 #include "program/views.h"
-#include "session/forwarding.h"
 #include "session/session.h"
 
 namespace program {
@@ -64,16 +66,10 @@ class Program {
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;
+  core::Check MultiNode;           // two copies are linked; its caption says which one this is
   core::Property<FormPlace> form;  // set by the window as the user moves it, and at start
 
  private:
-  // No logging program and no local network yet: what goes to them goes nowhere.
-  class NoFeed : public session::LineFeed {
-   public:
-    void RawLine(std::string_view) override {}
-    void SendLocal(std::string_view) override {}
-  };
-
   platform::Platform platform_;
   const std::string folder_;
   Needs needs_;
@@ -83,14 +79,16 @@ class Program {
   core::ErrorLog errorLog;
   core::Settings settings;
   core::Endpoints endpoints;
+  StandIns standIns;
 
  private:
   LineChain chain_;
-  NoFeed feed_;
   std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
 
  public:
   session::Session session;
+  filters::UserSettings userSettings;
+  filters::ProfileReader profileReader;
   UserInfo userInfo;
   OffsetForm offsetForm;
   MessageForm messageForm;  // frmMsg
@@ -120,6 +118,7 @@ class Program {
 
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
+  std::string LinkWord() const;
   void ApplySettings();
   void WriteCfg();
   void SaveUserInfo(const std::string& password);

@@ -109,6 +109,7 @@ platform::Task<> Program::ReadPassword() {
 platform::Task<> Program::PrepareSession() {
   session.connection.AutoReconnect.Value.Set(settings.AutoReconnect);
   session.state.UserDisconnected = true;
+  session.state.WantMissedSpots = session.state.FirstConnect = settings.GetMissedOnes;
   session.nodeAddress.EnsureNode();
   session.keepAlivePanel.Load();
   session.timers.SetInterval(TimerId::Reconnect, RetryInterval(needs_.seed));

@@ -1,11 +1,15 @@
 #include "session/command_line.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace session {
 
-CommandLine::CommandLine(Outgoing& outgoing)
-    : outgoing_(outgoing), entering_(txtCmdLine.Return.Add([this] { Enter(); })) {}
+CommandLine::CommandLine(Outgoing& outgoing, const SessionState& state, Needs needs)
+    : outgoing_(outgoing),
+      state_(state),
+      needs_(std::move(needs)),
+      entering_(txtCmdLine.Return.Add([this] { Enter(); })) {}
 
 void CommandLine::HistoryUp() {
   HistoryPos = std::min(HistoryPos + 1, CommandHistory.size());
@@ -23,10 +27,21 @@ void CommandLine::ShowHistory() {
 
 void CommandLine::Enter() {
   const std::string line = txtCmdLine.Text.Get();
-  outgoing_.SendAsIs(line);
+  cmdRawplus[3].Enabled.Set(true);
+  cmdRawplus[7].Enabled.Set(true);
+  Put(line);
   if (!line.empty() && HistoryPos == 0) CommandHistory.push_front(line);
   HistoryPos = 0;
   txtCmdLine.Text.Set({});
+}
+
+void CommandLine::Put(const std::string& line) {
+  if (state_.TncMode && line == "*") {
+    needs_.sendAutobaud();
+    return;
+  }
+  if (!state_.TncMode && needs_.weatherInFront()) needs_.beginFreshWeatherPage();
+  outgoing_.SendAsIs(line);
 }
 
 }  // namespace session

@@ -1,20 +1,31 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <string>
 
 #include "core/controls.h"
 #include "session/outgoing.h"
+#include "session/session_state.h"
 
 namespace session {
 
 // The line in which the operator types to the node, with the lines he typed before.
 class CommandLine {
  public:
-  explicit CommandLine(Outgoing& outgoing);
+  struct Needs {
+    std::function<void()> sendAutobaud;           // "*" to the TNC
+    std::function<bool()> weatherInFront;         // the weather page is on show
+    std::function<void()> beginFreshWeatherPage;  // for the reply to the next command
+  };
+
+  CommandLine(Outgoing& outgoing, const SessionState& state, Needs needs);
 
   core::TextBox txtCmdLine;
+  // The buttons beside the text pages. A command makes sense of [3] and [7].
+  std::array<core::Button, 13> cmdRawplus;
 
   // The Up and Down keys: the line typed before the one on show, and the one after it. They stop at
   // the ends.
@@ -28,9 +39,12 @@ class CommandLine {
 
  private:
   void Enter();
+  void Put(const std::string& line);
   void ShowHistory();
 
   Outgoing& outgoing_;
+  const SessionState& state_;
+  Needs needs_;
   std::deque<std::string> CommandHistory;
   std::size_t HistoryPos = 0;  // counts from 1; 0: nothing is recalled
   platform::Registration entering_;

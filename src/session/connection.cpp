@@ -23,8 +23,8 @@ constexpr auto kPoll = 10ms;
 
 Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& calendar,
                        core::Settings& settings, SessionState& state, platform::TcpSocket& socket,
-                       Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress, Timers& timers,
-                       Needs needs)
+                       Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress,
+                       LoginWatch& loginWatch, Duelling& duelling, Timers& timers, Needs needs)
     : scheduler_(scheduler),
       calendar_(calendar),
       settings_(settings),
@@ -33,20 +33,16 @@ Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& cal
       outgoing_(outgoing),
       intake_(intake),
       nodeAddress_(nodeAddress),
+      loginWatch_(loginWatch),
+      duelling_(duelling),
       timers_(timers),
       needs_(std::move(needs)),
-      connectPressed_(cmdConnect.Click.Add([this] { PressConnect(); })),
-      disconnectPressed_(cmdDisconnect.Click.Add([this] {
-        if (!Disconnecting) tasks_.Start("Disconnect", PressDisconnect());
-      })),
-      connecting_(scheduler, needs_.onFault),
-      tasks_(scheduler, needs_.onFault) {
+      connecting_(scheduler, needs_.onFault) {
   socket_.connected = [this] { OnConnect(); };
   socket_.closed = [this] { ForceClose(); };
   socket_.error = [this](const platform::SocketFault& fault) { OnError(fault); };
   socket_.dataArrival = [this] { intake_.Turn(); };
   timers_.SetDuty(TimerId::Reconnect, [this] { RetryNow(); });
-  timers_.SetDuty(TimerId::ConnectionTimeout, [this] { WatchLogin(); });
   cmdConnect.Caption.Set("Connect");
   cmdDisconnect.Caption.Set("Disconnect");
   cmdDisconnect.Enabled.Set(false);
@@ -104,7 +100,7 @@ void Connection::OpenSocket() {
 void Connection::ShowState() {
   const SocketState now = socket_.State();
   if (now == SocketState::Connected && !state_.LoggedIn) {
-    LoginAttempts = 0;
+    loginWatch_.LoginAttempts = 0;
     Show(LinkPhase::Trying);
   }
   state_.txtNode.Caption.Set(StateText(now, state_.LoggedIn) + settings_.NodeCall);
@@ -143,10 +139,10 @@ void Connection::OnConnect() {
   if (std::exchange(state_.ConnectEventSeen, true)) return;
   Show(LinkPhase::Trying);
   state_.SocketConnected = true;
-  LoginAttempts = 0;
+  loginWatch_.LoginAttempts = 0;
   ConnectedAt = scheduler_.Now();
   state_.LoginMsgActive = true;
-  rtbLoginMsg.Clear();
+  needs_.onConnected();
   intake_.ClearLine();
   // Nothing is read until the connecting routine has ended.
   connectHold_ = intake_.Hold();
@@ -159,6 +155,7 @@ void Connection::ForceClose() {
   const std::string text = byPeer
                                ? "Winsock Connection Closed by remote node: " + settings_.NodeCall
                                : "Forcing a disconnect with: " + state_.ConnectedNodeCall;
+  duelling_.ClosedByRemote = byPeer;
   if (byPeer && WhyEnded.empty()) WhyEnded = "closed by the node";
   state_.txtNode.Caption.Set(text);
   if (state_.LoggedIn)
@@ -176,29 +173,39 @@ void Connection::OnError(const platform::SocketFault& fault) {
   WhyEnded = fault.text;
   TellFailure(number, socket_.RemoteHost + " " + state_.ConnectedNodeCall + " Winsock Error: " +
                           number + ": " + fault.text + ": " + calendar_.GmtTime());
+  duelling_.DuelSuspected = false;
+  duelling_.ClosedByRemote = false;
   Disconnected();
 }
 
 void Connection::Disconnected() {
+  needs_.onEnding();
   state_.ConnectEventSeen = false;
-  state_.LoginTextDone = false;
-  state_.LoginFinished = false;
   state_.LoginMsgActive = false;
-  state_.Kind = NodeKind::Unknown;
-  state_.ArpcRefused = false;
+  state_.ForgetNode();
   intake_.ClearLine();
   outgoing_.LinkDown();
   connectHold_.Release();
-  if (std::exchange(ConnectedOnce, false)) ++DisconnectCount;
+  duelling_.DuellingConnection();
+  duelling_.DuelArmed = false;
+  Count();
+  needs_.onEnded();
   SessionOver();
   state_.ConnectFailed = true;
   timers_.Disable(TimerId::ConnectionTimeout);
+  if (settings_.GetMissedOnes) state_.WantMissedSpots = state_.FirstConnect = true;
   if (AutoReconnect.Value.Get()) {
     timers_.Enable(TimerId::Reconnect);
     cmdDisconnect.Enabled.Set(true);
   }
   state_.SocketConnected = false;
   state_.LoggedIn = false;
+}
+
+void Connection::Count() {
+  if (!std::exchange(ConnectedOnce, false)) return;
+  ++DisconnectCount;
+  lblDisconnects.Caption.Set("Disconnects = " + std::to_string(DisconnectCount));
 }
 
 void Connection::SessionOver() {
@@ -226,24 +233,7 @@ void Connection::RetryNow() {
   WhichNode();
 }
 
-void Connection::WatchLogin() {
-  const bool connected = socket_.State() == SocketState::Connected;
-  if (LoginAttempts == 0 && connected) outgoing_.Send(core::Trim(settings_.MyCall));
-  ++LoginAttempts;
-  if (!connected) {
-    timers_.Disable(TimerId::ConnectionTimeout);
-    LoginAttempts = 0;
-  } else if (socket_.BytesReceived() > 0 && state_.ConnectEventSeen) {
-    intake_.Turn();
-  } else if (LoginAttempts > LoginPatience) {
-    GiveUpLogin();
-  }
-}
-
 void Connection::GiveUpLogin() {
-  ++LoginPatience;
-  state_.ConnectFailed = true;
-  timers_.Disable(TimerId::ConnectionTimeout);
   TellFailure("silent",
               "No login request received : " + calendar_.GmtTime() + state_.ConnectedNodeCall);
   GiveUp("the node asked for no login");
@@ -270,41 +260,21 @@ void Connection::LoggedInSetup() {
   needs_.onLoggedIn();
 }
 
-void Connection::PressConnect() {
-  LoginPatience = 2;
-  cmdConnect.Enabled.Set(false);
-  if (core::StartsWith(settings_.MyCall, "-")) settings_.MyCall.clear();
-  const bool nameOrQthMissing = settings_.MyName.empty() || settings_.MyQth.empty();
-  if (!settings_.MyCall.empty() && nameOrQthMissing) {
-    cmdConnect.Enabled.Set(true);
-    needs_.askUserInfo();
-    return;
-  }
-  AutoReconnect.Value.Set(true);
+void Connection::BeginAnew() {
   WhyEnded.clear();
   toldFailures_.clear();
-  state_.UserDisconnected = false;
   Show(LinkPhase::Trying);
-  cmdDisconnect.Enabled.Set(true);
-  WhichNode();
 }
 
-platform::Task<> Connection::PressDisconnect() {
-  Disconnecting = true;
-  state_.ConnectFailed = true;
-  ConnectedOnce = false;
-  state_.UserDisconnected = true;
-  AutoReconnect.Value.Set(false);
-  WhyEnded = "disconnected by you";
-  state_.txtNode.Caption.Set("Ready to Connect");
-  if (state_.LoggedIn) {
-    outgoing_.Send("BYE");
-    co_await Delay(6 * core::kPause);
-  }
-  // Meanwhile the user may have connected anew.
-  if (state_.UserDisconnected && socket_.State() != SocketState::Closed) ForceClose();
-  DisconnectCount = 0;
-  Disconnecting = false;
+void Connection::CloseIfOpen() {
+  if (socket_.State() != SocketState::Closed) ForceClose();
+}
+
+void Connection::Refused(std::string_view line) {
+  const std::string what(core::Trim(line));
+  WhyEnded = what;
+  ForceClose();
+  state_.txtNode.Caption.Set(what);
 }
 
 bool Connection::QRX(std::string_view line) {
@@ -325,7 +295,8 @@ bool Connection::QRX(std::string_view line) {
 bool Connection::ConnectToNode(std::string_view line) {
   if (state_.LoginTextDone) return false;
   const bool unexpanded = core::StartsWith(line, "%C de %M");
-  const std::string call = GreetingCall(line, settings_.MyCall, settings_.NodeCall);
+  const std::string call =
+      GreetingCall(line, state_.LoginCall(settings_.MyCall), settings_.NodeCall);
   if (call.empty()) return false;
   if (!unexpanded) nodeAddress_.Learn(call, socket_.RemoteHostIP());
   ShowNode(call);
@@ -334,6 +305,7 @@ bool Connection::ConnectToNode(std::string_view line) {
 
 void Connection::ShowNode(const std::string& call) {
   state_.ConnectedNodeCall = call;
+  if (state_.KnownNodes.empty() || state_.KnownNodes.front() != call) state_.KnownNodes = {call};
   needs_.onNodeKnown();
   state_.txtNode.Caption.Set("***Connected to: " + state_.ConnectedNodeCall);
 }

@@ -10,7 +10,9 @@
 #include "platform/clock.h"
 #include "platform/tasks.h"
 #include "platform/tcp.h"
+#include "session/duelling.h"
 #include "session/intake.h"
+#include "session/login_watch.h"
 #include "session/node_address.h"
 #include "session/outgoing.h"
 #include "session/session_state.h"
@@ -23,17 +25,20 @@ class Connection {
  public:
   // What the connection asks of the program around it.
   struct Needs {
-    std::function<void()> askUserInfo;      // a call, name or QTH is missing
+    std::function<void()> askUserInfo;      // the call is missing
     std::function<void()> delayedWriteCfg;  // a setting has changed
+    std::function<void()> onConnected;      // the link is up, nothing has been read
     std::function<void()> onLoggedIn;
     std::function<void()> onNodeKnown;  // the node has said its call
+    std::function<void()> onEnding;     // first of all, when a session ends
+    std::function<void()> onEnded;      // when its controls are put back
     platform::FaultHandler onFault;
   };
 
   Connection(platform::Scheduler& scheduler, const core::Calendar& calendar,
              core::Settings& settings, SessionState& state, platform::TcpSocket& socket,
-             Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress, Timers& timers,
-             Needs needs);
+             Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress, LoginWatch& loginWatch,
+             Duelling& duelling, Timers& timers, Needs needs);
 
   core::Button cmdConnect;     // cmdButton(2)
   core::Button cmdDisconnect;  // cmdButton(1)
@@ -43,8 +48,7 @@ class Connection {
   platform::Milliseconds ConnectedAt{0};       // of the last connect event, by the scheduler
   std::string WhyEnded;  // the last link, in a few words; empty while one holds
 
-  // The login message of the node, as it comes in.
-  core::TextPage rtbLoginMsg;
+  core::Label lblDisconnects;  // "Disconnects = 3"
 
   // The way into every telnet connect.
   void WhichNode();
@@ -52,9 +56,19 @@ class Connection {
   void LoggedInSetup();
   // Ends the session from here, or is told that the node did.
   void ForceClose();
+  // The same where there is something to close.
+  void CloseIfOpen();
+  // The node does not take the call: closes the link, and shows what it said.
+  void Refused(std::string_view line);
+  // The user has pressed connect: what was told of earlier attempts may be told again.
+  void BeginAnew();
+  // The session that runs is not to be counted when it ends.
+  void NotCounted() { ConnectedOnce = false; }
 
   // The link is dead: closes it, and the next try comes one interval later. `why` is shown.
   void GiveUp(std::string why);
+  // The same for a link that saw no login.
+  void GiveUpLogin();
 
   // Line handlers; true claims the line.
   bool QRX(std::string_view line);
@@ -72,11 +86,8 @@ class Connection {
   void OnConnect();
   void OnError(const platform::SocketFault& fault);
   void RetryNow();
-  void WatchLogin();
-  void GiveUpLogin();
-  void PressConnect();
-  platform::Task<> PressDisconnect();
 
+  void Count();
   void SessionOver();
   void WaitForRetry();
   void ShowNode(const std::string& call);
@@ -89,19 +100,15 @@ class Connection {
   Outgoing& outgoing_;
   Intake& intake_;
   NodeAddress& nodeAddress_;
+  LoginWatch& loginWatch_;
+  Duelling& duelling_;
   Timers& timers_;
   Needs needs_;
 
-  int LoginAttempts = 0;  // ticks of the login watch since the socket was connected
-  int LoginPatience = 2;  // ticks to wait for a first byte
   bool ConnectedOnce = false;
-  bool Disconnecting = false;
   std::set<std::string> toldFailures_;  // since the last login: not said again for each retry
   platform::Registration connectHold_;
-  platform::Registration connectPressed_;
-  platform::Registration disconnectPressed_;
   platform::Tasks connecting_;
-  platform::Tasks tasks_;
 };
 
 }  // namespace session

@@ -78,7 +78,8 @@ LineBuffer::Prompts Intake::PromptsNow() const {
 
 void Intake::FinishLine() {
   line_.Take(whole_);
-  EscapedErrors += RepairEscapes(whole_);
+  const int escapes = RepairEscapes(whole_);
+  if (escapes > 0) needs_.escapesRepaired(EscapedErrors += escapes);
   InputLine(whole_);
   GiveBackGiant(whole_);
 }
@@ -88,6 +89,7 @@ void Intake::InputLine(std::string_view line) {
   LastLineAt = scheduler_.Now();
   needs_.lineReceived();
   needs_.showRaw(line);
+  if (needs_.isEcho(line)) return;
   if (!line.starts_with("ZV11")) feed_.RawLine(line);
   ForwardSuppressed = false;
   Run(line, 1);

@@ -26,6 +26,9 @@ class Intake {
     std::function<void()> lineReceived;
     std::function<void(int nulls)> nulReceived;  // how many there have been
     std::function<void(std::string_view line)> showRaw;
+    std::function<void(int escapes)> escapesRepaired;  // how many there have been
+    // Whether the line is nothing but a command come back: it means nothing then.
+    std::function<bool(std::string_view line)> isEcho;
     std::function<void()> sendPassword;
     // Told the routine that failed and why; the line goes on to the next row.
     platform::FaultHandler onFault;

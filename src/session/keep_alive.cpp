@@ -15,14 +15,9 @@ KeepAlive::KeepAlive(Timers& timers, const SessionState& state, Needs needs)
     : timers_(timers), state_(state), needs_(std::move(needs)) {
   for (core::Label& label : lblKA) label.Visible.Set(false);
   timers_.SetDuty(TimerId::KeepAlive, [this] { Minute(); });
-  timers_.SetDuty(TimerId::KeepAliveColour, [this] {
-    lblKA[0].ForeColour.Set(core::kThemeColour);
-    timers_.Disable(TimerId::KeepAliveColour);
-  });
-  timers_.SetDuty(TimerId::NullsColour, [this] {
-    lblKA[1].ForeColour.Set(core::kThemeColour);
-    timers_.Disable(TimerId::NullsColour);
-  });
+  timers_.SetDuty(TimerId::KeepAliveColour,
+                  [this] { lblKA[0].ForeColour.Set(core::kThemeColour); });
+  timers_.SetDuty(TimerId::NullsColour, [this] { lblKA[1].ForeColour.Set(core::kThemeColour); });
 }
 
 void KeepAlive::LineReceived() {
@@ -86,12 +81,15 @@ void KeepAlive::SendOne() {
   needs_.sendAsIs(Text());
 }
 
+std::string KeepAlive::VersionText() const {
+  return "KeepAlive " + std::string(KeepAliveRx ? "Rx " : "Tx ") +
+         std::to_string(KeepAliveMinutes) + "  V" + std::string(core::kProgramVersion);
+}
+
 std::string KeepAlive::Text() const {
-  std::string named = "KeepAlive " + std::string(KeepAliveRx ? "Rx " : "Tx ") +
-                      std::to_string(KeepAliveMinutes) + "  V" + std::string(core::kProgramVersion);
-  if (state_.IsZelva()) return named;
-  if (state_.ArpcRefused) return {};
-  return state_.IsArCluster() ? named : " ";
+  if (state_.IsZelva()) return VersionText();
+  if (state_.Ar17Refused()) return {};
+  return state_.IsArCluster() ? VersionText() : " ";
 }
 
 void KeepAlive::ShowInactivity() {

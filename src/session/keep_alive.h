@@ -44,6 +44,8 @@ class KeepAlive {
   void LoggedIn();
   // Puts the count of the mode into lblInactivity.
   void ShowInactivity();
+  // "KeepAlive Rx 5  V2.4315": how the program introduces itself to a node.
+  std::string VersionText() const;
 
  private:
   void Minute();

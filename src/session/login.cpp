@@ -30,12 +30,6 @@ std::string_view LoginPromptIn(std::string_view line) {
   return found == kLoginPrompts.end() ? std::string_view() : *found;
 }
 
-// The first prompt behind the login names the caller: "K1TST-2 de N0NODE 2148Z dxspider >".
-bool IsOwnPrompt(std::string_view line, std::string_view ownCall) {
-  const std::string caller = std::string(core::Trim(ownCall)) + " de ";
-  return core::EndsWith(line, ">") && core::InStrIgnoringCase(line, caller) > 0;
-}
-
 }  // namespace
 
 bool Login::LoginPrompt(std::string_view line) {
@@ -43,23 +37,12 @@ bool Login::LoginPrompt(std::string_view line) {
   const std::string_view prompt = LoginPromptIn(line);
   if (prompt.empty()) return false;
   state_.txtNode.Caption.Set(std::string(line));
-  if (!outgoing_.Send(core::Trim(settings_.MyCall))) return true;
+  const std::string call = duelling_.CheckDuelling(std::string(core::Trim(settings_.MyCall)));
+  if (!outgoing_.Send(call)) return true;
   connection_.LoggedInSetup();
   state_.txtNode.Caption.Set("***Connected to: " + state_.ConnectedNodeCall);
-  if (prompt == kPromptWithPassword) outgoing_.SendPassword();
+  if (state_.IsClx() || prompt == kPromptWithPassword) outgoing_.SendPassword();
   return true;
-}
-
-void Login::updatetxtLoginMsg(std::string_view line) {
-  if (!state_.LoginMsgActive || state_.LoginTextDone) return;
-  if (state_.LoggedIn && IsOwnPrompt(line, settings_.MyCall))
-    state_.LoginTextDone = true;
-  else
-    connection_.rtbLoginMsg.Append(line);
-}
-
-void Login::LoginSequence(std::string_view) {
-  if (state_.LoginTextDone) state_.LoginFinished = true;
 }
 
 }  // namespace session

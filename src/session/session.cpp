@@ -11,38 +11,115 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       keepAlive(timers, state,
                 {.sendAsIs = [this](const std::string& text) { outgoing.SendAsIs(text); },
                  .giveUp = [this] { connection.GiveUp("the node fell silent"); }}),
-      outgoing(*WinsockOut, [this] { keepAlive.LineSent(); }),
-      commandLine(outgoing),
-      intake(platform.scheduler, *WinsockOut, state, needs.chain, needs.feed,
+      outgoing(
+          *WinsockOut, state,
+          {.lineSent = [this] { keepAlive.LineSent(); },
+           .tncSend = [this](std::string_view text,
+                             std::string_view shown) { return tncLink.TncSend(text, shown); }}),
+      tncLink(platform.serialPorts, settings, state, timers,
+              {.portPath = needs.portPath,
+               .intakeHeld = [this] { return intake.Held(); },
+               .inputCharacter = [this](std::uint8_t byte) { intake.InputCharacter(byte); },
+               .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+               .onFault = needs.onFault}),
+      localNetwork(platform.serialPorts, settings, timers,
+                   {.portPath = needs.portPath,
+                    .claimedHere = needs.localCommand,
+                    .sendAsIs = [this](std::string_view line) { outgoing.SendAsIs(line); },
+                    .onFault = needs.onFault}),
+      localFeed(settings, state, needs.loggers,
+                {.sendRS232 = [this](std::string_view line) { localNetwork.SendRS232(line); },
+                 .onFault = needs.onFault}),
+      commandLine(outgoing, state,
+                  {.sendAutobaud = [this] { tncLink.SendAutobaud(); },
+                   .weatherInFront = needs.weatherInFront,
+                   .beginFreshWeatherPage = needs.beginFreshWeatherPage}),
+      intake(platform.scheduler, *WinsockOut, state, needs.chain, localFeed,
              {.lineReceived = [this] { keepAlive.LineReceived(); },
               .nulReceived = [this](int nulls) { keepAlive.NulReceived(nulls); },
               .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+              .escapesRepaired = [this](int escapes) { technical.ShowEscapedErrors(escapes); },
+              .isEcho = [this](std::string_view line) { return IsEcho(line); },
               .sendPassword = [this] { outgoing.SendPassword(); },
               .onFault = needs.onFault}),
       nodeAddress(settings,
                   {.defaultNode = needs.defaultNode, .delayedWriteCfg = needs.delayedWriteCfg}),
+      duelling(platform.scheduler, state, timers,
+               {.showMessage = needs.showMessage,
+                .closeMessage = needs.closeMessage,
+                .seed = needs.seed}),
+      loginWatch(settings, state, *WinsockOut, outgoing, intake, timers,
+                 {.giveUp = [this] { connection.GiveUpLogin(); }}),
       connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
-                 nodeAddress, timers,
+                 nodeAddress, loginWatch, duelling, timers,
                  {.askUserInfo = needs.askUserInfo,
                   .delayedWriteCfg = needs.delayedWriteCfg,
-                  .onLoggedIn =
-                      [this] {
-                        commandLine.txtCmdLine.Text.Set({});
-                        keepAlive.LoggedIn();
-                      },
+                  .onConnected = [this] { loginText.rtbLoginMsg.Clear(); },
+                  .onLoggedIn = [this] { LoggedIn(); },
                   .onNodeKnown = needs.onNodeKnown,
+                  .onEnding = needs.onEnding,
+                  .onEnded = [this] { Ended(); },
                   .onFault = needs.onFault}),
-      login(settings, state, outgoing, connection),
+      linkButtons(platform.scheduler, settings, state, connection, loginWatch, outgoing, timers,
+                  {.askUserInfo = needs.askUserInfo,
+                   .openLocalNetwork =
+                       [this, &settings] {
+                         if (settings.LocalNetwork) localNetwork.OpenComm2();
+                       },
+                   .onFault = needs.onFault}),
+      login(settings, state, outgoing, connection, duelling),
+      loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
+      loginSequence(settings, state, outgoing, intake, needs.requests,
+                    {.profileAsked = needs.profileAsked}),
+      profileHints(settings, state, outgoing),
+      ar17(platform.scheduler, state, outgoing, intake, connection, duelling, keepAlive,
+           needs.requests,
+           {.settled =
+                [this, settled = needs.ar17Settled] {
+                  commandLine.txtCmdLine.Text.Set({});
+                  settled();
+                }}),
       linkText(platform.scheduler, calendar, settings, state, connection, intake, timers),
+      clockwork(timers, calendar, state, outgoing,
+                {.work = needs.clockWork,
+                 .requests = needs.requests,
+                 .second = [this] { linkText.Tick(); }}),
       keepAlivePanel(keepAlive, settings,
                      {.autoReconnect = [this] { return connection.AutoReconnect.Value.Get(); },
-                      .writeCfg = needs.writeCfg}) {
-  timers.SetDuty(TimerId::Clock, [this] { linkText.Tick(); });
+                      .writeCfg = needs.writeCfg}),
+      macros(state, {.send = [this](std::string_view text) { return outgoing.Send(text); },
+                     .suppressForward = [this] { intake.ForwardSuppressed = true; },
+                     .openChat = needs.openChat}),
+      latency(platform.scheduler, state) {
+  timers.SetDuty(TimerId::Tnc, [this] {
+    localNetwork.ReadNetwork();
+    tncLink.ReadTNC();
+  });
+  loginText.onKind = needs.onNodeKnown;
+  outgoing.onSent = [this](std::string_view text) { echoes_.Sent(text); };
   // A change is shown behind the rule that makes it, not with the next second.
   phaseShown_ =
       state.Phase.Observe([this, &scheduler = platform.scheduler, first = true](LinkPhase) mutable {
         if (!std::exchange(first, false)) showing_ = scheduler.Post([this] { linkText.Tick(); });
       });
+}
+
+void Session::LoggedIn() {
+  commandLine.txtCmdLine.Text.Set({});
+  keepAlive.LoggedIn();
+  ar17.LoggedIn();
+}
+
+void Session::Ended() {
+  profileHints.Forget();
+  echoes_.Forget();
+  macros.Disconnected();
+  latency.Disconnected();
+}
+
+bool Session::IsEcho(std::string_view line) {
+  if (EndsInPrompt(line, NodeKind::Spider, "dxspider >")) echoes_.Prompted();
+  return state.IsSpider() && echoes_.IsEcho(line);
 }
 
 }  // namespace session

@@ -3,16 +3,33 @@
 #include <memory>
 
 #include "platform/platform.h"
+#include "session/ar17.h"
+#include "session/clockwork.h"
 #include "session/command_line.h"
 #include "session/connection.h"
+#include "session/duelling.h"
+#include "session/echoes.h"
 #include "session/intake.h"
 #include "session/keep_alive.h"
 #include "session/keep_alive_panel.h"
+#include "session/latency_meter.h"
+#include "session/link_buttons.h"
 #include "session/link_text.h"
+#include "session/local_feed.h"
+#include "session/local_network.h"
 #include "session/login.h"
+#include "session/login_sequence.h"
+#include "session/login_text.h"
+#include "session/login_watch.h"
+#include "session/macros.h"
 #include "session/outgoing.h"
+#include "session/port_path.h"
+#include "session/profile_hints.h"
+#include "session/requests.h"
 #include "session/session_state.h"
+#include "session/technical.h"
 #include "session/timers.h"
+#include "session/tnc_link.h"
 
 namespace session {
 
@@ -22,13 +39,29 @@ class Session {
   // What the session asks of the program around it.
   struct Needs {
     Chain& chain;
-    LineFeed& feed;
+    LoggerServer& loggers;
+    LoginRequests& requests;
+    ClockWork& clockWork;
     std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
-    std::function<void()> onNodeKnown;
+    std::function<void()> onNodeKnown;  // its call or its software has become known
     std::function<void()> delayedWriteCfg;
     std::function<void()> writeCfg;
+    std::function<void(const std::string& heading, const std::string& text)> showMessage;
+    std::function<void()> closeMessage;
+    std::function<void()> ar17Settled;   // which spot lines will come is known
+    std::function<void()> profileAsked;  // the login has asked for the operator's profile
+    std::function<void()> onEnding;      // first of all, when a session ends
     platform::FaultHandler onFault;
+    std::uint32_t seed = 0;  // of what is picked at random
+    std::function<std::string(int number)> portPath = PortPath;
+    // A command from the local network that is for this program alone.
+    std::function<bool(std::string_view line)> localCommand = [](std::string_view) {
+      return false;
+    };
+    std::function<bool()> weatherInFront = [] { return false; };
+    std::function<void()> beginFreshWeatherPage = [] {};
+    std::function<void()> openChat = [] {};
   };
 
   Session(const platform::Platform& platform, const core::Calendar& calendar,
@@ -39,15 +72,34 @@ class Session {
   Timers timers;
   KeepAlive keepAlive;
   Outgoing outgoing;
+  TncLink tncLink;
+  LocalNetwork localNetwork;
+  LocalFeed localFeed;
   CommandLine commandLine;
   Intake intake;
   NodeAddress nodeAddress;
+  Duelling duelling;
+  LoginWatch loginWatch;
   Connection connection;
+  LinkButtons linkButtons;
   Login login;
+  LoginText loginText;
+  LoginSequence loginSequence;
+  ProfileHints profileHints;
+  Ar17 ar17;
   LinkText linkText;
+  Clockwork clockwork;
   KeepAlivePanel keepAlivePanel;
+  Macros macros;
+  LatencyMeter latency;
+  Technical technical;
 
  private:
+  bool IsEcho(std::string_view line);
+  void LoggedIn();
+  void Ended();
+
+  Echoes echoes_;
   platform::Registration showing_;
   platform::Registration phaseShown_;
 };

@@ -11,45 +11,46 @@ struct Row {
   std::string_view name;
   int interval;  // milliseconds
   bool enabledAtStart;
+  bool oneShot = false;
 };
 
 // 3 and 31 are set anew at run time, 13 by the step of the connect script.
 constexpr std::array<Row, Timers::kCount> kTimers = {{
     {0, "TimerTnc", 250, false},
     {1, "timerClock", 1000, true},
-    {2, "timer2", 5000, false},
-    {3, "timerReconnect", 55000, false},
+    {2, "timer2", 5000, false, true},
+    {3, "timerReconnect", 55000, false, true},
     {4, "Timerconnectiontimeout", 15000, false},
-    {5, "timerloggerdisplay", 5000, false},
-    {6, "", 5000, false},
-    {7, "timedelay", 250, true},
-    {8, "timeropencommport", 500, false},
-    {9, "timerWriteCFG", 2000, false},
-    {10, "timer1", 60000, false},
-    {11, "timerunload", 2000, false},
+    {5, "timerloggerdisplay", 5000, false, true},
+    {6, "", 5000, false, true},
+    {7, "timedelay", 250, true, true},
+    {8, "timeropencommport", 500, false, true},
+    {9, "timerWriteCFG", 2000, false, true},
+    {10, "timer1", 60000, false, true},
+    {11, "timerunload", 2000, false, true},
     {12, "Timer1", 60000, true},
     {13, "timernetrom", 0, true},
-    {14, "", 10000, false},
+    {14, "", 10000, false, true},
     {15, "Suntimer", 60000, true},
-    {16, "", 1000, false},
+    {16, "", 1000, false, true},
     {17, "", 1000, true},
-    {18, "", 6000, false},
-    {19, "", 200, false},
+    {18, "", 6000, false, true},
+    {19, "", 200, false, true},
     {20, "", 2000, false},
-    {21, "", 1000, false},
-    {22, "", 5000, false},
-    {23, "", 500, false},
+    {21, "", 1000, false, true},
+    {22, "", 5000, false, true},
+    {23, "", 500, false, true},
     {24, "", 1000, true},
     {25, "", 5000, true},
     {26, "", 0, false},
     {27, "", 60, true},
-    {28, "", 10000, true},
-    {29, "", 1000, false},
+    {28, "", 10000, true, true},
+    {29, "", 1000, false, true},
     {30, "", 100, true},
-    {31, "", 1000, false},
+    {31, "", 1000, false, true},
     {32, "Updater", 60000, false},
     {33, "", 0, false},
-    {34, "", 30000, false},
+    {34, "", 30000, false, true},
 }};
 
 constexpr bool IndicesAreInOrder() {
@@ -66,6 +67,7 @@ Timers::Timers(platform::Scheduler& scheduler, platform::FaultHandler onFault)
   for (const Row& row : kTimers) {
     timers_[row.index].interval = platform::Milliseconds{row.interval};
     timers_[row.index].enabled = row.enabledAtStart;
+    timers_[row.index].oneShot = row.oneShot;
   }
 }
 
@@ -99,8 +101,9 @@ platform::Milliseconds Timers::Remaining(TimerId timer) const {
 }
 
 void Timers::Arm(Timer& timer) {
-  // Without a duty there is nothing to wake up for.
-  if (!begun_ || !timer.enabled || !timer.duty || timer.interval.count() == 0) return;
+  // Without a duty there is nothing to wake up for, but to switch off.
+  const bool acts = timer.duty || timer.oneShot;
+  if (!begun_ || !timer.enabled || !acts || timer.interval.count() == 0) return;
   timer.due = scheduler_.Now() + timer.interval;
   if (!timer.wakeAsked || timer.wakeAt > timer.due) AskWake(timer);
 }
@@ -122,8 +125,9 @@ void Timers::Wake(Timer& timer) {
 
 void Timers::Fire(Timer& timer) {
   const platform::Milliseconds due = timer.due;
+  if (timer.oneShot) timer.enabled = false;
   try {
-    timer.duty();
+    if (timer.duty) timer.duty();
   } catch (const std::exception& fault) {
     const auto index = &timer - timers_.data();
     onFault_("TimeCounter " + std::to_string(index), fault.what());

@@ -11,18 +11,29 @@ namespace session {
 
 // The timers that rules name. The number is the timer's index.
 enum class TimerId : std::size_t {
+  Tnc = 0,
   Clock = 1,
   KeepAliveColour = 2,
   Reconnect = 3,
   ConnectionTimeout = 4,
+  LoggerColour = 5,
   NullsColour = 6,
+  OpenCommPort = 8,
   WriteCfg = 9,
+  Message = 10,
   KeepAlive = 12,
+  ConnectScript = 13,
+  Minute = 15,
+  BareLineEnd = 16,
+  AskWho = 21,
+  AskConfig = 31,
+  Updater = 32,
 };
 
 // The program's clockwork: 35 timers, each with a period and a switch. An interval of 0 never
 // fires; enabling a running timer changes nothing; several missed periods fire once. A period is a
-// minimum: the next one begins when the duty is done.
+// minimum: the next one begins when the duty is done. A one-shot timer switches itself off before
+// its duty.
 class Timers {
  public:
   static constexpr std::size_t kCount = 35;
@@ -51,6 +62,7 @@ class Timers {
   struct Timer {
     platform::Milliseconds interval{0};
     bool enabled = false;
+    bool oneShot = false;
     std::function<void()> duty;
     platform::Milliseconds due{0};
     // A wake-up is left where it is when the timer is stopped or put off, and asks again then.

@@ -51,7 +51,7 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
       pages_(new QStackedWidget(this)),
       splitter_(new QSplitter(Qt::Vertical, this)),
       dx_(new DxPage(program, frames, this)),
-      loginMessage_(new TextPageView(program.session.connection.rtbLoginMsg, frames, this)),
+      loginMessage_(new TextPageView(program.session.loginText.rtbLoginMsg, frames, this)),
       raw_(new TextPageView(program.session.outgoing.Text2, frames, this)),
       findInLogin_(new FindBar(loginMessage_, *loginMessage_, tr("login message"))),
       findInRaw_(new FindBar(raw_, *raw_, tr("raw view"))),

@@ -42,7 +42,7 @@ TEST_F(TabsTest, TheLoginMessageOfTheNodeIsOnItsTab) {
   auto& message = *Named<QPlainTextEdit>(*window, "Login message of the node");
   EXPECT_EQ(Tabs().currentIndex(), Views::LoginMsg);
   EXPECT_TRUE(message.isVisible());
-  EXPECT_THAT(LinesOf(message), Contains(QString("Welcome to N0DE-1")));
+  EXPECT_THAT(LinesOf(message), Contains(QString(" Welcome to N0DE-1")));
 }
 
 TEST_F(TabsTest, AltAndANumberChoosesATab) {

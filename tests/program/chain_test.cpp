@@ -72,6 +72,22 @@ TEST_F(ChainTest, TalkThruNoticeIsClaimed) {
   EXPECT_EQ(Claims("Entering Talk-Thru mode."), "TalkThruNotice");
 }
 
+TEST_F(ChainTest, MacrosAreClaimedUpToThePrompt) {
+  EXPECT_EQ(Claims("Macro 1 = sh/dx 10"), "UserMacro");
+  EXPECT_EQ(Claims("2: sh/wwv"), "UserMacro");
+  EXPECT_TRUE(program.session.intake.ForwardSuppressed);
+  EXPECT_NE(Claims("K1TST-2 de N0NODE arc >"), "UserMacro");
+  EXPECT_EQ(program.session.macros.txtMacro[2].Text.Get(), "sh/wwv");
+}
+
+TEST_F(ChainTest, PromptBehindATimedCommandIsTimedAndClaimedByNone) {
+  program.session.state.LoggedIn = true;
+  program.session.latency.Begin();
+  desk.world.Run(1500ms);
+  EXPECT_EQ(Claims("K1TST-2 de N0NODE arc >"), "");
+  EXPECT_EQ(program.session.latency.Text3.Caption.Get(), "001.50");
+}
+
 // Bytes as a node sends them, through the real rows.
 class LoginByRowsTest : public ChainTest {
  protected:
@@ -103,11 +119,16 @@ TEST_F(LoginByRowsTest, PasswordIsGivenUntilTheFirstPromptAndNeverBehindIt) {
   EXPECT_TRUE(RawViewHas("login: in the middle"));
 }
 
+// A DXSpider's own prompt tells it from what else ends so; the text goes on up to the one that the
+// program has asked for.
 TEST_F(LoginByRowsTest, LoginMessageEndsWithTheFirstPrompt) {
-  Feed("\r\nWelcome\r\nPlease enter your name, set/name <your name>\r\n");
-  Feed("K1TST-2 de N0DE-1 20-Nov-2026 2148Z dxspider >\r\nsomething else\r\n");
-  const auto& lines = program.session.connection.rtbLoginMsg.Lines();
-  EXPECT_EQ(lines.back(), "Please enter your name, set/name <your name>");
+  Feed("\r\nWelcome\r\nrunning DXSpider V1.57 build 441\r\n");
+  Feed("K1TST-2 de N0DE-1 20-Nov-2026 2148Z dxspider >\r\nOperation successful\r\n");
+  Feed("K1TST-2 de N0DE-1 20-Nov-2026 2148Z 2.4315  dxspider >\r\nsomething else\r\n");
+  const auto& lines = program.session.loginText.rtbLoginMsg.Lines();
+  EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.end()),
+            (std::vector<std::string>{" ", " Welcome", " running DXSpider V1.57 build 441",
+                                      " Operation successful"}));
 }
 
 }  // namespace

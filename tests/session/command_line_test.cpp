@@ -118,6 +118,76 @@ TEST_F(CommandLineTest, CommandWithoutALinkIsLostButKeptInTheHistory) {
   ExpectNothingSent();
 }
 
+TEST_F(CommandLineTest, CommandEnablesTheButtonsOfTheRawView) {
+  for (core::Button& button : line.cmdRawplus) button.Enabled.Set(false);
+  Enters("sh/dx");
+  for (std::size_t i = 0; i < line.cmdRawplus.size(); ++i)
+    EXPECT_EQ(line.cmdRawplus[i].Enabled.Get(), i == 3 || i == 7) << i;
+}
+
+TEST_F(CommandLineTest, StarIsAnOrdinaryCommandInTelnetMode) {
+  Enters("*");
+  ExpectSent({"*"});
+}
+
+TEST_F(CommandLineTest, StarInTncModeOpensThePortAndHasNoLineEnd) {
+  platform::sim::SimDevice& device = world.serialPorts.Plug("/dev/ttyS0");
+  settings.TncPort = 1;
+  program.state.TncMode = true;
+  Enters("*");
+  LetPass(500ms);
+  EXPECT_EQ(device.written, "*");
+  EXPECT_THAT(line.History(), ElementsAre("*"));
+  EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(CommandLineTest, AnythingElseInTncModeHasItsLineEnd) {
+  platform::sim::SimDevice& device = world.serialPorts.Plug("/dev/ttyS0");
+  settings.TncPort = 1;
+  program.state.TncMode = true;
+  Enters("**");
+  Enters("c n0node");
+  LetPass(500ms);
+  EXPECT_EQ(device.written, "**\rc n0node\r");
+}
+
+// A command line beside the weather page.
+class BesideTheWeather : public CommandLineTest {
+ protected:
+  void Enter(const std::string& text) {
+    beside.txtCmdLine.UserTypes(text);
+    beside.txtCmdLine.UserPressesReturn();
+  }
+
+  bool inFront = true;
+  session::CommandLine beside{
+      program.outgoing,
+      program.state,
+      {.sendAutobaud = [] {},
+       .weatherInFront = [this] { return inFront; },
+       .beginFreshWeatherPage = [this] { program.outgoing.SendAsIs("fresh page"); }}};
+};
+
+TEST_F(BesideTheWeather, CommandBeginsAFreshPageFirst) {
+  Enter("sh/wx");
+  ExpectSent({"fresh page", "sh/wx"});
+}
+
+TEST_F(BesideTheWeather, CommandBeginsNoPageWithAnotherInFront) {
+  inFront = false;
+  Enter("sh/wx");
+  ExpectSent({"sh/wx"});
+}
+
+TEST_F(BesideTheWeather, CommandBeginsNoPageInTncMode) {
+  platform::sim::SimDevice& device = world.serialPorts.Plug("/dev/ttyS0");
+  settings.TncPort = 1;
+  program.state.TncMode = true;
+  Enter("sh/wx");
+  LetPass(500ms);
+  EXPECT_EQ(device.written, "sh/wx\r");
+}
+
 TEST_F(CommandLineTest, TextSetByTheProgramIsNotSent) {
   line.txtCmdLine.Text.Set("sh/dx");
   ExpectNothingSent();

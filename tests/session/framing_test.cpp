@@ -47,6 +47,7 @@ TEST_F(Framing, PercentEscapesAreRepairedBeforeTheLineIsServedAndCounted) {
   EXPECT_THAT(LinesFrom("100%25 ok\r\n"), ElementsAre("100% ok"));
   EXPECT_THAT(LinesFrom("%41%42\r\n"), ElementsAre("AB"));
   EXPECT_EQ(program.intake.EscapedErrors, 3);
+  EXPECT_EQ(program.technical.lblTech[10].Caption.Get(), "Escaped Errors = 3");
   EXPECT_EQ(RawView().back(), "AB");
 }
 
@@ -54,6 +55,7 @@ TEST_F(Framing, BadPercentEscapesStayInTheLineAndAreNotCounted) {
   LogIn();
   EXPECT_THAT(LinesFrom("a%0Ab\r\nc%zzd\r\n"), ElementsAre("a%0Ab", "c%zzd"));
   EXPECT_EQ(program.intake.EscapedErrors, 0);
+  EXPECT_EQ(program.technical.lblTech[10].Caption.Get(), "");
 }
 
 TEST_F(Framing, PromptThatIsSpelledInEscapesIsNone) {

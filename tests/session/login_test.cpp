@@ -16,7 +16,7 @@ namespace {
 class LoginTest : public SessionFixture {
  protected:
   std::string LoginText() const {
-    const auto& lines = program.connection.rtbLoginMsg.Lines();
+    const auto& lines = program.loginText.rtbLoginMsg.Lines();
     return std::accumulate(lines.begin(), lines.end(), std::string());
   }
 };
@@ -210,7 +210,7 @@ TEST_F(LoginTest, EndlessLoginTextIsBounded) {
   for (int i = 0; i < 3000; ++i) welcome += "another line of a very long welcome\r\n";
   ReceiveBytes(welcome);
   LetPass(1s);
-  EXPECT_LE(program.connection.rtbLoginMsg.Characters(), 20'100u);
+  EXPECT_LE(program.loginText.rtbLoginMsg.Characters(), 20'100u);
 }
 
 }  // namespace

@@ -117,6 +117,49 @@ TEST_F(OutgoingTest, SendAsIsLeavesTextAsItStands) {
   EXPECT_EQ(RawView().back(), "   <- set/name Anna  ");
 }
 
+TEST_F(OutgoingTest, ClxGetsTextInLowerCase) {
+  LogIn();
+  program.state.Kind = session::NodeKind::Clx;
+  program.outgoing.Send("bye");
+  program.outgoing.SendAsIs("Set/Name Anna");
+  ExpectSent({"bye", "set/name anna"});
+  EXPECT_EQ(RawView().back(), "   <- set/name anna");
+}
+
+TEST_F(OutgoingTest, PasswordForClxStaysAsItIs) {
+  LogIn();
+  program.state.Kind = session::NodeKind::Clx;
+  program.outgoing.NodePassword = "SeCret";
+  program.outgoing.SendPassword();
+  ExpectSent({"SeCret"});
+}
+
+TEST_F(OutgoingTest, EachSendIsMarkedALostOneToo) {
+  program.outgoing.SendAsIs("lost");
+  EXPECT_TRUE(program.state.LastSendWasUser);
+  LogIn();
+  program.state.LastSendWasUser = false;
+  program.outgoing.Send("bye");
+  EXPECT_TRUE(program.state.LastSendWasUser);
+}
+
+TEST_F(OutgoingTest, TextsThatWentOutAreToldAsTheyWent) {
+  Lines told;
+  program.outgoing.onSent = [&](std::string_view text) { told.emplace_back(text); };
+  program.outgoing.NodePassword = "secret";
+  program.outgoing.SendAsIs("lost");
+  BeginConnecting();
+  program.outgoing.SendAsIs("waits");
+  program.outgoing.SendPassword();
+  EXPECT_THAT(told, IsEmpty());
+  LetPassUntil(23s);
+  EXPECT_THAT(told, ElementsAre("waits"));
+  program.state.Kind = session::NodeKind::Clx;
+  program.outgoing.Send("bye");
+  program.outgoing.SendPassword();
+  EXPECT_THAT(told, ElementsAre("waits", "bye"));
+}
+
 TEST_F(OutgoingTest, EmptyTextIsABareLineEnd) {
   LogIn();
   EXPECT_TRUE(program.outgoing.SendAsIs(""));

@@ -30,7 +30,7 @@ struct Outcome {
 };
 
 Outcome OutcomeOf(Station& station) {
-  const auto& loginText = station.program.connection.rtbLoginMsg.Lines();
+  const auto& loginText = station.program.loginText.rtbLoginMsg.Lines();
   return {.log = station.log.entries,
           .sent = station.Sent(),
           .loginText = {loginText.begin(), loginText.end()},

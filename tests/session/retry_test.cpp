@@ -96,6 +96,16 @@ TEST_F(Retry, LinkThatIsResetIsMadeAgainOneIntervalLater) {
   EXPECT_THAT(node.called, SizeIs(2));
 }
 
+TEST_F(Retry, LossHidesTheMacrosAndEndsATimedCommand) {
+  LogIn();
+  program.macros.cmdMacro[0].Press();
+  program.latency.Begin();
+  NodeCloses();
+  EXPECT_FALSE(program.macros.fraSendMacro.Visible.Get());
+  program.latency.Latency("K1TST-2 de N0NODE arc >");
+  EXPECT_EQ(program.latency.Text3.Caption.Get(), "");
+}
+
 TEST_F(Retry, LossEndsEverythingAboutTheSession) {
   LogIn();
   program.state.LoginTextDone = true;

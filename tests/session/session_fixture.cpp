@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "session/page_prompt.h"
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -47,12 +49,15 @@ core::Settings Station::OwnSettings() {
   own.NodeCall = "N0NODE";
   own.NodeHost = "node.example";
   own.NodePort = "7300";
+  own.SendToLog = 0x1FFFFF;  // everything is fed to other programs
   return own;
 }
 
 session::Session::Needs Station::Needs() {
   return {.chain = chain,
-          .feed = log,
+          .loggers = log,
+          .requests = above,
+          .clockWork = above,
           .defaultNode =
               [] {
                 return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};
@@ -61,10 +66,17 @@ session::Session::Needs Station::Needs() {
           .onNodeKnown = [] {},
           .delayedWriteCfg = [this] { ++configurationWrites; },
           .writeCfg = [] {},
+          .showMessage = [this](const std::string& heading,
+                                const std::string& text) { messages.emplace_back(heading, text); },
+          .closeMessage = [this] { ++messagesClosed; },
+          .ar17Settled = [this] { ++ar17Settled; },
+          .profileAsked = [this] { ++profileAsked; },
+          .onEnding = [] {},
           .onFault =
               [this](std::string_view name, std::string_view what) {
                 faults.push_back(std::string(name) + ": " + std::string(what));
-              }};
+              },
+          .seed = 1};
 }
 
 Station::Claim Station::Offer(const std::string& row, std::string_view line) {
@@ -77,18 +89,33 @@ void Station::AddRows() {
   const auto own = [this](const char* name) {
     chain.Add(name, [this, name](std::string_view line) { return Offer(name, line); });
   };
-  chain.Add("QRX", [this](std::string_view line) { return TailIf(program.connection.QRX(line)); });
-  chain.Add("ConnectToNode", [this](std::string_view line) {
-    return TailIf(program.connection.ConnectToNode(line));
-  });
+  const auto row = [this](const char* name, auto handler) {
+    chain.Add(name, [handler](std::string_view line) { return TailIf(handler(line)); });
+  };
+  using Line = std::string_view;
+  row("QRX", [this](Line line) { return program.connection.QRX(line); });
+  row("ConnectToNode", [this](Line line) { return program.connection.ConnectToNode(line); });
   own("First");
-  chain.Add("LoginPrompt",
-            [this](std::string_view line) { return TailIf(program.login.LoginPrompt(line)); });
+  row("LoginPrompt", [this](Line line) { return program.login.LoginPrompt(line); });
+  row("PagePrompt", [this](Line line) {
+    return session::PagePrompt(line, program.state, program.outgoing, program.intake);
+  });
+  row("ArFirstPrompt", [this](Line line) { return program.loginSequence.ArFirstPrompt(line); });
   own("Second");
+  row("NoName", [this](Line line) { return program.profileHints.NoName(line); });
+  row("SetEmail", [this](Line line) { return program.profileHints.SetEmail(line); });
+  row("YourInfo", [this](Line line) { return program.profileHints.YourInfo(line); });
+  row("ArpcReply", [this](Line line) { return program.ar17.ArpcReply(line); });
+  row("SeventyThree", [this](Line line) { return program.duelling.SeventyThree(line); });
+  row("InstanceNotice", [this](Line line) { return program.duelling.InstanceNotice(line); });
   own("Third");
-  chain.Add("updatetxtLoginMsg", [this](std::string_view line) {
-    program.login.updatetxtLoginMsg(line);
-    return Claim::None;
+  row("updatetxtLoginMsg", [this](Line line) {
+    program.loginText.updatetxtLoginMsg(line);
+    return false;
+  });
+  row("LoginSequence", [this](Line line) {
+    program.loginSequence.Run(line);
+    return false;
   });
   chain.firstRowForSession = 5;
 }
@@ -113,7 +140,7 @@ void Station::LogIn() {
   Connect();
   ReceiveBytes("login: ");
   Receive("");
-  Receive("K1TST-2 de N0NODE 20-Nov-2026 2100Z dxspider >");
+  Receive("K1TST-2 de N0NODE 20-Nov-2026 2100Z >");
   log.entries.clear();
   ExpectSent({"K1TST-2"});
 }

@@ -17,8 +17,8 @@
 
 // A station whose operator K1TST-2 uses the node N0NODE at node.example:7300, in a simulated world.
 //
-// Its chain has the rows of the session itself and three that a test can lay hands on:
-// QRX, ConnectToNode, First, LoginPrompt, Second, Third, updatetxtLoginMsg.
+// Its chain has the rows of the session itself, in their order, and three that a test can lay hands
+// on: First before LoginPrompt, Second behind it, and Third before updatetxtLoginMsg.
 class Station {
  public:
   using Claim = session::Chain::Claim;
@@ -26,15 +26,31 @@ class Station {
 
   // Everything in the order in which it happened, each with its source in front: "First: <line>",
   // "raw view: <line>", "feed: <line>", "forwarded: <line>".
-  class Log : public session::LineFeed {
+  class Log : public session::LoggerServer {
    public:
     bool on = true;
     Lines entries;
     void Add(std::string_view source, std::string_view text);
-    void RawLine(std::string_view line) override { Add("feed", line); }
-    void SendLocal(std::string_view line) override { Add("forwarded", line); }
+    bool Connected() const override { return true; }
+    void LoggerRaw(std::string_view line) override { Add("feed", line); }
+    void SendLogger(std::string_view line) override { Add("forwarded", line); }
     // What that source had to say.
     Lines Of(std::string_view source) const;
+  };
+
+  // What was asked of the program above the session.
+  class Above : public session::LoginRequests, public session::ClockWork {
+   public:
+    Lines asked;
+    void GetEm() override { asked.emplace_back("GetEm"); }
+    void GetLatestVersion() override { asked.emplace_back("GetLatestVersion"); }
+    void AskSunTimes() override { asked.emplace_back("AskSunTimes"); }
+    void HourlyWork() override { ++hours; }
+    void Sun() override { ++minutes; }
+    void DayChange() override { asked.emplace_back("DayChange"); }
+    void EnableLoggingSpots() override { asked.emplace_back("EnableLoggingSpots"); }
+    int hours = 0;
+    int minutes = 0;
   };
 
   Station();
@@ -88,6 +104,11 @@ class Station {
   FakeNode node;
   FakeChain chain;
   Log log;
+  Above above;
+  std::vector<std::pair<std::string, std::string>> messages;  // heading and text
+  int messagesClosed = 0;
+  int ar17Settled = 0;
+  int profileAsked = 0;
   Lines faults;  // "<name>: <what>"
   int askedUserInfo = 0;
   int configurationWrites = 0;

@@ -39,6 +39,7 @@ QtColourScheme::QtColourScheme(Tell tell, const QDBusConnection& bus)
 }
 
 void QtColourScheme::Ask(QDBusConnection bus) {
+  qRegisterMetaType<QDBusVariant>("QDBusVariant");  // before it can stand in a slot
   bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
   auto read = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));

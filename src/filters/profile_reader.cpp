@@ -1,0 +1,206 @@
+#include "filters/profile_reader.h"
+
+#include <chrono>
+#include <utility>
+
+#include "core/text.h"
+#include "core/version.h"
+#include "session/feed_options.h"
+
+using namespace std::chrono_literals;
+
+namespace filters {
+namespace {
+
+using session::ProfileField;
+
+constexpr auto kPause = 100ms;
+
+// The prompt that the program can tell from everything else a DXSpider sends.
+std::string OwnPrompt() {
+  return "%C de %M %D %T " + std::string(core::kProgramVersion) + "  dxspider >";
+}
+
+}  // namespace
+
+ProfileReader::ProfileReader(const core::Settings& settings, session::SessionState& state,
+                             session::Outgoing& outgoing, session::Intake& intake,
+                             const session::ProfileHints& hints,
+                             const session::KeepAlive& keepAlive, session::LoginRequests& requests,
+                             UserSettings& page)
+    : settings_(settings),
+      state_(state),
+      outgoing_(outgoing),
+      intake_(intake),
+      hints_(hints),
+      keepAlive_(keepAlive),
+      requests_(requests),
+      page_(page) {}
+
+void ProfileReader::AskedByLogin() {
+  page_.chkSettings[kBottomOfBand].Value.Set(true);
+  askedByLogin_ = true;
+}
+
+void ProfileReader::Forget() {
+  for (const Switch each : {kDxSpots, kBottomOfBand, kUsState})
+    page_.chkSettings[each].Value.Set(false);
+  phase_ = Phase::Closed;
+  askedByLogin_ = false;
+  completed_ = false;
+  nameAtPrompt_ = false;
+}
+
+bool ProfileReader::StatUser(std::string_view line) {
+  if (!state_.LoggedIn) return false;
+  if (state_.RcvdAnyPrompt(line)) {
+    AtPrompt();
+    return false;
+  }
+  ReadFilterAnswers(line);
+  const auto entry = EntryOf(line);
+  if (entry && phase_ == Phase::Closed && OpensReport(*entry, settings_.MyCall)) {
+    phase_ = Phase::Open;
+    report_ = {};
+  }
+  if (!entry || phase_ == Phase::Closed) return false;
+  const bool known = ReadEntry(*entry);
+  if (!known && phase_ == Phase::Behind) return false;
+  if (!session::Feeds(settings_, session::FeedOption::Profile)) intake_.ForwardSuppressed = true;
+  if (entry->label == "Type of User" && phase_ == Phase::Open) Close();
+  return true;
+}
+
+// A report that nothing ended before the prompt is complete all the same.
+void ProfileReader::AtPrompt() {
+  if (phase_ == Phase::Open) Close();
+  phase_ = Phase::Closed;
+  if (!std::exchange(nameAtPrompt_, false)) return;
+  if (Wanted(ProfileField::Name, settings_.MyName) && page_.txtMyName[0].Text.Get().empty())
+    outgoing_.SendAsIs("set/name " + settings_.MyName);
+  page_.fraSettings.Caption.Set("Settings @ " + state_.ConnectedNodeCall);
+  page_.fraSettings.ForeColour.Set(core::kThemeColour);
+}
+
+bool ProfileReader::ReadEntry(const Entry& entry) {
+  return ReadSwitch(entry) || ReadField(entry) || ReadMark(entry);
+}
+
+// What a DXSpider answers to changes of its filters.
+void ProfileReader::ReadFilterAnswers(std::string_view line) {
+  if (!state_.IsSpider()) return;
+  const auto holds = [line](std::string_view text) { return core::InStr(line, text) > 0; };
+  auto& bottomOfBand = page_.chkSettings[kBottomOfBand].Value;
+  if (holds(" filter4 reject on") || holds("Filter 4 updated") || holds("reject/spots 4"))
+    bottomOfBand.Set(false);
+  if (holds("spots Filter 4 deleted")) bottomOfBand.Set(true);
+  if (core::StartsWith(line, "DX Spots disabled for "))
+    page_.chkSettings[kDxSpots].Value.Set(false);
+}
+
+bool ProfileReader::ReadSwitch(const Entry& entry) {
+  const auto which = SwitchOf(entry.label);
+  if (!which || (entry.value != "Yes" && entry.value != "No")) return false;
+  const bool yes = entry.value == "Yes";
+  // Nobody stays without spots.
+  if (*which == kDxSpots && !yes) outgoing_.SendAsIs("set/dx");
+  page_.chkSettings[*which].Value.Set(yes || *which == kDxSpots);
+  return true;
+}
+
+bool ProfileReader::ReadField(const Entry& entry) {
+  const auto field = FieldOf(entry.label);
+  if (field == nullptr) return false;
+  (page_.*field)[0].Text.Set(std::string(entry.value));
+  if (entry.value.empty()) {
+    if (field == &UserSettings::txtMyHomeNode &&
+        Wanted(ProfileField::HomeNode, settings_.HomeCluster))
+      outgoing_.SendAsIs("set/home " + settings_.HomeCluster);
+    return true;
+  }
+  if (field == &UserSettings::txtMyName) report_.name = true;
+  if (field == &UserSettings::txtMyQRA) report_.grid = true;
+  if (field == &UserSettings::txtMyLocation) report_.location = true;
+  return true;
+}
+
+bool ProfileReader::ReadMark(const Entry& entry) {
+  if (entry.label == "Required Prompt")
+    report_.promptRight = entry.value == OwnPrompt();
+  else if (entry.label == "Req Echo")
+    report_.echoOff = entry.value == "No";
+  else if (entry.label == "Language")
+    report_.english = entry.value == "en";
+  else if (entry.label == "Latitude" || entry.label == "Longitude")
+    ReadLatitude(entry);
+  else
+    return false;
+  return true;
+}
+
+// The two together are the location.
+void ProfileReader::ReadLatitude(const Entry& entry) {
+  if (entry.value.empty()) return;
+  auto& location = page_.txtMyLocation[0].Text;
+  const bool first = entry.label == "Latitude";
+  location.Set((first ? "" : location.Get() + " ") + std::string(entry.value));
+  report_.location = true;
+}
+
+void ProfileReader::Close() {
+  phase_ = Phase::Behind;
+  page_.fraUserInfo[0].Caption.Set("User Information @ " + state_.ConnectedNodeCall);
+  page_.fraUserInfo[0].ForeColour.Set(core::kThemeColour);
+  intake_.PushStep("StatUser", Complete(report_, !std::exchange(completed_, true)));
+}
+
+platform::Task<> ProfileReader::Complete(Report report, bool first) {
+  outgoing_.SendAsIs(" ");
+  if (!report.echoOff) outgoing_.SendAsIs("unset/echo");
+  if (state_.IsSpider()) {
+    if (!report.promptRight) outgoing_.SendAsIs("set/prompt " + OwnPrompt());
+    if (!report.english) outgoing_.SendAsIs("set/lang en");
+  }
+  if (!report.grid) {
+    co_await platform::Delay(kPause);
+    if (Wanted(ProfileField::Grid, settings_.MyGrid))
+      outgoing_.SendAsIs("set/qra " + settings_.MyGrid);
+  }
+  if (!report.location && Wanted(ProfileField::Location, settings_.MyLocation)) {
+    co_await platform::Delay(kPause);
+    outgoing_.SendAsIs("set/location " + settings_.MyLocation);
+  }
+  if (first && !state_.IsDxNet()) {
+    if (askedByLogin_) {
+      outgoing_.SendAsIs("set/molva");
+      co_await platform::Delay(kPause);
+    }
+    co_await platform::Delay(kPause);
+    if (settings_.AutoFilter) outgoing_.SendAsIs("sh/filter");
+    co_await platform::Delay(kPause);
+  }
+  if (state_.IsZelva()) {
+    co_await TellName(report);
+    if (first) outgoing_.SendAsIs(keepAlive_.VersionText());
+  } else {
+    outgoing_.SendAsIs("SET/PAGE 9999");
+  }
+  co_await platform::Delay(kPause);
+  if (state_.IsDxNet() || state_.IsClx())
+    nameAtPrompt_ = true;
+  else if (!state_.IsZelva())
+    co_await TellName(report);
+  if (std::exchange(state_.FirstConnect, false) && state_.WantMissedSpots) requests_.GetEm();
+}
+
+platform::Task<> ProfileReader::TellName(Report report) {
+  if (report.name || !Wanted(ProfileField::Name, settings_.MyName)) co_return;
+  co_await platform::Delay(kPause);
+  outgoing_.SendAsIs("set/name " + settings_.MyName);
+}
+
+bool ProfileReader::Wanted(ProfileField field, const std::string& value) const {
+  return !value.empty() && !hints_.Answered(field);
+}
+
+}  // namespace filters

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "core/controls.h"
+#include "core/settings.h"
+#include "platform/serial.h"
+#include "platform/tasks.h"
+#include "session/session_state.h"
+#include "session/timers.h"
+
+namespace session {
+
+// The packet TNC on its serial port: the other way to the node.
+class TncLink {
+ public:
+  struct Needs {
+    std::function<std::string(int number)> portPath;  // empty: there is no such port
+    std::function<bool()> intakeHeld;
+    std::function<void(std::uint8_t byte)> inputCharacter;
+    std::function<void(std::string_view line)> showRaw;
+    // Told why the port does not open, once for each reason, and that it has gone.
+    platform::FaultHandler onFault;
+  };
+
+  TncLink(platform::SerialPorts& ports, const core::Settings& settings, const SessionState& state,
+          Timers& timers, Needs needs);
+
+  const std::unique_ptr<platform::SerialPort> MSComm1;
+  bool BpqLink = false;  // the node in between has an attention character
+  bool EscLink = false;  // and that is ESC, not "!"; such a node wants its text slowly
+  core::Label lblTnc;    // the lamp lblTnc(0)
+
+  // Opens the port with the settings, unless it is open. What is written first goes out half a
+  // second later. False if it can't be opened.
+  bool OpenComm1();
+
+  // Sends text in TNC mode, with CR behind it, and shows `shown` for it in the raw view. Three
+  // forms mean more than they say: "!..." and "ESC..." call the attention of the node in between,
+  // and "^C" is the control character. False if the text is lost, because the port can't be opened.
+  bool TncSend(std::string_view text, std::string_view shown);
+
+  // "*", with no line end: from it the TNC's firmware finds the baud rate. False if it is lost.
+  bool SendAutobaud();
+
+  // Polled: takes what has come in, in TNC mode. While intake is held bytes stay unread.
+  void ReadTNC();
+
+  // The program closes the session itself: what is unread goes.
+  void DropUnread();
+
+ private:
+  platform::SerialSettings PortSettings() const;
+  void Write(std::string_view text);
+  void CallBpq(std::string_view rest);
+  void CallEsc(std::string_view rest);
+  void WriteSlowly(std::string_view text);
+
+  const core::Settings& settings_;
+  const SessionState& state_;
+  Timers& timers_;
+  Needs needs_;
+  std::string toldWhy_;  // the port does not open
+  std::string batch_;
+  std::size_t batchAt_ = 0;
+};
+
+}  // namespace session
