@@ -25,6 +25,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .loggers = standIns,
                .requests = standIns,
                .clockWork = standIns,
+               .tncScript = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .onNodeKnown = [this] { CaptionSetup(); },

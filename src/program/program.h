@@ -118,6 +118,7 @@ class Program {
 
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
+  void ShowTncCluster();
   std::string LinkWord() const;
   void ApplySettings();
   void WriteCfg();

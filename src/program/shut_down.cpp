@@ -37,7 +37,9 @@ platform::Task<> Program::ShutDown(Close how) {
     WriteCfg();
     co_await Delay(4 * core::kPause);
   }
-  if (session.WinsockOut->State() == platform::SocketState::Connected) {
+  if (session.state.TncMode) {
+    standIns.DisconnectTNC();
+  } else if (session.WinsockOut->State() == platform::SocketState::Connected) {
     session.outgoing.Send("bye");
     co_await Delay(6 * core::kPause);
   } else {
@@ -45,6 +47,8 @@ platform::Task<> Program::ShutDown(Close how) {
   }
   co_await Delay(kClosingWait);
   session.WinsockOut->Close();
+  session.tncLink.MSComm1->Close();
+  session.localNetwork.MSComm2->Close();
   Quit();
 }
 

@@ -5,13 +5,15 @@
 
 #include "session/local_feed.h"
 #include "session/requests.h"
+#include "session/tnc_retry.h"
 
 namespace program {
 
 // Takes the place of what this version doesn't have yet, and counts what it was asked for.
 class StandIns : public session::LoggerServer,
                  public session::LoginRequests,
-                 public session::ClockWork {
+                 public session::ClockWork,
+                 public session::TncScript {
  public:
   std::map<std::string, int> calls;
 
@@ -25,6 +27,8 @@ class StandIns : public session::LoggerServer,
   void Sun() override { ++calls["Sun"]; }
   void DayChange() override { ++calls["DayChange"]; }
   void EnableLoggingSpots() override { ++calls["EnableLoggingSpots"]; }
+  void Connect() override { ++calls["Connect"]; }
+  void DisconnectTNC() override { ++calls["DisconnectTNC"]; }
 };
 
 }  // namespace program

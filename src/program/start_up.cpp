@@ -110,6 +110,8 @@ platform::Task<> Program::PrepareSession() {
   session.connection.AutoReconnect.Value.Set(settings.AutoReconnect);
   session.state.UserDisconnected = true;
   session.state.WantMissedSpots = session.state.FirstConnect = settings.GetMissedOnes;
+  session.state.TncMode = settings.TncMode;
+  if (settings.TncMode) ShowTncCluster();
   session.nodeAddress.EnsureNode();
   session.keepAlivePanel.Load();
   session.timers.SetInterval(TimerId::Reconnect, RetryInterval(needs_.seed));
@@ -130,6 +132,11 @@ platform::Task<> Program::EndLoading() {
   co_return;
 }
 
+void Program::ShowTncCluster() {
+  session.state.txtNode.Caption.Set(settings.TncCluster);
+  session.state.ConnectedNodeCall = settings.TncCluster;
+}
+
 // None of these forms holds anything up.
 platform::Task<> Program::AskWhatIsMissing() {
   if (settings.GmtOffset.empty()) offsetForm.Show();
@@ -139,6 +146,7 @@ platform::Task<> Program::AskWhatIsMissing() {
 
 platform::Task<> Program::AutoStart() {
   if (settings.AutoStart) session.connection.cmdConnect.Press();
+  if (settings.TncMode) session.tncLink.OpenComm1();
   co_return;
 }
 

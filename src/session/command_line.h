@@ -24,7 +24,7 @@ class CommandLine {
   CommandLine(Outgoing& outgoing, const SessionState& state, Needs needs);
 
   core::TextBox txtCmdLine;
-  // The buttons beside the text pages. A command makes sense of [3] and [7].
+  // The buttons beside the text pages. Each command enables [3] and [7].
   std::array<core::Button, 13> cmdRawplus;
 
   // The Up and Down keys: the line typed before the one on show, and the one after it. They stop at

@@ -18,13 +18,16 @@ using platform::SocketState;
 
 constexpr auto kConnectEventRest = 250ms;
 constexpr auto kPoll = 10ms;
+constexpr platform::Milliseconds kAskConfig = 1s;
+constexpr platform::Milliseconds kAskConfigOverTnc = 60s;
 
 }  // namespace
 
 Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& calendar,
                        core::Settings& settings, SessionState& state, platform::TcpSocket& socket,
                        Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress,
-                       LoginWatch& loginWatch, Duelling& duelling, Timers& timers, Needs needs)
+                       LoginWatch& loginWatch, Duelling& duelling, TncRetry& tncRetry,
+                       TncScript& tncScript, Timers& timers, Needs needs)
     : scheduler_(scheduler),
       calendar_(calendar),
       settings_(settings),
@@ -35,6 +38,8 @@ Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& cal
       nodeAddress_(nodeAddress),
       loginWatch_(loginWatch),
       duelling_(duelling),
+      tncRetry_(tncRetry),
+      tncScript_(tncScript),
       timers_(timers),
       needs_(std::move(needs)),
       connecting_(scheduler, needs_.onFault) {
@@ -194,12 +199,15 @@ void Connection::Disconnected() {
   state_.ConnectFailed = true;
   timers_.Disable(TimerId::ConnectionTimeout);
   if (settings_.GetMissedOnes) state_.WantMissedSpots = state_.FirstConnect = true;
-  if (AutoReconnect.Value.Get()) {
-    timers_.Enable(TimerId::Reconnect);
-    cmdDisconnect.Enabled.Set(true);
-  }
+  if (AutoReconnect.Value.Get()) AwaitReconnect();
   state_.SocketConnected = false;
   state_.LoggedIn = false;
+}
+
+void Connection::AwaitReconnect() {
+  if (state_.TncMode && !timers_.Enabled(TimerId::Reconnect)) tncRetry_.LinkLost();
+  timers_.Enable(TimerId::Reconnect);
+  cmdDisconnect.Enabled.Set(true);
 }
 
 void Connection::Count() {
@@ -215,22 +223,28 @@ void Connection::SessionOver() {
 }
 
 void Connection::RetryNow() {
-  timers_.Disable(TimerId::Reconnect);
   state_.ConnectEventSeen = false;
   if (state_.UserDisconnected) {
-    state_.txtNode.Caption.Set("Press Connect to restart Auto Reconnect");
-    AutoReconnect.Value.Set(false);
-    cmdConnect.Enabled.Set(true);
-    cmdDisconnect.Enabled.Set(false);
-    return;
-  }
-  if (!AutoReconnect.Value.Get()) {
+    StopReconnecting();
+  } else if (!AutoReconnect.Value.Get()) {
     SessionOver();
-    return;
+  } else if (state_.TncMode) {
+    if (!tncRetry_.Interval())
+      timers_.Enable(TimerId::Reconnect);
+    else if (!state_.LoggedIn)
+      tncScript_.Connect();
+  } else {
+    cmdConnect.Enabled.Set(false);
+    cmdDisconnect.Enabled.Set(true);
+    WhichNode();
   }
-  cmdConnect.Enabled.Set(false);
-  cmdDisconnect.Enabled.Set(true);
-  WhichNode();
+}
+
+void Connection::StopReconnecting() {
+  state_.txtNode.Caption.Set("Press Connect to restart Auto Reconnect");
+  AutoReconnect.Value.Set(false);
+  cmdConnect.Enabled.Set(true);
+  cmdDisconnect.Enabled.Set(false);
 }
 
 void Connection::GiveUpLogin() {
@@ -242,7 +256,10 @@ void Connection::GiveUpLogin() {
 void Connection::GiveUp(std::string why) {
   WhyEnded = std::move(why);
   timers_.Disable(TimerId::Reconnect);
-  ForceClose();
+  if (state_.TncMode)
+    tncScript_.DisconnectTNC();
+  else
+    ForceClose();
   timers_.Enable(TimerId::Reconnect);
 }
 
@@ -253,7 +270,10 @@ void Connection::LoggedInSetup() {
   state_.LoggedIn = true;
   cmdDisconnect.Enabled.Set(true);
   cmdConnect.Enabled.Set(false);
+  timers_.SetInterval(TimerId::AskConfig, state_.TncMode ? kAskConfigOverTnc : kAskConfig);
+  timers_.Disable(TimerId::ConnectScript);
   timers_.Disable(TimerId::ConnectionTimeout);
+  tncRetry_.Reset();
   state_.ConnectFailed = false;
   toldFailures_.clear();
   WhyEnded.clear();
@@ -263,7 +283,15 @@ void Connection::LoggedInSetup() {
 void Connection::BeginAnew() {
   WhyEnded.clear();
   toldFailures_.clear();
+  tncRetry_.Reset();
   Show(LinkPhase::Trying);
+}
+
+void Connection::Try() {
+  if (state_.TncMode)
+    tncScript_.Connect();
+  else
+    WhichNode();
 }
 
 void Connection::CloseIfOpen() {

@@ -17,6 +17,7 @@
 #include "session/outgoing.h"
 #include "session/session_state.h"
 #include "session/timers.h"
+#include "session/tnc_retry.h"
 
 namespace session {
 
@@ -38,7 +39,8 @@ class Connection {
   Connection(platform::Scheduler& scheduler, const core::Calendar& calendar,
              core::Settings& settings, SessionState& state, platform::TcpSocket& socket,
              Outgoing& outgoing, Intake& intake, NodeAddress& nodeAddress, LoginWatch& loginWatch,
-             Duelling& duelling, Timers& timers, Needs needs);
+             Duelling& duelling, TncRetry& tncRetry, TncScript& tncScript, Timers& timers,
+             Needs needs);
 
   core::Button cmdConnect;     // cmdButton(2)
   core::Button cmdDisconnect;  // cmdButton(1)
@@ -67,6 +69,8 @@ class Connection {
 
   // The link is dead: closes it, and the next try comes one interval later. `why` is shown.
   void GiveUp(std::string why);
+  // Begins to connect, over the path that the settings name.
+  void Try();
   // The same for a link that saw no login.
   void GiveUpLogin();
 
@@ -90,6 +94,8 @@ class Connection {
   void Count();
   void SessionOver();
   void WaitForRetry();
+  void AwaitReconnect();
+  void StopReconnecting();
   void ShowNode(const std::string& call);
 
   platform::Scheduler& scheduler_;
@@ -102,6 +108,8 @@ class Connection {
   NodeAddress& nodeAddress_;
   LoginWatch& loginWatch_;
   Duelling& duelling_;
+  TncRetry& tncRetry_;
+  TncScript& tncScript_;
   Timers& timers_;
   Needs needs_;
 

@@ -41,7 +41,7 @@ void LinkButtons::PressConnect() {
   state_.UserDisconnected = false;
   connection_.BeginAnew();
   connection_.cmdDisconnect.Enabled.Set(true);
-  connection_.WhichNode();
+  connection_.Try();
 }
 
 platform::Task<> LinkButtons::PressDisconnect() {
@@ -55,12 +55,12 @@ platform::Task<> LinkButtons::PressDisconnect() {
   connection_.AutoReconnect.Value.Set(false);
   connection_.WhyEnded = "disconnected by you";
   state_.txtNode.Caption.Set("Ready to Connect");
-  if (state_.LoggedIn) {
+  if (state_.LoggedIn && !state_.TncMode) {
     outgoing_.Send("BYE");
     co_await platform::Delay(6 * core::kPause);
   }
   // Meanwhile the user may have connected anew.
-  if (state_.UserDisconnected) connection_.CloseIfOpen();
+  if (state_.UserDisconnected && !state_.TncMode) connection_.CloseIfOpen();
   connection_.DisconnectCount = 0;
   Disconnecting = false;
 }

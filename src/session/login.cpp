@@ -33,7 +33,7 @@ std::string_view LoginPromptIn(std::string_view line) {
 }  // namespace
 
 bool Login::LoginPrompt(std::string_view line) {
-  if (state_.LoggedIn) return false;
+  if (state_.LoggedIn || tncLink_.BpqLink) return false;
   const std::string_view prompt = LoginPromptIn(line);
   if (prompt.empty()) return false;
   state_.txtNode.Caption.Set(std::string(line));

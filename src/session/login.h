@@ -7,6 +7,7 @@
 #include "session/duelling.h"
 #include "session/outgoing.h"
 #include "session/session_state.h"
+#include "session/tnc_link.h"
 
 namespace session {
 
@@ -14,12 +15,13 @@ namespace session {
 class Login {
  public:
   Login(const core::Settings& settings, SessionState& state, Outgoing& outgoing,
-        Connection& connection, Duelling& duelling)
+        Connection& connection, Duelling& duelling, const TncLink& tncLink)
       : settings_(settings),
         state_(state),
         outgoing_(outgoing),
         connection_(connection),
-        duelling_(duelling) {}
+        duelling_(duelling),
+        tncLink_(tncLink) {}
 
   // A line handler: the first prompt of a connection gets the call. True claims the line.
   bool LoginPrompt(std::string_view line);
@@ -30,6 +32,7 @@ class Login {
   Outgoing& outgoing_;
   Connection& connection_;
   Duelling& duelling_;
+  const TncLink& tncLink_;
 };
 
 }  // namespace session

@@ -48,10 +48,11 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                {.showMessage = needs.showMessage,
                 .closeMessage = needs.closeMessage,
                 .seed = needs.seed}),
+      tncRetry(state, technical),
       loginWatch(settings, state, *WinsockOut, outgoing, intake, timers,
                  {.giveUp = [this] { connection.GiveUpLogin(); }}),
       connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
-                 nodeAddress, loginWatch, duelling, timers,
+                 nodeAddress, loginWatch, duelling, tncRetry, needs.tncScript, timers,
                  {.askUserInfo = needs.askUserInfo,
                   .delayedWriteCfg = needs.delayedWriteCfg,
                   .onConnected = [this] { loginText.rtbLoginMsg.Clear(); },
@@ -67,7 +68,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                          if (settings.LocalNetwork) localNetwork.OpenComm2();
                        },
                    .onFault = needs.onFault}),
-      login(settings, state, outgoing, connection, duelling),
+      login(settings, state, outgoing, connection, duelling, tncLink),
       loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
       loginSequence(settings, state, outgoing, intake, needs.requests,
                     {.profileAsked = needs.profileAsked}),
@@ -96,7 +97,9 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
     tncLink.ReadTNC();
   });
   loginText.onKind = needs.onNodeKnown;
-  outgoing.onSent = [this](std::string_view text) { echoes_.Sent(text); };
+  outgoing.onSent = [this](std::string_view text) {
+    if (state.IsSpider()) echoes_.Sent(text);
+  };
   // A change is shown behind the rule that makes it, not with the next second.
   phaseShown_ =
       state.Phase.Observe([this, &scheduler = platform.scheduler, first = true](LinkPhase) mutable {
@@ -106,6 +109,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
 
 void Session::LoggedIn() {
   commandLine.txtCmdLine.Text.Set({});
+  if (state.TncMode) tncLink.lblTnc.ForeColour.Set(tncLink.BpqLink ? core::kBlue : core::kGreen);
   keepAlive.LoggedIn();
   ar17.LoggedIn();
 }

@@ -30,6 +30,7 @@
 #include "session/technical.h"
 #include "session/timers.h"
 #include "session/tnc_link.h"
+#include "session/tnc_retry.h"
 
 namespace session {
 
@@ -42,6 +43,7 @@ class Session {
     LoggerServer& loggers;
     LoginRequests& requests;
     ClockWork& clockWork;
+    TncScript& tncScript;
     std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
     std::function<void()> onNodeKnown;  // its call or its software has become known
@@ -79,6 +81,7 @@ class Session {
   Intake intake;
   NodeAddress nodeAddress;
   Duelling duelling;
+  TncRetry tncRetry;
   LoginWatch loginWatch;
   Connection connection;
   LinkButtons linkButtons;

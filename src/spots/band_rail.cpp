@@ -10,6 +10,7 @@ namespace spots {
 BandRail::BandRail(std::function<void(int band)> firstUnseen)
     : firstUnseen_(std::move(firstUnseen)) {
   std::vector<std::string> captions;
+  captions.reserve(kBands.size());
   for (const Band& band : kBands) captions.emplace_back(band.label);
   optBand.Options.Set(std::move(captions));
   for (int band = 0; band < kBandCount; ++band) {

@@ -87,13 +87,16 @@ void TakeTime(std::string_view& tail, const NodeFacts& node, Spot& spot) {
   tail = Left(tail, Len(tail) + time - kEnd - 1);
 }
 
-// The last word of a comment that reaches its field's end, where a short country prefix may stand.
+// A word of up to five characters that two blanks set apart at the end of a comment, with the
+// blanks behind it: a country, or a zone.
 std::string_view ExtractTrailingCty(std::string_view text) {
   if (Len(text) < 24) return {};
-  std::string_view last = LTrim(Right(text, 8));
-  for (const Position length : {7, 6, 5, 4})
-    if (Len(last) >= length) last = LTrim(Right(text, length));
-  return Len(last) >= 3 ? std::string_view() : last;
+  std::string_view word = LTrim(Right(text, 8));
+  for (const Position length : {7, 6, 5, 4}) {
+    if (Len(word) < length) return word;
+    word = LTrim(Right(text, length));
+  }
+  return Len(word) >= 3 ? std::string_view() : word;
 }
 
 void TakeComment(std::string_view tail, const NodeFacts& node, Spot& spot) {

@@ -4,7 +4,11 @@
 
 namespace spots {
 
-using std::chrono_literals::operator""s;
+namespace {
+
+constexpr platform::Milliseconds kPause{1000};
+
+}  // namespace
 
 Settling::Settling(const platform::Scheduler& scheduler, std::function<void()> sendSettlingLine)
     : scheduler_(scheduler), sendSettlingLine_(std::move(sendSettlingLine)) {}
@@ -12,7 +16,7 @@ Settling::Settling(const platform::Scheduler& scheduler, std::function<void()> s
 bool Settling::Drops(const NodeFacts& node) {
   if (node.Ar17Active || node.Ar17Refused || !node.SessionUp) return false;
   const platform::Milliseconds now = scheduler_.Now();
-  if (!sentAt_ || now - *sentAt_ >= 1s) {
+  if (!sentAt_ || now - *sentAt_ >= kPause) {
     sentAt_ = now;
     sendSettlingLine_();
   }

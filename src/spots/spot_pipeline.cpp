@@ -37,9 +37,13 @@ void SpotPipeline::DisplayDx() {
   if (spot.Freq == 0) return;
   if (!HasCalls(spot)) return;
   spot.LotwMark = " ";
+  InferMissingDate();
+  DisplayDxPart2();
+}
+
+void SpotPipeline::InferMissingDate() {
   if (spot.SpotDate.empty())
     InferDate(spot.SpotHHMM, MomentNow(calendar_), kMidnight, spot.SpotDate);
-  DisplayDxPart2();
 }
 
 void SpotPipeline::DisplayDxPart2() {

@@ -15,13 +15,6 @@ TableRow::TableRow(std::string_view text, Kind kind, int band, int minute)
   if (!text.empty()) std::memcpy(block_ + 1, text.data(), text.size());
 }
 
-TableRow& TableRow::operator=(const TableRow& other) noexcept {
-  ++other.block_->references;
-  Release();
-  block_ = other.block_;
-  return *this;
-}
-
 void TableRow::Release() noexcept {
   if (--block_->references == 0) ::operator delete(block_);
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 namespace spots {
 
@@ -18,7 +19,10 @@ class TableRow {
   // `text` is copied. `minute`: of a separator, when it was set, in UTC minutes of the day.
   TableRow(std::string_view text, Kind kind, int band, int minute = 0);
   TableRow(const TableRow& other) noexcept : block_(other.block_) { ++block_->references; }
-  TableRow& operator=(const TableRow& other) noexcept;
+  TableRow& operator=(TableRow other) noexcept {
+    std::swap(block_, other.block_);
+    return *this;
+  }
   ~TableRow() { Release(); }
 
   std::string_view Text() const { return {Characters(), block_->length}; }

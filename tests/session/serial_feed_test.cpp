@@ -4,7 +4,6 @@
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

@@ -58,6 +58,7 @@ session::Session::Needs Station::Needs() {
           .loggers = log,
           .requests = above,
           .clockWork = above,
+          .tncScript = above,
           .defaultNode =
               [] {
                 return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};

@@ -39,7 +39,9 @@ class Station {
   };
 
   // What was asked of the program above the session.
-  class Above : public session::LoginRequests, public session::ClockWork {
+  class Above : public session::LoginRequests,
+                public session::ClockWork,
+                public session::TncScript {
    public:
     Lines asked;
     void GetEm() override { asked.emplace_back("GetEm"); }
@@ -49,6 +51,8 @@ class Station {
     void Sun() override { ++minutes; }
     void DayChange() override { asked.emplace_back("DayChange"); }
     void EnableLoggingSpots() override { asked.emplace_back("EnableLoggingSpots"); }
+    void Connect() override { asked.emplace_back("Connect"); }
+    void DisconnectTNC() override { asked.emplace_back("DisconnectTNC"); }
     int hours = 0;
     int minutes = 0;
   };
