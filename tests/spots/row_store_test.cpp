@@ -1,15 +1,11 @@
 #include "spots/row_store.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace spots {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class RowStoreTest : public testing::Test {
  protected:

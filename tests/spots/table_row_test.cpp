@@ -32,8 +32,8 @@ TEST(TableRowTest, CopiesShareOneTextThatLivesAsLongAsTheLast) {
     {
       const TableRow first("first", TableRow::Kind::Other, 1);
       const auto allocated = MemoryMeter::Allocated();
-      const TableRow& same = first;
-      const TableRow copy = same;
+      TableRow copy = last;
+      copy = first;
       last = copy;
       EXPECT_EQ(MemoryMeter::Allocated(), allocated);
       EXPECT_EQ(copy.Text().data(), first.Text().data());

@@ -1,14 +1,12 @@
 #include <gmock/gmock.h>
 
 #include "spot_desk.h"
-#include "spots/classic_row.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 using spots::kAllBands;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr int k20 = 6;
 constexpr int k40 = 4;
