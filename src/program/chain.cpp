@@ -23,9 +23,6 @@ struct Row {
 // A row whose format no part of the program reads yet.
 bool Pass(Program&, Line) { return false; }
 
-// Nothing but a spot begins so: no other row gets to see it, whatever stands in its comment.
-bool IsSpotLine(Program&, Line line) { return line.starts_with("DX de "); }
-
 constexpr std::array<Row, 65> kRows = {{
     {1, "TncDisconnectNotice", Pass, Stop::Tail},
     {2, "QRX", [](Program& p, Line l) { return p.session.connection.QRX(l); }, Stop::Tail},
@@ -34,7 +31,7 @@ constexpr std::array<Row, 65> kRows = {{
     {5, "frmTNC.Netrom", Pass, Stop::Tail},
     {6, "ConnectToNode", [](Program& p, Line l) { return p.session.connection.ConnectToNode(l); },
      Stop::Tail},
-    {7, "dx", IsSpotLine, Stop::Quiet},
+    {7, "dx", [](Program& p, Line l) { return p.spotPipeline.dx(l); }, Stop::Quiet},
     {8, "ar17", Pass, Stop::Quiet},
     {9, "RunawayNotice", Pass, Stop::Never},
     {10, "ZV11CarrotCounter", Pass, Stop::Quiet},

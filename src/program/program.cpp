@@ -31,16 +31,17 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .onNodeKnown = [this] { CaptionSetup(); },
                .delayedWriteCfg = [this] { DelayedWriteCfg(); },
                .writeCfg = [this] { WriteCfg(); },
-               .showMessage =
-                   [this](const std::string& heading, const std::string& text) {
-                     platform_.dialogs.Tell({.title = heading, .text = text});
-                   },
-               .closeMessage = [] {},
+               .showMessage = [this](const std::string& heading,
+                                     const std::string& text) { messageForm.Show(heading, text); },
+               .closeMessage = [this] { messageForm.Close(); },
                .ar17Settled = [] {},
                .profileAsked = [this] { profileReader.AskedByLogin(); },
                .onEnding = [this] { profileReader.Forget(); },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed}),
+      spotPipeline(platform.scheduler, calendar, settings,
+                   {.nodeFacts = [this] { return NodeFacts(); },
+                    .sendSettlingLine = [this] { session.outgoing.Send(""); }}),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
                     session.keepAlive, standIns, userSettings),
       userInfo(settings, {.password = [this] { return session.outgoing.NodePassword; },
@@ -52,6 +53,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       }),
       views({.winCluster = [this] { return session.state.Kind == session::NodeKind::WinCluster; },
              .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+      dxTab(views, spotPipeline.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
       linkCondition_(conditions, session),
@@ -120,6 +122,16 @@ void Program::CaptionSetup() {
       (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
       (node.empty() ? "" : "  (" + node + (word.empty() ? "" : " ") + std::string(word) + ")"));
   views.FollowNode();
+}
+
+spots::NodeFacts Program::NodeFacts() const {
+  const session::SessionState& state = session.state;
+  return {.IsClx = state.IsClx(),
+          .IsWinCluster = state.IsWinCluster(),
+          .KeepsLeadingBlanks = state.IsSkimmer(),
+          .Ar17Active = false,
+          .Ar17Refused = state.Ar17Refused(),
+          .SessionUp = state.LoggedIn};
 }
 
 // The second of two linked copies is fed through the first, in the extended line forms.

@@ -17,6 +17,7 @@
 #include "program/appearance.h"
 #include "program/chain.h"
 #include "program/conditions.h"
+#include "program/dx_tab.h"
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
@@ -25,6 +26,7 @@
 #include "program/user_info.h"
 #include "program/views.h"
 #include "session/session.h"
+#include "spots/spot_pipeline.h"
 
 namespace program {
 
@@ -87,6 +89,7 @@ class Program {
 
  public:
   session::Session session;
+  spots::SpotPipeline spotPipeline;
   filters::UserSettings userSettings;
   filters::ProfileReader profileReader;
   UserInfo userInfo;
@@ -94,6 +97,7 @@ class Program {
   MessageForm messageForm;  // frmMsg
   Conditions conditions;
   Views views;
+  DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
 
@@ -120,6 +124,7 @@ class Program {
   void CaptionSetup();
   void ShowTncCluster();
   std::string LinkWord() const;
+  spots::NodeFacts NodeFacts() const;
   void ApplySettings();
   void WriteCfg();
   void SaveUserInfo(const std::string& password);
