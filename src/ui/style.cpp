@@ -53,6 +53,7 @@ QLineEdit { background: {ground}; border: 1px solid {line}; border-radius: 4px;
             padding: 5px 8px; selection-background-color: {selection};
             selection-color: {text}; }
 QLineEdit:focus { border-color: {accent}; }
+QLineEdit[bad="true"] { color: {bad}; }
 QPlainTextEdit { background: {ground}; color: {text}; border: none;
                  selection-background-color: {selection}; selection-color: {text}; }
 QPlainTextEdit:focus { border: 1px solid {accent}; }
@@ -68,6 +69,9 @@ QTreeView::item { padding: 3px 8px; }
 QTreeView::item:selected { background: {selection}; color: {text}; }
 QHeaderView::section { background: {panel}; color: {dim}; border: none;
                        border-bottom: 1px solid {line}; padding: 6px 12px; }
+QListWidget#BandRail { background: {panel}; border: none; border-right: 1px solid {line};
+                      outline: none; padding-top: 6px; }
+QPushButton#Below { background: {panel}; color: {accent}; border-color: {accent}; }
 QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
 QAbstractScrollArea::corner { background: {ground}; border: none; }

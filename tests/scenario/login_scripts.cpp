@@ -131,12 +131,12 @@ Script Clx() {
           .password = "secret",
           .turns =
               {
-                  {{"Welcome to N0NODE running CLX 5.20\r\nlogin: "}, {"K1TST-2", "secret"}},
+                  {{"Welcome to N0NODE running CLX 5.20\r\nlogin: "}, {"k1tst-2", "secret"}},
                   {{"\r\n de k1tst-2 n0node 20-Nov-2026\r\n"
                     "Use SET/NAME <your name>, please.\r\n"
                     "please enter ur location using SET/LOCATION and SET/QTH\r\n"
                     "k1tst-2 de n0node 20-Nov-2026 2101Z clx >\r\n"},
-                   {"set/name ANNA", "SET/LOCATION 42 17 N 83 44 W"}},
+                   {"set/name anna", "set/location 42 17 n 83 44 w"}},
               },
           .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE CLX)",
                      .txtNode = "***Connected to: N0NODE",
@@ -258,7 +258,7 @@ Script Relay() {
                   {{"\r\nHello K1TST-2\r\nK1TST-2 de K2RLY 20-Nov-2026 2101Z >\r\n"
                     "DX de K1ABC-#:   14025.0  K2DEF          CW 12 dB  CQ           2101Z\r\n"
                     "two users\r\n"},
-                   {}},
+                   {""}},  // asked on: it may yet turn out to send extended lines
               },
           .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (K2RLY)",
                      .txtNode = "***Connected to: K2RLY",

@@ -117,11 +117,11 @@ TEST(LoginInADuel, SecondCloseByTheNodeChangesTheNextLoginAndTheUserIsTold) {
     stage.node.Close();
     stage.desk.world.RunUntil([&] { return stage.node.called.size() == sessions + 1; });
     stage.desk.world.Run(1s);
-    EXPECT_TRUE(stage.desk.world.dialogs.shown.empty());
+    EXPECT_FALSE(stage.program->messageForm.Open.Get());
   }
   EXPECT_THAT(stage.Say({"login: "}), ElementsAre(MatchesRegex("K1TST-[0-9]+")));
-  ASSERT_EQ(stage.desk.world.dialogs.shown.size(), 1u);
-  EXPECT_EQ(stage.desk.world.dialogs.shown[0].title, "Duelling Connections Suspected");
+  EXPECT_TRUE(stage.program->messageForm.Open.Get());
+  EXPECT_EQ(stage.program->messageForm.lblHeading.Caption.Get(), "Duelling Connections Suspected");
   EXPECT_EQ(stage.program->settings.MyCall, "K1TST-2");
 }
 
