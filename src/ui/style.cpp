@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 
+#include "ui/desk_style.h"
 #include "ui/fonts.h"
 
 namespace ui {
@@ -21,6 +21,7 @@ QPalette PaletteOf(const Theme& theme) {
   palette.setColor(QPalette::ButtonText, theme[Token::Text]);
   palette.setColor(QPalette::Highlight, theme[Token::Selection]);
   palette.setColor(QPalette::HighlightedText, theme[Token::Text]);
+  palette.setColor(QPalette::Mid, theme[Token::Line]);
   palette.setColor(QPalette::Link, theme[Token::Accent]);
   palette.setColor(QPalette::ToolTipBase, theme[Token::Panel]);
   palette.setColor(QPalette::ToolTipText, theme[Token::Text]);
@@ -117,7 +118,7 @@ Theme ThemeOf(platform::ColourScheme scheme) {
 }  // namespace
 
 void Apply(const Theme& theme, QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new DeskStyle);
   QApplication::setPalette(PaletteOf(theme));
   QApplication::setFont(InterfaceFont());
   application.setStyleSheet(SheetOf(theme));
