@@ -65,11 +65,11 @@ QTabBar::tab:hover:!selected:!disabled { border-bottom-color: {line}; }
 QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
 QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
-QTreeView { background: {ground}; color: {text}; border: none; }
-QTreeView::item { padding: 3px 8px; }
+QTreeView { background: {ground}; color: {text}; border: none; outline: none; }
+QTreeView::item { height: 24px; padding-left: 8px; border: none; }
 QTreeView::item:selected { background: {selection}; color: {text}; }
 QHeaderView::section { background: {panel}; color: {dim}; border: none;
-                       border-bottom: 1px solid {line}; padding: 6px 12px; }
+                       border-bottom: 1px solid {line}; padding: 6px 8px; }
 QListWidget#BandRail { background: {panel}; border: none; border-right: 1px solid {line};
                       outline: none; padding-top: 6px; }
 QPushButton#Below { background: {panel}; color: {accent}; border-color: {accent}; }
