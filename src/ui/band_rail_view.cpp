@@ -110,7 +110,9 @@ BandRailView::BandRailView(spots::BandRail& model, const core::Settings& setting
 
 void BandRailView::Watch(Frames& frames) {
   item_ = frames.Add([this] { ShowCounts(); });
-  const auto changed = [this](const auto&) { item_->Changed(); };
+  const auto changed = [this](const auto&) {
+    if (isVisible()) item_->Changed();
+  };
   for (std::size_t band = 0; band < model_.lblTotal.size(); ++band) {
     watching_.push_back(model_.lblUnseen[band].Caption.Observe(changed));
     watching_.push_back(model_.lblUnseen[band].Visible.Observe(changed));
@@ -118,6 +120,11 @@ void BandRailView::Watch(Frames& frames) {
   }
   // Not with the next frame: the user looks at what he has chosen.
   watching_.push_back(model_.optBand.Selected.Observe([this](int band) { setCurrentRow(band); }));
+}
+
+void BandRailView::showEvent(QShowEvent* event) {
+  QListWidget::showEvent(event);
+  item_->Changed();
 }
 
 void BandRailView::ShowCounts() {

@@ -18,6 +18,9 @@ class BandRailView : public QListWidget {
   BandRailView(spots::BandRail& model, const core::Settings& settings, Frames& frames,
                LiveTheme& theme, QWidget* parent);
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   class Painter;
 

@@ -12,6 +12,10 @@ constexpr std::array<BandColour, kBandsOfTheirOwn> kColours = {
     BandColour::M12,  BandColour::M10,  BandColour::M6,  BandColour::M2,
     BandColour::M1,   BandColour::Cm70, BandColour::Mw,  BandColour::M4};
 
+QColor AsStored(core::Colour colour) {
+  return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
+}
+
 bool IsChosen(int ground) {
   static const int usual = core::Settings().ColourDx;
   return ground != core::kThemeColour && ground != usual;
@@ -46,7 +50,7 @@ QColor Readable(QColor colour, const QColor& ground, Theme::Kind kind) {
 
 SpotColours ColoursOf(const core::Settings& settings, const Theme& theme) {
   const bool chosen = IsChosen(settings.ColourDx);
-  const QColor ground = chosen ? theme.Of(settings.ColourDx, Token::Ground) : theme[Token::Ground];
+  const QColor ground = chosen ? AsStored(settings.ColourDx) : theme[Token::Ground];
   const Theme on = chosen ? ReadableOn(ground) : theme;
   const auto readable = [&](const QColor& colour) {
     return chosen ? Readable(colour, ground, on.kind()) : colour;
@@ -70,7 +74,7 @@ SpotColours ColoursOf(const core::Settings& settings, const Theme& theme) {
 QColor BandColourOf(int band, const core::Settings& settings, const Theme& theme) {
   if (band == spots::kAlarmBand) return theme[Token::Caution];
   if (band == spots::kAllBands) return theme[Token::Text];
-  if (IsOwn(band, settings)) return theme.Of(StoredColour(band, settings), Token::Text);
+  if (IsOwn(band, settings)) return AsStored(StoredColour(band, settings));
   return theme[kColours[static_cast<std::size_t>(band - 1)]];
 }
 

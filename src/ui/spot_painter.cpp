@@ -8,6 +8,7 @@
 #include "spots/row_parts.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
+#include "ui/spot_words.h"
 
 namespace ui {
 namespace {
@@ -31,20 +32,14 @@ constexpr std::array kHeads = {
     Head{QT_TR_NOOP("DX"), 26, false, false}, Head{QT_TR_NOOP("Comment"), 39, false, false},
     Head{QT_TR_NOOP("UTC ↓"), 75, true, true}};
 
-QString TimeOfDay(int minute) {
-  return QStringLiteral("%1:%2")
-      .arg(minute / 60, 2, 10, QLatin1Char('0'))
-      .arg(minute % 60, 2, 10, QLatin1Char('0'));
-}
-
 }  // namespace
 
 SpotPainter::SpotPainter(int pixels) : font_(FixedFont(pixels)), callFont_(font_) {
   callFont_.setWeight(QFont::DemiBold);
-  const QFontMetricsF metrics(font_);
-  rowHeight_ = static_cast<int>(std::ceil(metrics.height())) + kRoom;
-  baseline_ = static_cast<int>(std::lround(kRoom / 2.0 + metrics.ascent()));
-  characterWidth_ = metrics.horizontalAdvance(QLatin1Char('0'));
+  const QFontMetrics metrics(font_);
+  rowHeight_ = metrics.height() + kRoom;
+  baseline_ = kRoom / 2 + metrics.ascent();
+  characterWidth_ = QFontMetricsF(font_).horizontalAdvance(QLatin1Char('0'));
 }
 
 int SpotPainter::ColumnAt(core::Position column) const {
@@ -82,8 +77,7 @@ void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours&
 }
 
 void SpotPainter::DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const {
-  const QString words =
-      QObject::tr("%1 new since %2").arg(row.spotsBehind).arg(TimeOfDay(row.row.Minute()));
+  const QString words = NewSince(row.row, row.spotsBehind);
   painter.setFont(InterfaceFont());
   const int width = painter.fontMetrics().horizontalAdvance(words) + 2 * kRuleMargin;
   const QRect place((row.width - width) / 2, row.top, width, rowHeight_);

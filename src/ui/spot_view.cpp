@@ -46,7 +46,10 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
       theme_(theme),
       painter_(model.size.Get()),
       item_(frames.Add([this] { Refresh(); })),
-      rows_(model.pane, [this] { item_->Changed(); }),
+      rows_(model.pane,
+            [this] {
+              if (isVisible()) item_->Changed();
+            }),
       heads_(new Heads(*this)),
       below_(new QPushButton(this)) {
   setAccessibleName(tr("Spots"));
@@ -149,8 +152,6 @@ QRect SpotView::PlaceOf(Number row) const {
   return {0, top, viewport()->width(), height};
 }
 
-QRect SpotView::HeadPlace() const { return heads_->geometry(); }
-
 std::optional<SpotView::Number> SpotView::RowAt(QPoint place) const {
   if (place.y() < paintedTop_) return std::nullopt;
   const Number row = paintedFirst_ + (place.y() - paintedTop_) / painter_.RowHeight();
@@ -231,6 +232,7 @@ void SpotView::focusInEvent(QFocusEvent* event) {
 
 void SpotView::focusOutEvent(QFocusEvent* event) {
   QAbstractScrollArea::focusOutEvent(event);
+  Release();  // whoever took the focus gets the button's release too
   viewport()->update();
 }
 
@@ -307,7 +309,9 @@ void SpotView::mouseMoveEvent(QMouseEvent* event) {
   if (pressed_ && row) Choose(*row, true);
 }
 
-void SpotView::mouseReleaseEvent(QMouseEvent*) {
+void SpotView::mouseReleaseEvent(QMouseEvent*) { Release(); }
+
+void SpotView::Release() {
   pressed_ = false;
   item_->Changed();
 }

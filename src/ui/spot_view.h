@@ -35,11 +35,12 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   // The one that the keys start from; it is among those chosen. None at first.
   std::optional<Number> Current() const { return current_; }
   bool IsChosen(Number row) const;
+  // Of a separator: how many spots there are down to the next one.
+  std::size_t SpotsBehind(Number stars) const;
   // Where a row stands in the viewport, in sight or not.
   QRect PlaceOf(Number row) const;
   // The row at that place of the picture that the user looks at.
   std::optional<Number> RowAt(QPoint place) const;
-  QRect HeadPlace() const;
 
   bool Find(const QString& text, Way way) override;
 
@@ -69,10 +70,10 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   void Go(Number to, bool choosing);
   void Choose(Number row, bool extending);
   void BringInSight(Number row);
+  void Release();
   void Copy() const;
   Number FirstInSight() const;
   int RowsInSight() const;
-  std::size_t SpotsBehind(Number stars) const;
   SpotColours Colours() const;
 
   Model model_;

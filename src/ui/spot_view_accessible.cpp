@@ -3,8 +3,8 @@
 #include <QAccessibleWidget>
 #include <QHash>
 
-#include "ui/spot_speech.h"
 #include "ui/spot_view.h"
+#include "ui/spot_words.h"
 
 namespace ui {
 namespace {
@@ -30,9 +30,10 @@ class AccessibleRow : public QAccessibleInterface {
 
   QString text(QAccessible::Text kind) const override {
     if (!isValid()) return {};
-    if (kind == QAccessible::Name) return SpokenRow(view_.Rows().Row(row_));
-    if (kind == QAccessible::Description) return SpokenRest(view_.Rows().Row(row_));
-    return {};
+    const spots::TableRow& row = view_.Rows().Row(row_);
+    if (kind == QAccessible::Name)
+      return row.IsStars() ? NewSince(row, view_.SpotsBehind(row_)) : SpokenRow(row);
+    return kind == QAccessible::Description && !row.IsStars() ? SpokenRest(row) : QString();
   }
   void setText(QAccessible::Text, const QString&) override {}
 

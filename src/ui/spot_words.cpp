@@ -1,4 +1,4 @@
-#include "ui/spot_speech.h"
+#include "ui/spot_words.h"
 
 #include <QObject>
 
@@ -27,8 +27,14 @@ QString SpokenTime(std::string_view time) {
 
 }  // namespace
 
+QString NewSince(const spots::TableRow& stars, std::size_t spotsBehind) {
+  return QObject::tr("%1 new since %2:%3")
+      .arg(spotsBehind)
+      .arg(stars.Minute() / 60, 2, 10, QLatin1Char('0'))
+      .arg(stars.Minute() % 60, 2, 10, QLatin1Char('0'));
+}
+
 QString SpokenRow(const spots::TableRow& row) {
-  if (row.IsStars()) return QObject::tr("New from here on");
   const spots::RowParts parts = spots::PartsOf(row.Text());
   if (parts.call.empty()) return OneLine(row.Text(), kLongest);
   return QObject::tr("%1, %2, %3, spotter %4")
