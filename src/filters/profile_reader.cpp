@@ -59,7 +59,7 @@ bool ProfileReader::StatUser(std::string_view line) {
   }
   ReadFilterAnswers(line);
   const auto entry = EntryOf(line);
-  if (entry && phase_ == Phase::Closed && OpensReport(*entry, settings_.MyCall)) {
+  if (entry && phase_ != Phase::Open && OpensReport(*entry, settings_.MyCall)) {
     phase_ = Phase::Open;
     report_ = {};
   }

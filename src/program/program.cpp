@@ -39,7 +39,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .onEnding = [this] { profileReader.Forget(); },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed}),
-      spotPipeline(platform.scheduler, calendar, settings,
+      spotPipeline(platform_.scheduler, calendar, settings,
                    {.nodeFacts = [this] { return NodeFacts(); },
                     .sendSettlingLine = [this] { session.outgoing.Send(""); }}),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
@@ -59,11 +59,19 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       linkCondition_(conditions, session),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
+      debuggingTicked_(DebuggingOn.Click.Add([this] { WriteDebugCfg(DebuggingOn.Value.Get()); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
-  session.timers.SetDuty(TimerId::WriteCfg, [this] {
-    session.timers.Disable(TimerId::WriteCfg);
-    WriteCfg();
-  });
+  session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
+}
+
+spots::NodeFacts Program::NodeFacts() const {
+  const session::SessionState& state = session.state;
+  return {.IsClx = state.IsClx(),
+          .IsWinCluster = state.IsWinCluster(),
+          .KeepsLeadingBlanks = state.IsSkimmer(),
+          .Ar17Active = state.ArpcAsked,
+          .Ar17Refused = state.Ar17Refused(),
+          .SessionUp = state.LoggedIn};
 }
 
 session::DefaultNode Program::DefaultNode() const {
@@ -92,9 +100,9 @@ void Program::ApplySettings() {
   session.intake.stopLists.Build(settings.MyCall);
   session.linkText.Tick();
   userInfo.Refresh();
+  userSettings.Take(settings);
   appearance.Load();
   textSizes.Load();
-  userSettings.Take(settings);
   CaptionSetup();
 }
 
@@ -122,16 +130,6 @@ void Program::CaptionSetup() {
       (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
       (node.empty() ? "" : "  (" + node + (word.empty() ? "" : " ") + std::string(word) + ")"));
   views.FollowNode();
-}
-
-spots::NodeFacts Program::NodeFacts() const {
-  const session::SessionState& state = session.state;
-  return {.IsClx = state.IsClx(),
-          .IsWinCluster = state.IsWinCluster(),
-          .KeepsLeadingBlanks = state.IsSkimmer(),
-          .Ar17Active = false,
-          .Ar17Refused = state.Ar17Refused(),
-          .SessionUp = state.LoggedIn};
 }
 
 // The second of two linked copies is fed through the first, in the extended line forms.

@@ -68,6 +68,7 @@ class Program {
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;
+  core::Check DebuggingOn;         // the next run tells of each failure at once
   core::Check MultiNode;           // two copies are linked; its caption says which one this is
   core::Property<FormPlace> form;  // set by the window as the user moves it, and at start
 
@@ -109,6 +110,7 @@ class Program {
   platform::Task<> ReadDebugCfg();
   platform::Task<> BringDataFiles();
   platform::Task<> ReadCfg();
+  platform::Task<> StartLogger();
   platform::Task<> ReadPassword();
   platform::Task<> PrepareSession();
   platform::Task<> EndLoading();
@@ -116,15 +118,18 @@ class Program {
   platform::Task<> AutoStart();
 
   platform::Task<> ShutDown(Close how);
+  platform::Task<bool> MayEnd();
   platform::Task<bool> UserAgrees();
+  platform::Task<bool> MailIsDone();
   bool WindowHasMoved() const;
   void Quit();
 
+  void WriteDebugCfg(bool on);
+  spots::NodeFacts NodeFacts() const;
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
   void ShowTncCluster();
   std::string LinkWord() const;
-  spots::NodeFacts NodeFacts() const;
   void ApplySettings();
   void WriteCfg();
   void SaveUserInfo(const std::string& password);
@@ -137,6 +142,7 @@ class Program {
   LinkCondition linkCondition_;
   platform::Registration autoReconnectTicked_;
   platform::Registration saved_;
+  platform::Registration debuggingTicked_;
   platform::Tasks tasks_;
 };
 

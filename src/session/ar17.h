@@ -31,6 +31,8 @@ class Ar17 {
 
   // The call has gone out: a node that names no software counts as refusing after some seconds.
   void LoggedIn();
+  // The session has ended.
+  void Forget() { overdue_.Release(); }
 
   // A line handler; true claims the line.
   bool ArpcReply(std::string_view line);

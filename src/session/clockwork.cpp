@@ -19,8 +19,7 @@ Clockwork::Clockwork(Timers& timers, const core::Calendar& calendar, SessionStat
       calendar_(calendar),
       state_(state),
       outgoing_(outgoing),
-      needs_(std::move(needs)),
-      day_(calendar.Date2Julian()) {
+      needs_(std::move(needs)) {
   timers_.SetDuty(TimerId::Clock, [this] { Second(); });
   timers_.SetDuty(TimerId::Minute, [this] { Minute(); });
   timers_.SetDuty(TimerId::Updater, [this] { PollVersion(); });
@@ -35,6 +34,7 @@ void Clockwork::Second() {
   needs_.second();
   const auto hour = std::chrono::floor<std::chrono::hours>(calendar_.GmtNow().time_since_epoch());
   if (std::exchange(hour_, hour) != hour) needs_.work.HourlyWork();
+  if (!day_) day_ = calendar_.Date2Julian();
   PollDirectory();
 }
 
@@ -48,7 +48,7 @@ void Clockwork::PollDirectory() {
 void Clockwork::Minute() {
   needs_.work.Sun();
   const int today = calendar_.Date2Julian();
-  if (std::exchange(day_, today) == today) return;
+  if (std::exchange(day_, today).value_or(today) == today) return;
   needs_.work.DayChange();
   needs_.work.EnableLoggingSpots();
 }

@@ -41,7 +41,7 @@ class Clockwork {
   Outgoing& outgoing_;
   Needs needs_;
   std::optional<std::chrono::hours> hour_;
-  int day_;
+  std::optional<int> day_;  // from the first second on: the user's offset is known then
 };
 
 }  // namespace session

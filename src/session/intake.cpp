@@ -73,7 +73,7 @@ void Intake::InputCharacter(std::uint8_t byte) {
 
 LineBuffer::Prompts Intake::PromptsNow() const {
   if (state_.TncMode) return LineBuffer::Prompts::Tnc;
-  return state_.LoginFinished ? LineBuffer::Prompts::None : LineBuffer::Prompts::Login;
+  return state_.LoginRuns() ? LineBuffer::Prompts::Login : LineBuffer::Prompts::None;
 }
 
 void Intake::FinishLine() {

@@ -54,6 +54,8 @@ void LoginSequence::Run(std::string_view line) {
     state_.NodeSentPassword = true;
     return;
   }
+  if (state_.RcvdPrompt(line) || IsOwnPrompt(line, state_.LoginCall(settings_.MyCall)))
+    state_.Prompted = true;
   if (!state_.LoginFinished) {
     FirstSteps(line);
   } else if (!std::exchange(state_.SunDone, true)) {
@@ -72,14 +74,10 @@ void LoginSequence::FirstSteps(std::string_view line) {
       SpiderSteps(line);
       break;
     case NodeKind::ArCluster:
-      ArSteps(line);
-      break;
     case NodeKind::WinCluster:
     case NodeKind::Skimmer:
     case NodeKind::Unknown:
-      // Nobody may draw out the password behind the first prompt.
-      if (state_.RcvdPrompt(line) || IsOwnPrompt(line, state_.LoginCall(settings_.MyCall)))
-        state_.LoginFinished = true;
+      ArSteps(line);
       break;
   }
 }
@@ -111,7 +109,7 @@ platform::Task<> LoginSequence::AskAr() {
 bool LoginSequence::ArFirstPrompt(std::string_view line) {
   if (!state_.IsArCluster() || !state_.LoggedIn || !settings_.AutoFilter) return false;
   if (state_.FirstPromptDone || !state_.RcvdPrompt(line)) return false;
-  state_.FirstPromptDone = true;
+  state_.FirstPromptDone = state_.Prompted = true;
   outgoing_.Send("sh/filter");
   outgoing_.Send("sh/settings");
   state_.RequestedSettings = true;

@@ -122,11 +122,8 @@ bool ProfileHints::AnswerYesOrNo(std::string_view line) {
 bool ProfileHints::AnswerPlaceholder(std::string_view line) {
   if (InStrIgnoringCase(line, "please") == 0 && InStrIgnoringCase(line, "use ") == 0) return false;
   for (const Command& command : kCommands) {
-    const std::string placeholder = std::string(command.word) + " <";
-    const core::Position at = InStrIgnoringCase(line, placeholder);
-    if (at == 0) continue;
-    const std::string shown(core::Mid(line, at, core::Len(command.word)));
-    return Answer(command.field, shown + " ");
+    const std::string word(command.word);
+    if (InStrIgnoringCase(line, word + " <") > 0) return Answer(command.field, word + " ");
   }
   return false;
 }

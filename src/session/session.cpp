@@ -68,6 +68,8 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                          if (settings.LocalNetwork) localNetwork.OpenComm2();
                        },
                    .onFault = needs.onFault}),
+      modeSwitch(platform.scheduler, platform.dialogs, settings, state, connection, timers,
+                 {.openNodes = needs.openNodes, .onFault = needs.onFault}),
       login(settings, state, outgoing, connection, duelling, tncLink),
       loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
       loginSequence(settings, state, outgoing, intake, needs.requests,
@@ -98,7 +100,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
   });
   loginText.onKind = needs.onNodeKnown;
   outgoing.onSent = [this](std::string_view text) {
-    if (state.IsSpider()) echoes_.Sent(text);
+    if (state.LoggedIn) echoes_.Sent(text);  // what the login asks for is no command
   };
   // A change is shown behind the rule that makes it, not with the next second.
   phaseShown_ =
@@ -115,15 +117,18 @@ void Session::LoggedIn() {
 }
 
 void Session::Ended() {
+  ar17.Forget();
   profileHints.Forget();
   echoes_.Forget();
   macros.Disconnected();
   latency.Disconnected();
 }
 
+// The echo of a changed prompt ends like a prompt, and is none.
 bool Session::IsEcho(std::string_view line) {
+  if (state.IsSpider() && echoes_.IsEcho(line)) return true;
   if (EndsInPrompt(line, NodeKind::Spider, "dxspider >")) echoes_.Prompted();
-  return state.IsSpider() && echoes_.IsEcho(line);
+  return false;
 }
 
 }  // namespace session

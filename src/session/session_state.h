@@ -17,15 +17,16 @@ struct NodeState {
   NodeKind Kind = NodeKind::Unknown;
   std::string NodePrompt{DialectOf(NodeKind::Unknown).prompt};
   std::string ShowDxCommand{DialectOf(NodeKind::Unknown).showDx};
-  bool UseMyDx = false;          // the node lists spots through the user's own filter
-  bool LoginTextDone = false;    // the first prompt behind the login has come
-  bool LoginFinished = false;    // the login sequence is complete: prompts for it mean nothing now
-  bool SunDone = false;          // the sun times have been asked for
-  bool FirstPromptDone = false;  // an AR-Cluster has been asked for filters and settings
-  bool ArpcAsked = false;        // the node sends extended spot lines
-  bool ArpcRefused = false;      // the node has said, or its software says, that it does not
-  bool Ar17Overdue = false;      // no software was named in time to wait for them
-  bool NoEmailSet = false;       // the node greets with the name: it knows the operator
+  bool UseMyDx = false;            // the node lists spots through the user's own filter
+  bool LoginTextDone = false;      // the first prompt behind the login has come
+  bool LoginFinished = false;      // the login sequence is complete
+  bool Prompted = false;           // the node has prompted behind the login
+  bool SunDone = false;            // the sun times have been asked for
+  bool FirstPromptDone = false;    // an AR-Cluster has been asked for filters and settings
+  bool ArpcAsked = false;          // the node sends extended spot lines
+  bool ArpcRefused = false;        // the node has said, or its software says, that it does not
+  bool Ar17Overdue = false;        // no software was named in time to wait for them
+  bool NoEmailSet = false;         // the node greets with the name: it knows the operator
   bool RequestedSettings = false;  // "sh/settings" has been sent
   bool NodeSentPassword = false;   // the node has asked for the password behind the login
 };
@@ -63,6 +64,9 @@ struct SessionState : NodeState {
 
   // Whether no extended spot lines are to be waited for.
   bool Ar17Refused() const;
+  // Whether what the node asks at a login still means something. Nobody may draw out the password
+  // behind it.
+  bool LoginRuns() const { return !LoginFinished && !Prompted; }
   // Whether the line is the node's prompt.
   bool RcvdPrompt(std::string_view line) const { return EndsInPrompt(line, Kind, NodePrompt); }
   // The same, where a DXSpider's prompt counts too that the node has not been told to change yet.

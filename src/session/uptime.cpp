@@ -6,13 +6,14 @@ namespace session {
 namespace {
 
 constexpr float kMinutesADay = 1440;
+constexpr float kMinutesAnHour = 60;
 
 float MinutesIn(char unit) {
   switch (unit) {
     case 'd':
       return kMinutesADay;
     case 'h':
-      return 60;
+      return kMinutesAnHour;
     case 'm':
       return 1;
     case 's':
@@ -39,10 +40,12 @@ std::optional<float> OfClock(std::string_view text) {
   const core::Position colon = core::InStr(text, ":");
   const core::Position blank = core::InStr(text, " ");
   if (colon == 0 || blank == 0 || blank > colon) return {};
-  const int days = core::ValInt(core::Left(text, blank));
-  const int hours = core::ValInt(core::Mid(text, blank + 1, colon - blank - 1));
-  const int minutes = core::ValInt(core::Mid(text, colon + 1, 2));
-  return static_cast<float>(days) * kMinutesADay + static_cast<float>(hours * 60 + minutes);
+  const auto number = [](std::string_view digits) {
+    return static_cast<float>(core::ValInt(digits));  // hours may be too many for minutes in an int
+  };
+  return number(core::Left(text, blank)) * kMinutesADay +
+         number(core::Mid(text, blank + 1, colon - blank - 1)) * kMinutesAnHour +
+         number(core::Mid(text, colon + 1, 2));
 }
 
 }  // namespace

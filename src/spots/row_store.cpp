@@ -10,7 +10,6 @@ std::size_t SizeOf(const TableRow& row) { return row.Text().size() + 2; }
 void RowStore::Append(const TableRow& row) {
   rows_.push_back(row);
   characters_ += SizeOf(row);
-  if (row.IsStars()) ++stars_;
 }
 
 std::size_t RowStore::KeepLast(std::size_t characters) {
@@ -32,22 +31,17 @@ std::size_t RowStore::RemoveRows(std::size_t rows) {
   std::size_t spots = rows;
   for (; rows > 0; --rows) {
     characters_ -= SizeOf(rows_.front());
-    if (rows_.front().IsStars()) {
-      --stars_;
-      --spots;
-    }
+    if (rows_.front().IsStars()) --spots;
     rows_.pop_front();
   }
   return spots;
 }
 
 void RowStore::ClearStars() {
-  if (stars_ == 0) return;
   std::erase_if(rows_, [this](const TableRow& row) {
     if (row.IsStars()) characters_ -= SizeOf(row);
     return row.IsStars();
   });
-  stars_ = 0;
 }
 
 }  // namespace spots

@@ -30,7 +30,6 @@ class RowStore {
 
   std::deque<TableRow> rows_;
   std::size_t characters_ = 0;
-  std::size_t stars_ = 0;
 };
 
 }  // namespace spots

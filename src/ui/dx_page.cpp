@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 
 #include "ui/bind.h"
-#include "ui/spot_view_accessible.h"
 
 namespace ui {
 namespace {
@@ -17,7 +16,6 @@ constexpr int kFindWidth = 200;
 
 DxPage::DxPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent)
     : QWidget(parent) {
-  MakeSpotViewsAccessible();
   spots::SpotTable& table = program.spotPipeline.table;
   spots_ = new SpotView({.pane = table.RtbDx,
                          .empty = program.dxTab.lblEmpty,

@@ -10,6 +10,7 @@
 #include "ui/bind.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
+#include "ui/spot_view_accessible.h"
 
 namespace ui {
 namespace {
@@ -52,6 +53,7 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
             }),
       heads_(new Heads(*this)),
       below_(new QPushButton(this)) {
+  MakeSpotViewsAccessible();
   setAccessibleName(tr("Spots"));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);

@@ -2,8 +2,8 @@
 
 namespace ui {
 
-// Lets a screen reader go through the rows of every table of spots: call it once before the first
-// of them is made. Further calls do nothing.
+// Lets a screen reader go through the rows of every table of spots, from the first on: to be called
+// before one says its name. Further calls do nothing.
 void MakeSpotViewsAccessible();
 
 }  // namespace ui

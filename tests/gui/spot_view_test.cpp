@@ -15,7 +15,6 @@
 #include "platform/sim/world.h"
 #include "spots/classic_row.h"
 #include "ui/fonts.h"
-#include "ui/spot_view_accessible.h"
 
 namespace gui {
 namespace {
@@ -46,7 +45,6 @@ class PaintLog : public QObject {
 class SpotViewTest : public testing::Test {
  protected:
   void SetUp() override {
-    ui::MakeSpotViewsAccessible();
     view.resize(800, 300);
     view.show();
     QApplication::setActiveWindow(&view);

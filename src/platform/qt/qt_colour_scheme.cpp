@@ -39,8 +39,9 @@ QtColourScheme::QtColourScheme(Tell tell, const QDBusConnection& bus)
 }
 
 void QtColourScheme::Ask(QDBusConnection bus) {
-  qRegisterMetaType<QDBusVariant>("QDBusVariant");  // before it can stand in a slot
-  bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+  qRegisterMetaType<QDBusVariant>();  // else the slot can't be tied by its signature
+  // From any sender: to watch for one by its name the bus would have to be asked, and waited for.
+  bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
   auto read = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
   read << kSpace << kKey;
