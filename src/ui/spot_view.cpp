@@ -53,7 +53,7 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
             }),
       heads_(new Heads(*this)),
       below_(new QPushButton(this)) {
-  MakeSpotViewsAccessible();
+  MakeSpotViewsAccessible();  // before Qt asks who speaks for it
   setAccessibleName(tr("Spots"));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);

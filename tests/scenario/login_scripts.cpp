@@ -125,18 +125,19 @@ Script Spider155() {
       .keepAlive = ""};
 }
 
-// Known before its prompt, so the password follows the call unasked. It writes in lower case.
+// Known before its prompt, so the password follows the call unasked. It is written to in lower
+// case, as it writes itself; the password stays as it is.
 Script Clx() {
   return {.name = "Clx",
-          .password = "secret",
+          .password = "Secret",
           .turns =
               {
-                  {{"Welcome to N0NODE running CLX 5.20\r\nlogin: "}, {"K1TST-2", "secret"}},
+                  {{"Welcome to N0NODE running CLX 5.20\r\nlogin: "}, {"k1tst-2", "Secret"}},
                   {{"\r\n de k1tst-2 n0node 20-Nov-2026\r\n"
                     "Use SET/NAME <your name>, please.\r\n"
                     "please enter ur location using SET/LOCATION and SET/QTH\r\n"
                     "k1tst-2 de n0node 20-Nov-2026 2101Z clx >\r\n"},
-                   {"set/name ANNA", "SET/LOCATION 42 17 N 83 44 W"}},
+                   {"set/name anna", "set/location 42 17 n 83 44 w"}},
               },
           .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE CLX)",
                      .txtNode = "***Connected to: N0NODE",
@@ -249,7 +250,8 @@ Script Skimmer() {
       .keepAlive = ""};
 }
 
-// Passes a Skimmer's spots on and never says what it is: its login text has no end.
+// Passes a Skimmer's spots on and never says what it is: its login text has no end. A spot that
+// comes while the program still waits for a name is dropped, and asks the node on.
 Script Relay() {
   return {.name = "RelayWithoutAName",
           .turns =
@@ -258,7 +260,7 @@ Script Relay() {
                   {{"\r\nHello K1TST-2\r\nK1TST-2 de K2RLY 20-Nov-2026 2101Z >\r\n"
                     "DX de K1ABC-#:   14025.0  K2DEF          CW 12 dB  CQ           2101Z\r\n"
                     "two users\r\n"},
-                   {}},
+                   {""}},
               },
           .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (K2RLY)",
                      .txtNode = "***Connected to: K2RLY",

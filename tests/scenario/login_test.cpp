@@ -38,10 +38,11 @@ TEST_P(Login, EndsWithItsTitleItsTextAndItsFlags) {
 
 TEST_P(Login, RawViewShowsWhatWasSentAndHidesThePassword) {
   const Played played = Play(GetParam());
+  const std::string& password = GetParam().password;
   Lines expected;
   for (const Lines& answers : played.answers)
     for (const std::string& line : answers)
-      expected.push_back("   <- " + (line == "secret" ? "********" : line));
+      expected.push_back("   <- " + (line.empty() || line != password ? line : "********"));
   Lines shown;
   std::copy_if(played.rawView.begin(), played.rawView.end(), std::back_inserter(shown),
                [](const std::string& line) { return line.starts_with("   <- "); });
@@ -108,21 +109,36 @@ TEST(LoginTo157, PromptsThatNobodyAskedForAreNotAnswered) {
   }
 }
 
+TEST(LoginToARelay, SpotsAreTakenFromFiveSecondsBehindTheLogin) {
+  const Script& script = LoginScript("RelayWithoutAName");
+  Stage stage(script);
+  stage.Play(script.turns);
+  const auto& shown = stage.program->spotPipeline.SpotsShown;
+  EXPECT_EQ(shown, 0u);
+  const std::string spot =
+      "DX de K1ABC-#:   14025.0  K2DEF          CW 12 dB  CQ           2101Z\r\n";
+  EXPECT_EQ(stage.Say({spot}), Lines());
+  EXPECT_EQ(shown, 1u);
+}
+
 // Two programs with one call throw each other out: the third login goes out under another SSID.
 TEST(LoginInADuel, SecondCloseByTheNodeChangesTheNextLoginAndTheUserIsTold) {
   const Script& script = LoginScript("Spider157");
   Stage stage(script);
+  const program::MessageForm& frmMsg = stage.program->messageForm;
   for (std::size_t sessions = 1; sessions <= 2; ++sessions) {
     stage.Play(script.turns);
     stage.node.Close();
     stage.desk.world.RunUntil([&] { return stage.node.called.size() == sessions + 1; });
     stage.desk.world.Run(1s);
-    EXPECT_TRUE(stage.desk.world.dialogs.shown.empty());
+    EXPECT_FALSE(frmMsg.Open.Get());
   }
   EXPECT_THAT(stage.Say({"login: "}), ElementsAre(MatchesRegex("K1TST-[0-9]+")));
-  ASSERT_EQ(stage.desk.world.dialogs.shown.size(), 1u);
-  EXPECT_EQ(stage.desk.world.dialogs.shown[0].title, "Duelling Connections Suspected");
+  EXPECT_TRUE(frmMsg.Open.Get());
+  EXPECT_EQ(frmMsg.lblHeading.Caption.Get(), "Duelling Connections Suspected");
   EXPECT_EQ(stage.program->settings.MyCall, "K1TST-2");
+  stage.desk.world.Run(60s);
+  EXPECT_FALSE(frmMsg.Open.Get());
 }
 
 // Before a node has said what it is.

@@ -54,6 +54,19 @@ QWidget* MainWindow() {
   return nullptr;
 }
 
+// What is shown before its window would stand behind it.
+bool WindowIsToCome() {
+  const QWidgetList all = QApplication::topLevelWidgets();
+  return MainWindow() == nullptr && std::ranges::any_of(all, [](QWidget* widget) {
+           return qobject_cast<QMainWindow*>(widget) != nullptr;
+         });
+}
+
+void OpenOverWindow(QMessageBox& box) {
+  box.setParent(MainWindow(), box.windowFlags());
+  box.open();
+}
+
 QMessageBox* MakeBox(const Message& message) {
   auto* const box = new QMessageBox(MainWindow());
   box->setAttribute(Qt::WA_DeleteOnClose);
@@ -102,7 +115,11 @@ std::shared_ptr<QtDialogs::Shown> QtDialogs::Show(Message message) {
   });
   // A window that goes takes its boxes along, and they say nothing else.
   QObject::connect(box, &QObject::destroyed, &receiver_, [this, shown] { Close(*shown); });
-  box->open();
+  if (WindowIsToCome())
+    QMetaObject::invokeMethod(
+        box, [box] { OpenOverWindow(*box); }, Qt::QueuedConnection);
+  else
+    box->open();
   return shown;
 }
 

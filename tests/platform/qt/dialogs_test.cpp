@@ -187,6 +187,15 @@ TEST_F(QtDialogsTest, AnAskerThatIsCancelledLeavesTheBoxOpen) {
   EXPECT_THAT(answers, IsEmpty());
 }
 
+TEST_F(QtDialogsTest, ABoxThatIsAskedForBeforeItsWindowIsShownLiesOverItAllTheSame) {
+  QMainWindow window;
+  dialogs.Tell(Plain("early"));
+  EXPECT_TRUE(Boxes().isEmpty());
+  window.show();
+  ASSERT_TRUE(PumpUntil([] { return Boxes().size() == 1 || QApplication::activeModalWidget(); }));
+  EXPECT_EQ(QApplication::activeModalWidget()->parentWidget(), &window);
+}
+
 TEST_F(QtDialogsTest, ABoxLiesOverTheMainWindow) {
   QMainWindow window;
   window.show();
