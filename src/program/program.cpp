@@ -53,6 +53,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       }),
       views({.winCluster = [this] { return session.state.Kind == session::NodeKind::WinCluster; },
              .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+      dxTab(views, spotPipeline.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
       linkCondition_(conditions, session),
@@ -61,20 +62,6 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       debuggingTicked_(DebuggingOn.Click.Add([this] { WriteDebugCfg(DebuggingOn.Value.Get()); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
-  FollowViews();
-}
-
-// The table counts what comes while another view is on show, and says so on its tab.
-void Program::FollowViews() {
-  dxCaption_ = spotPipeline.table.TabCaption.Observe(
-      [this](const std::string& caption) { views.tab[Views::Dx].Caption.Set(caption); });
-  viewShown_ = views.onShow.Observe([this](int view) {
-    spots::SpotTable& table = spotPipeline.table;
-    if (view == Views::Dx)
-      table.EnterTab();
-    else if (table.OnShow())
-      table.LeaveTab();
-  });
 }
 
 spots::NodeFacts Program::NodeFacts() const {

@@ -17,6 +17,7 @@
 #include "program/appearance.h"
 #include "program/chain.h"
 #include "program/conditions.h"
+#include "program/dx_tab.h"
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
@@ -97,6 +98,7 @@ class Program {
   MessageForm messageForm;  // frmMsg
   Conditions conditions;
   Views views;
+  DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
 
@@ -122,7 +124,6 @@ class Program {
   bool WindowHasMoved() const;
   void Quit();
 
-  void FollowViews();
   void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;
   session::DefaultNode DefaultNode() const;
@@ -142,8 +143,6 @@ class Program {
   platform::Registration autoReconnectTicked_;
   platform::Registration saved_;
   platform::Registration debuggingTicked_;
-  platform::Registration dxCaption_;
-  platform::Registration viewShown_;
   platform::Tasks tasks_;
 };
 
