@@ -55,12 +55,28 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
              .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
+      startOptions(settings, NeedsOfStartOptions()),
       linkCondition_(conditions, session),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
+      linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
   FollowViews();
+}
+
+// A link that is up has been through its login: what is ticked now is for the next one.
+StartOptions::Needs Program::NeedsOfStartOptions() {
+  return {.delayedWriteCfg = [this] { DelayedWriteCfg(); },
+          .askFilters =
+              [this] {
+                if (session.state.LoggedIn) session.outgoing.Send("SH/FILTER");
+              },
+          .missedSpots =
+              [this](bool wanted) {
+                session::SessionState& state = session.state;
+                if (!state.LoggedIn) state.WantMissedSpots = state.FirstConnect = wanted;
+              }};
 }
 
 // The table counts what comes while another view is on show, and says so on its tab.
@@ -74,6 +90,15 @@ void Program::FollowViews() {
     else if (table.OnShow())
       table.LeaveTab();
   });
+  viewChanged_ = views.Changed.Add([this](const Views::Change&) {
+    session.macros.fraMacros.Visible.Set(session.state.IsArCluster());
+  });
+}
+
+void Program::ChooseLinking() {
+  settings.Linking = MultiNode.Value.Get();
+  CaptionSetup();
+  DelayedWriteCfg();
 }
 
 spots::NodeFacts Program::NodeFacts() const {
@@ -115,6 +140,7 @@ void Program::ApplySettings() {
   userSettings.Take(settings);
   appearance.Load();
   textSizes.Load();
+  startOptions.Load();
   CaptionSetup();
 }
 

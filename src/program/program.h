@@ -21,6 +21,7 @@
 #include "program/message_form.h"
 #include "program/offset_form.h"
 #include "program/stand_ins.h"
+#include "program/start_options.h"
 #include "program/text_sizes.h"
 #include "program/user_info.h"
 #include "program/views.h"
@@ -98,6 +99,7 @@ class Program {
   Views views;
   Appearance appearance;
   TextSizes textSizes;
+  StartOptions startOptions;
 
  private:
   struct Step;
@@ -118,7 +120,9 @@ class Program {
   bool WindowHasMoved() const;
   void Quit();
 
+  StartOptions::Needs NeedsOfStartOptions();
   void FollowViews();
+  void ChooseLinking();
   spots::NodeFacts NodeFacts() const;
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
@@ -135,9 +139,11 @@ class Program {
   bool configurationIsNew_ = false;
   LinkCondition linkCondition_;
   platform::Registration autoReconnectTicked_;
+  platform::Registration linkingTicked_;
   platform::Registration saved_;
   platform::Registration dxCaption_;
   platform::Registration viewShown_;
+  platform::Registration viewChanged_;
   platform::Tasks tasks_;
 };
 
