@@ -47,6 +47,7 @@ void LinkBar::Lay() {
   row->addWidget(lamp_);
   row->addWidget(node_);
   row->addWidget(software_);
+  row->addSpacing(8);
   row->addWidget(state_);
   row->addWidget(age_);
   row->addSpacing(8);

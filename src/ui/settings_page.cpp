@@ -123,19 +123,17 @@ void SettingsPage::FillStart(QVBoxLayout* group, program::StartOptions& model, F
 
 void SettingsPage::FillKeepAlive(QVBoxLayout* group, session::Session& session, Frames& frames) {
   session::KeepAlivePanel& model = session.keepAlivePanel;
-  QHBoxLayout* when = AddRow(group);
-  AddChoice(when, tr("&Minutes"), tr("Keep-alive minutes, 0 is off"), model.optKA, frames);
-  AddChoice(when, tr("&Watch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
+  QHBoxLayout* row = AddRow(group);
+  AddChoice(row, tr("&Minutes"), tr("Keep-alive minutes, 0 is off"), model.optKA, frames);
+  AddChoice(row, tr("&Watch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
             model.optDirection, frames);
-  when->addStretch();
-  QHBoxLayout* where = AddRow(group);
-  AddChoice(where, tr("St&ored for"), tr("Keep-alive is stored for Telnet or TNC"), model.optMode,
+  AddChoice(row, tr("St&ored for"), tr("Keep-alive is stored for Telnet or TNC"), model.optMode,
             frames);
   auto* apply = new QPushButton(page_);
   apply->setAccessibleName(tr("Apply keep-alive"));
   BindButton(apply, model.cmdExit, frames);
-  where->addWidget(apply);
-  where->addStretch();
+  row->addWidget(apply);
+  row->addStretch();
   AddCheck(group, session.connection.AutoReconnect, frames);
 }
 
