@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -28,21 +29,56 @@ std::string MixedStream(int lines) {
   return stream;
 }
 
-// From received bytes through framing, the whole chain and the raw view, logged in.
-void Intake(benchmark::State& state) {
-  platform::sim::World world;
-  program::Program program(world.platform(), "/home/op/molva", {.quit = [] {}, .seed = 1});
-  program.Start();
-  world.Run(std::chrono::seconds{1});
-  program.session.state.LoggedIn = true;
-  constexpr int kLines = 10'000;
-  const std::string stream = MixedStream(kLines);
-  for (auto _ : state)
+// A program that has logged in to a DXSpider.
+class Running {
+ public:
+  Running() : program(world.platform(), "/home/op/molva", {.quit = [] {}, .seed = 1}) {
+    program.Start();
+    world.Run(std::chrono::seconds{1});
+    program.session.state.LoggedIn = true;
+    program.session.state.Recognise(session::NodeKind::Spider);
+    program.session.state.LoginFinished = true;
+  }
+  void Take(const std::string& stream) {
     for (const char byte : stream)
       program.session.intake.InputCharacter(static_cast<std::uint8_t>(byte));
+  }
+
+  platform::sim::World world;
+  program::Program program;
+};
+
+// From received bytes through framing, the whole chain, the raw view, the spot stores and the
+// table.
+void Intake(benchmark::State& state) {
+  Running running;
+  constexpr int kLines = 10'000;
+  const std::string stream = MixedStream(kLines);
+  for (auto _ : state) running.Take(stream);
   state.SetItemsProcessed(state.iterations() * kLines);
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(stream.size()));
+  state.counters["spots_shown"] = static_cast<double>(running.program.spotPipeline.SpotsShown);
 }
 BENCHMARK(Intake)->Unit(benchmark::kMillisecond);
+
+double ResidentMegabytes() {
+  std::ifstream statm("/proc/self/statm");
+  double total = 0, resident = 0;
+  statm >> total >> resident;
+  return resident * 4096 / 1e6;
+}
+
+// The memory that the process holds once the stores are full, and a million lines later.
+void MillionLines(benchmark::State& state) {
+  Running running;
+  const std::string stream = MixedStream(10'000);
+  for (auto _ : state) {
+    for (int i = 0; i < 10; ++i) running.Take(stream);
+    state.counters["MB_at_100k_lines"] = ResidentMegabytes();
+    for (int i = 0; i < 100; ++i) running.Take(stream);
+    state.counters["MB_a_million_later"] = ResidentMegabytes();
+  }
+}
+BENCHMARK(MillionLines)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace

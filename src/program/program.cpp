@@ -53,6 +53,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       }),
       views({.winCluster = [this] { return session.state.Kind == session::NodeKind::WinCluster; },
              .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+      dxTab(views, spotPipeline.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
       startOptions(settings, NeedsOfStartOptions()),
@@ -60,9 +61,12 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),
+      macrosFollowing_(views.Changed.Add([this](const Views::Change&) {
+        session.macros.fraMacros.Visible.Set(session.state.IsArCluster());
+      })),
+      debuggingTicked_(DebuggingOn.Click.Add([this] { WriteDebugCfg(DebuggingOn.Value.Get()); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
-  FollowViews();
 }
 
 // A link that is up has been through its login: what is ticked now is for the next one.
@@ -77,22 +81,6 @@ StartOptions::Needs Program::NeedsOfStartOptions() {
                 session::SessionState& state = session.state;
                 if (!state.LoggedIn) state.WantMissedSpots = state.FirstConnect = wanted;
               }};
-}
-
-// The table counts what comes while another view is on show, and says so on its tab.
-void Program::FollowViews() {
-  dxCaption_ = spotPipeline.table.TabCaption.Observe(
-      [this](const std::string& caption) { views.tab[Views::Dx].Caption.Set(caption); });
-  viewShown_ = views.onShow.Observe([this](int view) {
-    spots::SpotTable& table = spotPipeline.table;
-    if (view == Views::Dx)
-      table.EnterTab();
-    else if (table.OnShow())
-      table.LeaveTab();
-  });
-  viewChanged_ = views.Changed.Add([this](const Views::Change&) {
-    session.macros.fraMacros.Visible.Set(session.state.IsArCluster());
-  });
 }
 
 void Program::ChooseLinking() {

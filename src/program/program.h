@@ -17,6 +17,7 @@
 #include "program/appearance.h"
 #include "program/chain.h"
 #include "program/conditions.h"
+#include "program/dx_tab.h"
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
@@ -68,6 +69,7 @@ class Program {
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;
+  core::Check DebuggingOn;         // the next run tells of each failure at once
   core::Check MultiNode;           // two copies are linked; its caption says which one this is
   core::Property<FormPlace> form;  // set by the window as the user moves it, and at start
 
@@ -97,6 +99,7 @@ class Program {
   MessageForm messageForm;  // frmMsg
   Conditions conditions;
   Views views;
+  DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
   StartOptions startOptions;
@@ -109,6 +112,7 @@ class Program {
   platform::Task<> ReadDebugCfg();
   platform::Task<> BringDataFiles();
   platform::Task<> ReadCfg();
+  platform::Task<> StartLogger();
   platform::Task<> ReadPassword();
   platform::Task<> PrepareSession();
   platform::Task<> EndLoading();
@@ -116,13 +120,15 @@ class Program {
   platform::Task<> AutoStart();
 
   platform::Task<> ShutDown(Close how);
+  platform::Task<bool> MayEnd();
   platform::Task<bool> UserAgrees();
+  platform::Task<bool> MailIsDone();
   bool WindowHasMoved() const;
   void Quit();
 
   StartOptions::Needs NeedsOfStartOptions();
-  void FollowViews();
   void ChooseLinking();
+  void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
@@ -140,10 +146,9 @@ class Program {
   LinkCondition linkCondition_;
   platform::Registration autoReconnectTicked_;
   platform::Registration linkingTicked_;
+  platform::Registration macrosFollowing_;
   platform::Registration saved_;
-  platform::Registration dxCaption_;
-  platform::Registration viewShown_;
-  platform::Registration viewChanged_;
+  platform::Registration debuggingTicked_;
   platform::Tasks tasks_;
 };
 

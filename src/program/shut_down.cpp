@@ -12,6 +12,8 @@ using platform::Answer;
 using platform::Delay;
 
 constexpr auto kClosingWait = 2000ms;
+constexpr auto kMailWait = 20ms;
+constexpr const char* kEndTitle = "Molva Desk - End Program";
 
 }  // namespace
 
@@ -25,9 +27,9 @@ void Program::RequestClose(Close how) {
 }
 
 platform::Task<> Program::ShutDown(Close how) {
-  if (how == Close::Ask && !settings.QuietExit) {
+  if (how == Close::Ask) {
     asking_ = true;
-    const bool agreed = co_await UserAgrees();
+    const bool agreed = co_await MayEnd();
     asking_ = false;
     if (!agreed || ending_) co_return;  // a signal to end asks nobody
   }
@@ -52,13 +54,42 @@ platform::Task<> Program::ShutDown(Close how) {
   Quit();
 }
 
+platform::Task<bool> Program::MayEnd() {
+  if (!settings.QuietExit) {
+    const bool agreed = co_await UserAgrees();
+    if (!agreed) co_return false;
+  }
+  const bool done = co_await MailIsDone();
+  co_return done;
+}
+
 platform::Task<bool> Program::UserAgrees() {
   platform::Message question{.title = "Molva Desk",
                              .text = "Do you really want to end this program? ",
                              .kind = platform::Message::Kind::Plain,
                              .answers = {Answer::Ok, Answer::Cancel}};
+  if (const int loggers = standIns.LoggersConnected(); loggers > 0) {
+    question.title = kEndTitle;
+    question.text += "\nThere are " + std::to_string(loggers) +
+                     " other logging programs connected.\n"
+                     "Ending this program will terminate their data feed.";
+    question.kind = platform::Message::Kind::Warning;
+  }
   const Answer answer = co_await platform_.dialogs.Ask(std::move(question));
   co_return answer == Answer::Ok;
+}
+
+platform::Task<bool> Program::MailIsDone() {
+  while (standIns.MailBusy()) {
+    platform::Message question{.title = kEndTitle,
+                               .text = "Can't close until CDO MSG completes.",
+                               .kind = platform::Message::Kind::Plain,
+                               .answers = {Answer::Ok, Answer::Cancel}};
+    const Answer answer = co_await platform_.dialogs.Ask(std::move(question));
+    if (answer == Answer::Cancel) co_return false;
+    if (standIns.MailBusy()) co_await Delay(kMailWait);
+  }
+  co_return true;
 }
 
 bool Program::WindowHasMoved() const {

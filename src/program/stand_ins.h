@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 #include "session/local_feed.h"
@@ -9,15 +10,31 @@
 
 namespace program {
 
+// Sends mail, and is not to be interrupted.
+class MailSender {
+ public:
+  virtual ~MailSender() = default;
+  virtual bool MailBusy() const = 0;
+};
+
 // Takes the place of what this version doesn't have yet, and counts what it was asked for.
 class StandIns : public session::LoggerServer,
                  public session::LoginRequests,
                  public session::ClockWork,
-                 public session::TncScript {
+                 public session::TncScript,
+                 public MailSender {
  public:
   std::map<std::string, int> calls;
+  std::set<int> takenPorts;  // on which nothing can listen
+  int loggers = 0;           // logging programs that count as connected
+  bool mailBusy = false;
 
-  bool Connected() const override { return false; }
+  bool EnableLogger(int port) override {
+    ++calls["EnableLogger"];
+    return !takenPorts.contains(port);
+  }
+  int LoggersConnected() const override { return loggers; }
+  bool MailBusy() const override { return mailBusy; }
   void SendLogger(std::string_view) override {}
   void LoggerRaw(std::string_view) override {}
   void GetEm() override { ++calls["GetEm"]; }

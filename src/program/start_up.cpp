@@ -22,6 +22,8 @@ constexpr std::array kDataFiles = {
              "\"MOLVA-1\",\"\"\r\n\"Node List\",\"\"\r\n\"Data\",\"\"\r\n\"Version\",\"\"\r\n"},
 };
 
+constexpr int kLastPort = 65535;
+
 // Picked once a run, so that many clients of one node don't return together after its failure.
 platform::Milliseconds RetryInterval(std::uint32_t seed) {
   std::mt19937 random(seed);
@@ -43,6 +45,7 @@ platform::Task<> Program::StartUp() {
       Step{"ReadDebugCfg", &Program::ReadDebugCfg},
       Step{"BringDataFiles", &Program::BringDataFiles},
       Step{"ReadCfg", &Program::ReadCfg},
+      Step{"StartLogger", &Program::StartLogger},
       Step{"ReadPassword", &Program::ReadPassword},
       Step{"PrepareSession", &Program::PrepareSession},
       Step{"EndLoading", &Program::EndLoading},
@@ -79,8 +82,14 @@ platform::Task<> Program::ReadDebugCfg() {
   const auto content = platform_.files.Read(Path("debug.cfg"));
   const auto lines = core::SplitLines(content.bytes);
   errorLog.DebugMode = !lines.empty() && lines.front() == core::QuotedField("yes");
-  platform_.files.Replace(Path("debug.cfg"), core::Record({core::QuotedField("no")}));
+  WriteDebugCfg(false);
+  DebuggingOn.Value.Set(errorLog.DebugMode);
+  if (errorLog.DebugMode) session.linkText.lblclock[1].ForeColour.Set(core::kRed);
   co_return;
+}
+
+void Program::WriteDebugCfg(bool on) {
+  platform_.files.Replace(Path("debug.cfg"), core::Record({core::QuotedField(on ? "yes" : "no")}));
 }
 
 platform::Task<> Program::BringDataFiles() {
@@ -99,6 +108,18 @@ platform::Task<> Program::ReadCfg() {
   }
   settings = std::move(loaded.settings);
   configurationIsNew_ = loaded.created;
+}
+
+// A port that another program has is passed over.
+platform::Task<> Program::StartLogger() {
+  if (!settings.LoggingProgram) co_return;
+  for (int& port = settings.LoggerPort; !standIns.EnableLogger(port) && port < kLastPort;) {
+    const std::string taken = std::to_string(port++);
+    platform_.dialogs.Tell({.title = "Molva Desk",
+                            .text = "Telnet port " + taken +
+                                    " already open on this computer\n\nTrying port " +
+                                    std::to_string(port)});
+  }
 }
 
 platform::Task<> Program::ReadPassword() {

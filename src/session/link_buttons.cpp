@@ -24,7 +24,9 @@ LinkButtons::LinkButtons(platform::Scheduler& scheduler, core::Settings& setting
       disconnectPressed_(connection.cmdDisconnect.Click.Add([this] {
         if (!Disconnecting) tasks_.Start("Disconnect", PressDisconnect());
       })),
-      tasks_(scheduler, needs_.onFault) {}
+      tasks_(scheduler, needs_.onFault) {
+  timers_.SetDuty(TimerId::ConnectScript, [this] { timers_.Disable(TimerId::ConnectScript); });
+}
 
 void LinkButtons::PressConnect() {
   loginWatch_.LoginPatience = 2;

@@ -42,7 +42,7 @@ void LocalFeed::SendLocal(std::string_view line) {
 }
 
 void LocalFeed::Pass(std::string_view line) {
-  const bool toLoggers = loggers_.Connected();
+  const bool toLoggers = loggers_.LoggersConnected() > 0;
   if (!toLoggers && !settings_.LocalNetwork) return;
   if (state_.LastSendWasUser && IsAnswer(line)) return;
   std::string plain;

@@ -14,8 +14,10 @@ namespace session {
 class LoggerServer {
  public:
   virtual ~LoggerServer() = default;
-  // It listens, and one program at least is connected.
-  virtual bool Connected() const = 0;
+  // Begins to listen; nothing happens if it listens there already. False: the port is taken.
+  virtual bool EnableLogger(int port) = 0;
+  // How many programs are connected; none while it doesn't listen.
+  virtual int LoggersConnected() const = 0;
   // A line for logging programs.
   virtual void SendLogger(std::string_view line) = 0;
   // A line as it came, for those that asked for all of them.

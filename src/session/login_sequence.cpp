@@ -109,7 +109,7 @@ platform::Task<> LoginSequence::AskAr() {
 bool LoginSequence::ArFirstPrompt(std::string_view line) {
   if (!state_.IsArCluster() || !state_.LoggedIn || !settings_.AutoFilter) return false;
   if (state_.FirstPromptDone || !state_.RcvdPrompt(line)) return false;
-  state_.FirstPromptDone = true;
+  state_.FirstPromptDone = state_.Prompted = true;
   outgoing_.Send("sh/filter");
   outgoing_.Send("sh/settings");
   state_.RequestedSettings = true;

@@ -68,6 +68,8 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                          if (settings.LocalNetwork) localNetwork.OpenComm2();
                        },
                    .onFault = needs.onFault}),
+      modeSwitch(platform.scheduler, platform.dialogs, settings, state, connection, timers,
+                 {.openNodes = needs.openNodes, .onFault = needs.onFault}),
       login(settings, state, outgoing, connection, duelling, tncLink),
       loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
       loginLinks(loginText.rtbLoginMsg, platform.browser,

@@ -23,6 +23,7 @@
 #include "session/login_text.h"
 #include "session/login_watch.h"
 #include "session/macros.h"
+#include "session/mode_switch.h"
 #include "session/outgoing.h"
 #include "session/port_path.h"
 #include "session/profile_hints.h"
@@ -65,6 +66,7 @@ class Session {
     std::function<bool()> weatherInFront = [] { return false; };
     std::function<void()> beginFreshWeatherPage = [] {};
     std::function<void()> openChat = [] {};
+    std::function<void()> openNodes = [] {};  // frmNode
   };
 
   Session(const platform::Platform& platform, const core::Calendar& calendar,
@@ -86,6 +88,7 @@ class Session {
   LoginWatch loginWatch;
   Connection connection;
   LinkButtons linkButtons;
+  ModeSwitch modeSwitch;
   Login login;
   LoginText loginText;
   Links loginLinks;  // in the login text, as long as the session lasts

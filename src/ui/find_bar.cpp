@@ -17,8 +17,8 @@ constexpr int kFromEdge = 4;
 FindBar::FindBar(QWidget* view, Searchable& searched, const QString& name)
     : QFrame(view),
       view_(view),
-      searched_(searched),
-      text_(new QLineEdit(this)),
+      text_(new FindField(
+          searched, [this](bool found) { Tell(found); }, this)),
       nowhere_(new QLabel(tr("not found"), this)) {
   setObjectName(QStringLiteral("FindBar"));
   auto* row = new QHBoxLayout(this);
@@ -33,10 +33,8 @@ FindBar::FindBar(QWidget* view, Searchable& searched, const QString& name)
   text_->setFixedWidth(kTextWidth);
   text_->setPlaceholderText(tr("Find"));
   text_->setAccessibleName(tr("Find in %1").arg(name));
-  text_->installEventFilter(this);
   nowhere_->setProperty("bad", true);
   nowhere_->hide();
-  connect(text_, &QLineEdit::textEdited, this, [this] { Find(Searchable::Way::Here); });
   view_->installEventFilter(this);
   hide();
 }
@@ -87,17 +85,10 @@ void FindBar::keyPressEvent(QKeyEvent* event) {
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {
   if (watched == view_ && event->type() == QEvent::Resize && isVisible()) Place();
-  if (watched != text_ || event->type() != QEvent::KeyPress)
-    return QFrame::eventFilter(watched, event);
-  const auto* key = static_cast<QKeyEvent*>(event);
-  if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) return false;
-  Find(key->modifiers().testFlag(Qt::ShiftModifier) ? Searchable::Way::Previous
-                                                    : Searchable::Way::Next);
-  return true;
+  return QFrame::eventFilter(watched, event);
 }
 
-void FindBar::Find(Searchable::Way way) {
-  const bool found = text_->text().isEmpty() || searched_.Find(text_->text(), way);
+void FindBar::Tell(bool found) {
   if (nowhere_->isHidden() == found) return;
   nowhere_->setVisible(!found);
   Place();

@@ -2,10 +2,9 @@
 
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
-#include "ui/searchable.h"
+#include "ui/find_field.h"
 
 namespace ui {
 
@@ -27,14 +26,13 @@ class FindBar : public QFrame {
 
  private:
   QPushButton* MakeButton(const QString& caption, const QString& name, void (FindBar::*act)());
-  void FindNext() { Find(Searchable::Way::Next); }
-  void FindPrevious() { Find(Searchable::Way::Previous); }
-  void Find(Searchable::Way way);
+  void FindNext() { text_->Find(Searchable::Way::Next); }
+  void FindPrevious() { text_->Find(Searchable::Way::Previous); }
+  void Tell(bool found);
   void Place();
 
   QWidget* view_;
-  Searchable& searched_;
-  QLineEdit* text_;
+  FindField* text_;
   QLabel* nowhere_;
 };
 

@@ -4,19 +4,14 @@
 #include <QFontDatabase>
 
 namespace ui {
-namespace {
-
-constexpr int kPixels = 13;
-
-}  // namespace
 
 QFont InterfaceFont() {
   QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-  font.setPixelSize(kPixels);
+  font.setPixelSize(kUsualPixels);
   return font;
 }
 
-QFont FixedFont() {
+QFont FixedFont(int pixels) {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   for (const char* family : {"JetBrains Mono", "Hack", "DejaVu Sans Mono", "Noto Sans Mono"}) {
     if (!QFontDatabase::hasFamily(family)) continue;
@@ -25,7 +20,7 @@ QFont FixedFont() {
   }
   font.setStyleHint(QFont::Monospace);
   font.setStyleStrategy(QFont::PreferNoShaping);  // "<-" stays two characters
-  font.setPixelSize(kPixels);
+  font.setPixelSize(pixels);
   return font;
 }
 

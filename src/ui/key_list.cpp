@@ -10,7 +10,8 @@
 namespace ui {
 namespace {
 
-constexpr QSize kUsualSize(460, 520);
+constexpr QSize kUsualSize(480, 560);
+constexpr int kKeyWidth = 130;
 
 QString Spelled(const Key& key) {
   QStringList names;
@@ -29,11 +30,12 @@ KeyList::KeyList(QWidget* parent) : QDialog(parent) {
   list->setColumnCount(2);
   list->setHeaderLabels({tr("Key"), tr("What it does")});
   list->setRootIsDecorated(false);
+  list->setIndentation(0);
   list->setUniformRowHeights(true);
   for (const Key& key : Keys())
     list->addTopLevelItem(new QTreeWidgetItem(QStringList{Spelled(key), tr(key.says)}));
   list->setCurrentItem(list->topLevelItem(0));
-  list->resizeColumnToContents(0);
+  list->setColumnWidth(0, kKeyWidth);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(list);

@@ -7,6 +7,7 @@ namespace ui {
 // What a key of the window does.
 enum class Act {
   ChooseTab,
+  ChooseBand,
   CommandLine,
   ReturnToTable,
   GoRound,
@@ -21,7 +22,7 @@ enum class Act {
 struct Key {
   const char* keys;  // several are parted by "; "
   Act act;
-  int number;        // of the tab
+  int number;        // of the tab or the band
   const char* says;  // what it does
 };
 

@@ -51,7 +51,7 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
       tabs_(new ViewTabs(program.views, frames, this)),
       pages_(new QStackedWidget(this)),
       splitter_(new QSplitter(Qt::Vertical, this)),
-      dx_(new DxPage(program, frames, this)),
+      dx_(new DxPage(program, frames, theme, this)),
       loginMessage_(new LoginView(program.session.loginText.rtbLoginMsg, program.session.loginLinks,
                                   frames, this)),
       raw_(new TextPageView(program.session.outgoing.Text2, frames, this)),
@@ -145,7 +145,7 @@ void MainWindow::Lay(Frames& frames, LiveTheme& theme) {
   splitter_->setChildrenCollapsible(false);
   splitter_->addWidget(pages_);
   splitter_->addWidget(raw_);
-  splitter_->setSizes({450, 250});
+  splitter_->setSizes({520, 130});
   auto* column = new QWidget(this);
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
@@ -171,6 +171,8 @@ void MainWindow::Do(const Key& key) {
   switch (key.act) {
     case Act::ChooseTab:
       return program_.views.Choose(key.number);
+    case Act::ChooseBand:
+      return program_.dxTab.ChooseBand(key.number);
     case Act::CommandLine:
       return commandRow_->Line()->setFocus();
     case Act::ReturnToTable:
@@ -212,6 +214,7 @@ void MainWindow::Find() {
   const program::TextSizes::View view = ViewAtHand();
   if (view == program::TextSizes::Raw) findInRaw_->Open();
   if (view == program::TextSizes::LoginMsg) findInLogin_->Open();
+  if (view == program::TextSizes::Dx) dx_->OpenFind();
 }
 
 void MainWindow::ListKeys() {

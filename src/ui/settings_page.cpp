@@ -56,7 +56,7 @@ SettingsPage::SettingsPage(program::Program& program, Frames& frames, QWidget* p
   left->addStretch();
   QVBoxLayout* right = AddColumn();
   AddGroup(right, tr("Macros"))->addWidget(new MacroPanel(program.session.macros, frames, page_));
-  AddGroup(right, tr("Technical"))->addWidget(new TechnicalPanel(program.session, frames, page_));
+  AddGroup(right, tr("Technical"))->addWidget(new TechnicalPanel(program, frames, page_));
   right->addStretch();
   columns_->addStretch();
 }

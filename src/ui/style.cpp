@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 
+#include "ui/desk_style.h"
 #include "ui/fonts.h"
 
 namespace ui {
@@ -21,6 +21,7 @@ QPalette PaletteOf(const Theme& theme) {
   palette.setColor(QPalette::ButtonText, theme[Token::Text]);
   palette.setColor(QPalette::Highlight, theme[Token::Selection]);
   palette.setColor(QPalette::HighlightedText, theme[Token::Text]);
+  palette.setColor(QPalette::Mid, theme[Token::Line]);
   palette.setColor(QPalette::Link, theme[Token::Accent]);
   palette.setColor(QPalette::ToolTipBase, theme[Token::Panel]);
   palette.setColor(QPalette::ToolTipText, theme[Token::Text]);
@@ -55,6 +56,7 @@ QLineEdit { background: {ground}; border: 1px solid {line}; border-radius: 4px;
             padding: 5px 8px; selection-background-color: {selection};
             selection-color: {text}; }
 QLineEdit:focus { border-color: {accent}; }
+QLineEdit[bad="true"] { color: {bad}; }
 QPlainTextEdit { background: {ground}; color: {text}; border: none;
                  selection-background-color: {selection}; selection-color: {text}; }
 QPlainTextEdit:focus { border: 1px solid {accent}; }
@@ -65,11 +67,14 @@ QTabBar::tab:hover:!selected:!disabled { border-bottom-color: {line}; }
 QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
 QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
-QTreeView { background: {ground}; color: {text}; border: none; }
-QTreeView::item { padding: 3px 8px; }
+QTreeView { background: {ground}; color: {text}; border: none; outline: none; }
+QTreeView::item { height: 24px; padding-left: 8px; border: none; }
 QTreeView::item:selected { background: {selection}; color: {text}; }
 QHeaderView::section { background: {panel}; color: {dim}; border: none;
-                       border-bottom: 1px solid {line}; padding: 6px 12px; }
+                       border-bottom: 1px solid {line}; padding: 6px 8px; }
+QListWidget#BandRail { background: {panel}; border: none; border-right: 1px solid {line};
+                      outline: none; padding-top: 6px; }
+QPushButton#Below { background: {panel}; color: {accent}; border-color: {accent}; }
 QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
 QAbstractScrollArea::corner { background: {ground}; border: none; }
@@ -115,7 +120,7 @@ Theme ThemeOf(platform::ColourScheme scheme) {
 }  // namespace
 
 void Apply(const Theme& theme, QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new DeskStyle);
   QApplication::setPalette(PaletteOf(theme));
   QApplication::setFont(InterfaceFont());
   application.setStyleSheet(SheetOf(theme));

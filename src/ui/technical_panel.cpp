@@ -1,5 +1,6 @@
 #include "ui/technical_panel.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -18,10 +19,11 @@ void HideWhileEmpty(QWidget* widget, core::Label& model, Frames& frames) {
 
 }  // namespace
 
-TechnicalPanel::TechnicalPanel(session::Session& session, Frames& frames, QWidget* parent)
+TechnicalPanel::TechnicalPanel(program::Program& program, Frames& frames, QWidget* parent)
     : QWidget(parent), column_(new QVBoxLayout(this)) {
   column_->setContentsMargins(0, 0, 0, 0);
   column_->setSpacing(4);
+  session::Session& session = program.session;
   Add(tr("Inactivity"), session.keepAlive.lblInactivity, frames);
   Add(tr("Keep-alives sent"), session.keepAlive.lblKA[0], frames);
   Add(tr("Nulls received"), session.keepAlive.lblKA[1], frames);
@@ -33,6 +35,7 @@ TechnicalPanel::TechnicalPanel(session::Session& session, Frames& frames, QWidge
       frames);
   Add(tr("Spot lines of the node"), session.ar17.lblStatus, frames);
   AddLatency(session.latency.Text3, frames);
+  AddDebugging(program.DebuggingOn, frames);
 }
 
 void TechnicalPanel::Add(const QString& name, core::Label& model, Frames& frames) {
@@ -56,6 +59,14 @@ void TechnicalPanel::AddLatency(core::Label& model, Frames& frames) {
   BindLabel(seconds, model, frames);
   HideWhileEmpty(seconds, model, frames);
   HideWhileEmpty(words, model, frames);
+}
+
+void TechnicalPanel::AddDebugging(core::Check& model, Frames& frames) {
+  auto* box = new QCheckBox(tr("Tell of each failure at once, from the next start on"), this);
+  box->setAccessibleName(box->text());
+  BindTick(box, model, frames);
+  column_->addSpacing(4);
+  column_->addWidget(box);
 }
 
 }  // namespace ui

@@ -3,20 +3,21 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include "session/session.h"
+#include "program/program.h"
 #include "ui/frames.h"
 
 namespace ui {
 
-// The figures of the link since the program was started. Only those stand there that have
-// something to say.
+// The figures of the link since the program was started, and the switch for debugging. Only those
+// figures stand there that have something to say.
 class TechnicalPanel : public QWidget {
  public:
-  TechnicalPanel(session::Session& session, Frames& frames, QWidget* parent);
+  TechnicalPanel(program::Program& program, Frames& frames, QWidget* parent);
 
  private:
   void Add(const QString& name, core::Label& model, Frames& frames);
   void AddLatency(core::Label& model, Frames& frames);
+  void AddDebugging(core::Check& model, Frames& frames);
 
   QVBoxLayout* column_;
 };

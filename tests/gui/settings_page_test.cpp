@@ -150,6 +150,11 @@ TEST_F(SettingsPageTest, TicksOfStartAndLoginAreThoseOfTheSettings) {
   }
 }
 
+TEST_F(SettingsPageTest, DebuggingIsForTheNextStart) {
+  Box("Tell of each failure at once, from the next start on").click();
+  EXPECT_EQ(world.files.content["/home/anna/molva/debug.cfg"], "\"yes\"\r\n");
+}
+
 TEST_F(SettingsPageTest, TheBoxOfLinkedCopiesSaysWhichOneThisIs) {
   QCheckBox& box = Box("Enable Linking of two running copies");
   EXPECT_EQ(box.text(), "Enable Linking");

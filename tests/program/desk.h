@@ -29,11 +29,16 @@ class Desk {
         more);
   }
 
-  // Starts the program, and lets it get through its start-up.
-  program::Program& Start() {
+  // The program, not started yet.
+  program::Program& Make() {
     program = std::make_unique<program::Program>(
         world.platform(), kFolder, program::Program::Needs{.quit = [this] { ++quits; }, .seed = 1});
-    program->Start();
+    return *program;
+  }
+
+  // Starts the program, and lets it get through its start-up.
+  program::Program& Start() {
+    Make().Start();
     world.Run(platform::Milliseconds{100});
     return *program;
   }

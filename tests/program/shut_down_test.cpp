@@ -36,6 +36,40 @@ TEST_F(ShutDownTest, AsksAndCancelKeepsTheProgramGoing) {
   EXPECT_TRUE(program.session.state.LoggedIn);
 }
 
+TEST_F(ShutDownTest, WithLoggingProgramsConnectedTheQuestionTellsTheirNumber) {
+  Program& program = StartConnected();
+  program.standIns.loggers = 2;
+  desk.world.dialogs.WillAnswer("Molva Desk - End Program", Answer::Cancel);
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(10s);
+  ASSERT_EQ(desk.world.dialogs.shown.size(), 1u);
+  EXPECT_EQ(desk.world.dialogs.shown[0].text,
+            "Do you really want to end this program? \nThere are 2 other logging programs "
+            "connected.\nEnding this program will terminate their data feed.");
+  EXPECT_EQ(desk.world.dialogs.shown[0].kind, platform::Message::Kind::Warning);
+  EXPECT_EQ(desk.quits, 0);
+}
+
+TEST_F(ShutDownTest, MailThatIsBeingSentIsWaitedForAndAskedAboutAgain) {
+  Program& program = StartConnected();
+  program.settings.QuietExit = true;
+  program.standIns.mailBusy = true;
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(1s);
+  desk.world.dialogs.AnswerNow("Molva Desk - End Program", Answer::Ok);
+  desk.world.Run(1s);
+  desk.world.dialogs.AnswerNow("Molva Desk - End Program", Answer::Cancel);
+  desk.world.Run(10s);
+  ASSERT_EQ(desk.world.dialogs.shown.size(), 2u);
+  EXPECT_EQ(desk.world.dialogs.shown[0].text, "Can't close until CDO MSG completes.");
+  EXPECT_EQ(desk.quits, 0);
+  EXPECT_TRUE(program.session.state.LoggedIn);
+  program.standIns.mailBusy = false;
+  program.RequestClose(Program::Close::Ask);
+  desk.world.Run(10s);
+  EXPECT_EQ(desk.quits, 1);
+}
+
 TEST_F(ShutDownTest, CancelledCloseMayBeAskedAgain) {
   Program& program = StartConnected();
   desk.world.dialogs.WillAnswer("Molva Desk", Answer::Cancel);

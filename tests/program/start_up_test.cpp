@@ -128,6 +128,36 @@ TEST_F(StartUpTest, DebugSwitchLastsForOneRun) {
   EXPECT_FALSE(desk.Start().errorLog.DebugMode);
 }
 
+TEST_F(StartUpTest, DebugRunShowsItsDateInRedAndTheTickIsForTheNextRun) {
+  desk.HasUsualConfiguration();
+  desk.Content("debug.cfg") = "\"yes\"\r\n";
+  program::Program& program = desk.Start();
+  EXPECT_TRUE(program.DebuggingOn.Value.Get());
+  EXPECT_EQ(program.session.linkText.lblclock[1].ForeColour.Get(), core::kRed);
+  EXPECT_EQ(desk.Content("debug.cfg"), "\"no\"\r\n");
+  program.DebuggingOn.UserSets(false);
+  program.DebuggingOn.UserSets(true);
+  EXPECT_EQ(desk.Content("debug.cfg"), "\"yes\"\r\n");
+}
+
+TEST_F(StartUpTest, LoggingServerThatIsOffIsNotStarted) {
+  desk.HasUsualConfiguration("\"LoggingProgram\",0\r\n");
+  EXPECT_FALSE(desk.Start().standIns.calls.contains("EnableLogger"));
+}
+
+TEST_F(StartUpTest, LoggingServerWalksUpwardUntilAPortIsFree) {
+  desk.HasUsualConfiguration("\"LoggerPort\",7301\r\n\"LoggingProgram\",-1\r\n");
+  program::Program& program = desk.Make();
+  program.standIns.takenPorts = {7301, 7302};
+  program.Start();
+  desk.world.Run(100ms);
+  EXPECT_EQ(program.settings.LoggerPort, 7303);
+  EXPECT_EQ(program.standIns.calls["EnableLogger"], 3);
+  ASSERT_EQ(desk.world.dialogs.shown.size(), 2u);
+  EXPECT_EQ(desk.world.dialogs.shown[0].text,
+            "Telnet port 7301 already open on this computer\n\nTrying port 7302");
+}
+
 TEST_F(StartUpTest, SecondCopyIsSecondaryAndKeepsItsHandsOffTheFirstOnesFile) {
   desk.HasUsualConfiguration();
   const std::string first = desk.Content("molva.cfg");

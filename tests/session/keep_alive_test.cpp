@@ -135,6 +135,24 @@ TEST_F(KeepAliveTest, TextIsTheOneOfTheNodesSoftware) {
   EXPECT_EQ(textOn(NodeKind::ArCluster, true, true), "");
   EXPECT_EQ(textOn(NodeKind::Spider, true, true), "");
   EXPECT_EQ(textOn(NodeKind::Unknown, false, true), " ");
+  EXPECT_EQ(textOn(NodeKind::Unknown, false, false), " ");
+}
+
+TEST_F(KeepAliveTest, SoftwareWithoutExtendedLinesGetsAnEmptyLineFromTheStart) {
+  for (const NodeKind kind : {NodeKind::Spider, NodeKind::DxNet, NodeKind::Clx,
+                              NodeKind::WinCluster, NodeKind::Skimmer}) {
+    state.Recognise(kind);
+    keepAlive.LineReceived();
+    sent.clear();
+    world.Run(5min);
+    EXPECT_THAT(sent, testing::ElementsAre("")) << static_cast<int>(kind);
+  }
+}
+
+TEST_F(KeepAliveTest, NodeThatDidNotNameItsSoftwareInTimeGetsAnEmptyLine) {
+  state.Ar17Overdue = true;
+  world.Run(5min);
+  EXPECT_THAT(sent, testing::ElementsAre(""));
 }
 
 }  // namespace

@@ -20,7 +20,8 @@ class FakeLoggers : public session::LoggerServer {
   Lines lines;
   Lines raw;
 
-  bool Connected() const override { return connected; }
+  bool EnableLogger(int) override { return true; }
+  int LoggersConnected() const override { return connected ? 1 : 0; }
   void SendLogger(std::string_view line) override { Take(lines, line); }
   void LoggerRaw(std::string_view line) override { Take(raw, line); }
 

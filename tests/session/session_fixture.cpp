@@ -77,7 +77,8 @@ session::Session::Needs Station::Needs() {
               [this](std::string_view name, std::string_view what) {
                 faults.push_back(std::string(name) + ": " + std::string(what));
               },
-          .seed = 1};
+          .seed = 1,
+          .openNodes = [this] { ++nodesOpened; }};
 }
 
 Station::Claim Station::Offer(const std::string& row, std::string_view line) {

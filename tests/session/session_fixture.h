@@ -31,7 +31,8 @@ class Station {
     bool on = true;
     Lines entries;
     void Add(std::string_view source, std::string_view text);
-    bool Connected() const override { return true; }
+    bool EnableLogger(int) override { return true; }
+    int LoggersConnected() const override { return 1; }
     void LoggerRaw(std::string_view line) override { Add("feed", line); }
     void SendLogger(std::string_view line) override { Add("forwarded", line); }
     // What that source had to say.
@@ -113,6 +114,7 @@ class Station {
   int messagesClosed = 0;
   int ar17Settled = 0;
   int profileAsked = 0;
+  int nodesOpened = 0;
   Lines faults;  // "<name>: <what>"
   int askedUserInfo = 0;
   int configurationWrites = 0;

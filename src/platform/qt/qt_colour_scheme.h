@@ -21,10 +21,8 @@ class QtColourScheme : public QObject {
   // portal on the given bus; nothing waits for it.
   explicit QtColourScheme(Tell tell, const QDBusConnection& bus = QDBusConnection::sessionBus());
 
- private slots:
-  void OnSettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
-
  private:
+  Q_SLOT void OnSettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
   void Ask(QDBusConnection bus);
   void Take(const QVariant& value);
 

@@ -1,0 +1,146 @@
+#include "ui/band_rail_view.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include "program/dx_tab.h"
+#include "ui/bind.h"
+#include "ui/fonts.h"
+#include "ui/one_line.h"
+#include "ui/spot_colours.h"
+
+namespace ui {
+namespace {
+
+constexpr int kWidth = 132;
+constexpr int kRowHeight = 25;
+constexpr int kBarLeft = 10;
+constexpr QSize kBar(4, 11);
+constexpr int kLabelLeft = 22;
+constexpr int kUnseenRight = 76;
+constexpr int kTotalRight = 122;
+constexpr core::Position kLongest = 20;
+
+QString TextOf(std::string_view bytes) { return OneLine(bytes, kLongest); }
+
+// "2231" is shown as "2,231", and none as a dash.
+QString TotalText(const core::Label& total) {
+  QString digits = TextOf(total.Caption.Get());
+  if (digits == QLatin1String("0")) return QStringLiteral("–");
+  for (qsizetype place = digits.size() - 3; place > 0; place -= 3)
+    digits.insert(place, QLatin1Char(','));
+  return digits;
+}
+
+}  // namespace
+
+class BandRailView::Painter : public QStyledItemDelegate {
+ public:
+  Painter(BandRailView& view, const core::Settings& settings, LiveTheme& theme)
+      : QStyledItemDelegate(&view), view_(view), settings_(settings), theme_(theme) {}
+
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+    return {kWidth, kRowHeight};
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    const Theme& theme = theme_.Get();
+    const auto band = static_cast<std::size_t>(index.row());
+    const bool chosen = index.row() == view_.model_.SelectedBand();
+    if (chosen) painter->fillRect(option.rect, theme[Token::Selection]);
+    if (chosen && view_.hasFocus()) {
+      painter->setPen(theme[Token::Accent]);
+      painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+    const QRect& row = option.rect;
+    const QRect bar(QPoint(row.left() + kBarLeft, row.center().y() - kBar.height() / 2), kBar);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(BandColourOf(index.row(), settings_, theme));
+    painter->drawRoundedRect(bar, 2, 2);
+    DrawTexts(*painter, row, band, theme);
+  }
+
+ private:
+  void DrawTexts(QPainter& painter, const QRect& row, std::size_t band, const Theme& theme) const {
+    const core::Label& unseen = view_.model_.lblUnseen[band];
+    const core::Label& total = view_.model_.lblTotal[band];
+    const bool any = total.Caption.Get() != "0";
+    const auto draw = [&](int left, int right, Qt::Alignment side, Token colour, bool bold,
+                          const QString& text) {
+      QFont font = InterfaceFont();
+      if (bold) font.setWeight(QFont::DemiBold);
+      painter.setFont(font);
+      painter.setPen(theme[colour]);
+      painter.drawText(QRect(row.left() + left, row.top(), right - left, row.height()),
+                       static_cast<int>(side | Qt::AlignVCenter), text);
+    };
+    const bool chosen = static_cast<int>(band) == view_.model_.SelectedBand();
+    draw(kLabelLeft, kUnseenRight, Qt::AlignLeft, any || chosen ? Token::Text : Token::DimText,
+         chosen, TextOf(view_.model_.optBand.Options.Get()[band]));
+    if (unseen.Visible.Get())
+      draw(kLabelLeft, kUnseenRight, Qt::AlignRight, Token::Accent, true,
+           TextOf(unseen.Caption.Get()));
+    draw(kUnseenRight, kTotalRight, Qt::AlignRight, Token::DimText, false, TotalText(total));
+  }
+
+  BandRailView& view_;
+  const core::Settings& settings_;
+  LiveTheme& theme_;
+};
+
+BandRailView::BandRailView(spots::BandRail& model, const core::Settings& settings, Frames& frames,
+                           LiveTheme& theme, QWidget* parent)
+    : QListWidget(parent), model_(model) {
+  setObjectName(QStringLiteral("BandRail"));
+  setAccessibleName(tr("Bands of the spots"));
+  setFixedWidth(kWidth);
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setItemDelegate(new Painter(*this, settings, theme));
+  for (const std::string& caption : model.optBand.Options.Get()) addItem(TextOf(caption));
+  Watch(frames);
+  BindProperty<Theme>(this, theme, frames, [this](const Theme&) { viewport()->update(); });
+  connect(this, &QListWidget::currentRowChanged, this, [this](int band) {
+    if (band >= 0 && band != model_.SelectedBand()) model_.optBand.UserSelects(band);
+  });
+}
+
+void BandRailView::Watch(Frames& frames) {
+  item_ = frames.Add([this] { ShowCounts(); });
+  const auto changed = [this](const auto&) {
+    if (isVisible()) item_->Changed();
+  };
+  for (std::size_t band = 0; band < model_.lblTotal.size(); ++band) {
+    watching_.push_back(model_.lblUnseen[band].Caption.Observe(changed));
+    watching_.push_back(model_.lblUnseen[band].Visible.Observe(changed));
+    watching_.push_back(model_.lblTotal[band].Caption.Observe(changed));
+  }
+  // Not with the next frame: the user looks at what he has chosen.
+  watching_.push_back(model_.optBand.Selected.Observe([this](int band) { setCurrentRow(band); }));
+}
+
+void BandRailView::showEvent(QShowEvent* event) {
+  QListWidget::showEvent(event);
+  item_->Changed();
+}
+
+void BandRailView::ShowCounts() {
+  for (int band = 0; band < count(); ++band) {
+    const auto place = static_cast<std::size_t>(band);
+    const std::string_view words = program::BandWords(band);
+    const QString name = words.empty() ? item(band)->text() : TextOf(words);
+    const core::Label& unseen = model_.lblUnseen[place];
+    const QString unseenText =
+        unseen.Visible.Get() ? tr("%1 unseen, ").arg(TextOf(unseen.Caption.Get())) : QString();
+    const QString spoken =
+        tr("%1, %2%3 in all").arg(name, unseenText, TextOf(model_.lblTotal[place].Caption.Get()));
+    if (item(band)->data(Qt::AccessibleTextRole) != spoken)
+      item(band)->setData(Qt::AccessibleTextRole, spoken);
+  }
+  viewport()->update();
+}
+
+}  // namespace ui

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+
+#include "core/text.h"
+#include "spots/table_row.h"
+#include "ui/spot_colours.h"
+
+namespace ui {
+
+// Draws rows of spots in a font of fixed width: every field stands at its column.
+class SpotPainter {
+ public:
+  explicit SpotPainter(int pixels);
+
+  int RowHeight() const { return rowHeight_; }
+  // How many pixels the columns before it take, counted from 0.
+  int ColumnAt(core::Position column) const;
+
+  struct Row {
+    const spots::TableRow& row;
+    int top;       // where it stands in the picture
+    int width;     // of the picture
+    int scrolled;  // how far its text has moved to the left
+    bool selected;
+    std::size_t spotsBehind;  // of a separator: down to the next one
+  };
+  void Draw(QPainter& painter, const Row& row, const SpotColours& colours) const;
+
+  // The heads of the columns; `height` pixels high.
+  void DrawHeads(QPainter& painter, int height, int scrolled, const SpotColours& colours) const;
+
+ private:
+  void DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) const;
+  void DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const;
+
+  QFont font_;
+  QFont callFont_;
+  int rowHeight_;
+  int baseline_;
+  double characterWidth_;
+};
+
+}  // namespace ui

@@ -1,0 +1,337 @@
+#include "ui/spot_view.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "ui/bind.h"
+#include "ui/fonts.h"
+#include "ui/one_line.h"
+#include "ui/spot_view_accessible.h"
+
+namespace ui {
+namespace {
+
+constexpr int kHeadHeight = 27;
+constexpr int kFromEdge = 8;
+constexpr core::Position kLongestRow = 300;
+
+QString TextOf(const spots::TableRow& row) { return OneLine(row.Text(), kLongestRow); }
+
+}  // namespace
+
+// The heads of the columns, over the rows.
+class SpotView::Heads : public QWidget {
+ public:
+  explicit Heads(SpotView& view) : QWidget(&view), view_(view) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const SpotColours colours = view_.Colours();
+    QPainter painter(this);
+    painter.fillRect(rect(), colours.ground);
+    view_.painter_.DrawHeads(painter, height(), view_.horizontalScrollBar()->value(), colours);
+    painter.fillRect(0, height() - 1, width(), 1, colours.line);
+  }
+
+ private:
+  SpotView& view_;
+};
+
+SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* parent)
+    : QAbstractScrollArea(parent),
+      model_(model),
+      theme_(theme),
+      painter_(model.size.Get()),
+      item_(frames.Add([this] { Refresh(); })),
+      rows_(model.pane,
+            [this] {
+              if (isVisible()) item_->Changed();
+            }),
+      heads_(new Heads(*this)),
+      below_(new QPushButton(this)) {
+  MakeSpotViewsAccessible();  // before Qt asks who speaks for it
+  setAccessibleName(tr("Spots"));
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::StrongFocus);
+  setViewportMargins(0, kHeadHeight, 0, 0);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  below_->setObjectName(QStringLiteral("Below"));
+  below_->setFocusPolicy(Qt::NoFocus);
+  below_->hide();
+  connect(below_, &QPushButton::clicked, this, [this] { GoToEnd(); });
+  BindProperty<int>(this, model.size, frames, [this](const int& pixels) { ChangeSize(pixels); });
+  const auto repaint = [this](const auto&) {
+    heads_->update();
+    viewport()->update();
+  };
+  BindProperty<Theme>(this, theme, frames, repaint);
+  BindProperty<std::string>(this, model.empty.Caption, frames, repaint);
+}
+
+// What is on the screen.
+
+void SpotView::Refresh() {
+  // Under a finger that is down nothing moves.
+  if (!isVisible() || pressed_) return;
+  const bool atEnd = AtEnd();
+  const SpotSnapshot::Batch batch = rows_.Take();
+  if (batch.IsEmpty()) return;
+  const int stays =
+      verticalScrollBar()->value() - static_cast<int>(batch.removed) * painter_.RowHeight();
+  Forget();
+  SetRanges();
+  if (batch.allNew || atEnd) {
+    GoToEnd();
+  } else {
+    verticalScrollBar()->setValue(std::max(stays, 0));
+    CountBelow(newBelow_ + batch.added);
+  }
+  viewport()->update();
+}
+
+void SpotView::Forget() {
+  if (!current_ || rows_.Holds(*current_)) return;
+  current_.reset();
+}
+
+void SpotView::ChangeSize(int pixels) {
+  const bool atEnd = AtEnd();
+  const Number first = FirstInSight();
+  painter_ = SpotPainter(pixels);
+  SetRanges();
+  verticalScrollBar()->setValue(static_cast<int>(first - rows_.First()) * painter_.RowHeight());
+  if (atEnd) GoToEnd();
+  heads_->update();
+  viewport()->update();
+}
+
+void SpotView::SetRanges() {
+  const int height = static_cast<int>(rows_.Rows().size()) * painter_.RowHeight();
+  verticalScrollBar()->setSingleStep(painter_.RowHeight());
+  verticalScrollBar()->setPageStep(viewport()->height());
+  verticalScrollBar()->setRange(0, std::max(height - viewport()->height(), 0));
+  std::size_t columns = 0;
+  for (const spots::TableRow& row : rows_.Rows())
+    if (!row.IsStars()) columns = std::max(columns, row.Text().size());
+  const int width =
+      painter_.ColumnAt(std::min(static_cast<core::Position>(columns), kLongestRow)) + kFromEdge;
+  horizontalScrollBar()->setSingleStep(painter_.RowHeight());
+  horizontalScrollBar()->setPageStep(viewport()->width());
+  horizontalScrollBar()->setRange(0, std::max(width - viewport()->width(), 0));
+}
+
+void SpotView::GoToEnd() {
+  verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+  CountBelow(0);
+}
+
+bool SpotView::AtEnd() const {
+  return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
+}
+
+void SpotView::CountBelow(std::size_t spots) {
+  newBelow_ = std::min(spots, rows_.Rows().size());
+  below_->setVisible(newBelow_ > 0);
+  if (newBelow_ == 0) return;
+  below_->setText(tr("%1 new below").arg(newBelow_));
+  PlaceBelow();
+}
+
+void SpotView::PlaceBelow() {
+  below_->adjustSize();
+  const QRect area = viewport()->geometry();
+  below_->move(area.center().x() - below_->width() / 2,
+               area.bottom() - below_->height() - kFromEdge);
+}
+
+QRect SpotView::PlaceOf(Number row) const {
+  const int height = painter_.RowHeight();
+  const int top = static_cast<int>(row - rows_.First()) * height - verticalScrollBar()->value();
+  return {0, top, viewport()->width(), height};
+}
+
+std::optional<SpotView::Number> SpotView::RowAt(QPoint place) const {
+  if (place.y() < paintedTop_) return std::nullopt;
+  const Number row = paintedFirst_ + (place.y() - paintedTop_) / painter_.RowHeight();
+  if (!rows_.Holds(row)) return std::nullopt;
+  return row;
+}
+
+SpotView::Number SpotView::FirstInSight() const {
+  return rows_.First() + verticalScrollBar()->value() / painter_.RowHeight();
+}
+
+int SpotView::RowsInSight() const {
+  return std::max(viewport()->height() / painter_.RowHeight(), 1);
+}
+
+std::size_t SpotView::SpotsBehind(Number stars) const {
+  std::size_t spots = 0;
+  for (Number row = stars + 1; row < rows_.End() && !rows_.Row(row).IsStars(); ++row) ++spots;
+  return spots;
+}
+
+SpotColours SpotView::Colours() const { return ColoursOf(model_.settings, theme_.Get()); }
+
+void SpotView::paintEvent(QPaintEvent*) {
+  const SpotColours colours = Colours();
+  QPainter painter(viewport());
+  painter.fillRect(viewport()->rect(), colours.ground);
+  paintedFirst_ = FirstInSight();
+  paintedTop_ = PlaceOf(paintedFirst_).top();
+  if (rows_.Rows().empty()) {
+    painter.setFont(InterfaceFont());
+    painter.setPen(colours.dim);
+    painter.drawText(viewport()->rect(), Qt::AlignCenter,
+                     OneLine(model_.empty.Caption.Get(), kLongestRow));
+  }
+  for (Number row = paintedFirst_; row < rows_.End(); ++row) {
+    const QRect place = PlaceOf(row);
+    if (place.top() > viewport()->height()) break;
+    const spots::TableRow& content = rows_.Row(row);
+    painter_.Draw(painter,
+                  {.row = content,
+                   .top = place.top(),
+                   .width = place.width(),
+                   .scrolled = horizontalScrollBar()->value(),
+                   .selected = IsChosen(row),
+                   .spotsBehind = content.IsStars() ? SpotsBehind(row) : 0},
+                  colours);
+  }
+  if (!hasFocus()) return;
+  painter.setPen(colours.accent);
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void SpotView::showEvent(QShowEvent* event) {
+  QAbstractScrollArea::showEvent(event);
+  item_->Changed();
+}
+
+void SpotView::resizeEvent(QResizeEvent* event) {
+  const bool atEnd = AtEnd();
+  QAbstractScrollArea::resizeEvent(event);
+  heads_->setGeometry(0, 0, width(), kHeadHeight);
+  SetRanges();
+  if (atEnd) GoToEnd();
+  PlaceBelow();
+}
+
+void SpotView::scrollContentsBy(int dx, int) {
+  if (AtEnd()) CountBelow(0);
+  if (dx != 0) heads_->update();
+  viewport()->update();
+}
+
+void SpotView::focusInEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
+}
+
+void SpotView::focusOutEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusOutEvent(event);
+  Release();  // whoever took the focus gets the button's release too
+  viewport()->update();
+}
+
+// What the user does.
+
+void SpotView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) return Copy();
+  const bool choosing = event->modifiers().testFlag(Qt::ShiftModifier);
+  const Number last = rows_.End() - 1;
+  const Number from = current_.value_or(FirstInSight());
+  switch (event->key()) {
+    case Qt::Key_Up:
+      return Go(current_ ? from - 1 : std::min(from + RowsInSight() - 1, last), choosing);
+    case Qt::Key_Down:
+      return Go(current_ ? from + 1 : from, choosing);
+    case Qt::Key_PageUp:
+      return Go(from - RowsInSight(), choosing);
+    case Qt::Key_PageDown:
+      return Go(from + RowsInSight(), choosing);
+    case Qt::Key_Home:
+      return Go(rows_.First(), choosing);
+    case Qt::Key_End:
+      return Go(last, choosing);
+    default:
+      QAbstractScrollArea::keyPressEvent(event);
+  }
+}
+
+void SpotView::Go(Number to, bool choosing) {
+  if (rows_.Rows().empty()) return;
+  const Number row = std::clamp(to, rows_.First(), rows_.End() - 1);
+  Choose(row, choosing);
+  BringInSight(row);
+}
+
+void SpotView::Choose(Number row, bool extending) {
+  if (!extending || !current_) anchor_ = row;
+  current_ = row;
+  viewport()->update();
+  QAccessibleEvent focus(this, QAccessible::Focus);
+  focus.setChild(static_cast<int>(row - rows_.First()));
+  QAccessible::updateAccessibility(&focus);
+}
+
+bool SpotView::IsChosen(Number row) const {
+  return current_ && row >= std::min(anchor_, *current_) && row <= std::max(anchor_, *current_);
+}
+
+void SpotView::BringInSight(Number row) {
+  const QRect place = PlaceOf(row);
+  QScrollBar* bar = verticalScrollBar();
+  if (place.top() < 0) bar->setValue(bar->value() + place.top());
+  const int below = place.bottom() + 1 - viewport()->height();
+  if (below > 0) bar->setValue(bar->value() + below);
+}
+
+void SpotView::Copy() const {
+  QStringList lines;
+  for (Number row = rows_.First(); row < rows_.End(); ++row)
+    if (IsChosen(row) && !rows_.Row(row).IsStars()) lines << TextOf(rows_.Row(row));
+  if (!lines.isEmpty()) QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+void SpotView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const auto row = RowAt(event->position().toPoint());
+  if (!row) return;
+  pressed_ = true;
+  Choose(*row, event->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+void SpotView::mouseMoveEvent(QMouseEvent* event) {
+  const auto row = RowAt(event->position().toPoint());
+  if (pressed_ && row) Choose(*row, true);
+}
+
+void SpotView::mouseReleaseEvent(QMouseEvent*) { Release(); }
+
+void SpotView::Release() {
+  pressed_ = false;
+  item_->Changed();
+}
+
+bool SpotView::Find(const QString& text, Way way) {
+  const auto count = static_cast<Number>(rows_.Rows().size());
+  const Number step = way == Way::Previous ? -1 : 1;
+  const Number from = current_.value_or(FirstInSight()) - rows_.First();
+  const Number start = way == Way::Here || !current_ ? from : from + step;
+  for (Number tried = 0; tried < count; ++tried) {
+    const Number place = ((start + tried * step) % count + count) % count;
+    const Number row = rows_.First() + place;
+    if (rows_.Row(row).IsStars()) continue;
+    if (!TextOf(rows_.Row(row)).contains(text, Qt::CaseInsensitive)) continue;
+    Go(row, false);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace ui

@@ -1,0 +1,94 @@
+#include "program/dx_tab.h"
+
+#include <gtest/gtest.h>
+
+#include "program/desk.h"
+
+using namespace std::chrono_literals;
+using program::Views;
+using session::LinkPhase;
+using spots::SpotTable;
+
+namespace {
+
+class DxTabTest : public testing::Test {
+ protected:
+  DxTabTest() { desk.HasUsualConfiguration(); }
+
+  SpotTable& Table() { return desk.program->spotPipeline.table; }
+  std::string Caption() { return desk.program->views.tab[Views::Dx].Caption.Get(); }
+  std::string Empty() { return desk.program->dxTab.lblEmpty.Caption.Get(); }
+  void ChooseBand(int band) { Table().rail.optBand.UserSelects(band); }
+  void ConnectTo(LinkPhase phase) { desk.program->session.state.Phase.Set(phase); }
+  void Spot(const char* row = "DX de W1TST:      14025.0  3Y0J         CW             2100Z") {
+    Table().CountUnseen(6);
+    Table().Add(row, 6);
+  }
+
+  Desk desk;
+};
+
+TEST_F(DxTabTest, TheTableKnowsWhetherItIsOnShow) {
+  desk.Start();
+  EXPECT_TRUE(Table().OnShow());
+  desk.program->views.Choose(Views::LoginMsg);
+  EXPECT_FALSE(Table().OnShow());
+  desk.program->views.Choose(Views::Settings);
+  EXPECT_FALSE(Table().OnShow());
+  desk.program->views.Choose(Views::Dx);
+  EXPECT_TRUE(Table().OnShow());
+}
+
+TEST_F(DxTabTest, AnotherTabAtTheStartIsNotTheTable) {
+  desk.HasUsualConfiguration("\"StartTab\",0\r\n");
+  desk.Start();
+  EXPECT_FALSE(Table().OnShow());
+}
+
+TEST_F(DxTabTest, TheTabCountsWhatCameUnseenUntilItIsEntered) {
+  desk.Start();
+  Spot();
+  EXPECT_EQ(Caption(), "DX");
+  desk.program->views.Choose(Views::LoginMsg);
+  Spot();
+  Spot();
+  EXPECT_EQ(Caption(), "DX = 2");
+  desk.program->views.Choose(Views::Dx);
+  EXPECT_EQ(Caption(), "DX");
+}
+
+TEST_F(DxTabTest, AnEmptyTableSaysWhatItWaitsFor) {
+  desk.Start();
+  EXPECT_EQ(Empty(), "Not connected.");
+  ConnectTo(LinkPhase::Trying);
+  EXPECT_EQ(Empty(), "Connecting.");
+  ConnectTo(LinkPhase::Connected);
+  EXPECT_EQ(Empty(), "Connected. No spots yet.");
+  ChooseBand(11);
+  EXPECT_EQ(Empty(), "Connected. No spots on 6 m yet.");
+  ChooseBand(14);
+  EXPECT_EQ(Empty(), "Connected. No spots on 70 cm yet.");
+  ChooseBand(spots::kAlarmBand);
+  EXPECT_EQ(Empty(), "Connected. No alarms yet.");
+}
+
+TEST_F(DxTabTest, AnEmptyViewSaysWhichOneItIs) {
+  desk.Start();
+  ConnectTo(LinkPhase::Connected);
+  Table().chkShSkm[SpotTable::kSkimmer].UserSets(true);
+  EXPECT_EQ(Empty(), "Connected. No Skimmer spots yet.");
+  Table().chkShSkm[SpotTable::kDx].UserSets(true);
+  EXPECT_EQ(Empty(), "Connected. No spots yet.");
+  Table().chkShSkm[SpotTable::kSkimmer].UserSets(false);
+  EXPECT_EQ(Empty(), "Connected. No DX spots yet.");
+}
+
+TEST_F(DxTabTest, ABandThatIsChosenFromAfarBringsTheTableOnShow) {
+  desk.Start();
+  desk.program->views.Choose(Views::LoginMsg);
+  desk.program->dxTab.ChooseBand(6);
+  EXPECT_EQ(desk.program->views.onShow.Get(), Views::Dx);
+  EXPECT_EQ(Table().rail.SelectedBand(), 6);
+}
+
+}  // namespace
