@@ -8,6 +8,7 @@ constexpr std::size_t kLineEnd = 2;
 }  // namespace
 
 void TextPage::Append(std::string_view line) {
+  line = line.substr(0, kMostCharacters);
   const std::size_t removed = characters_ > kMostCharacters ? Cut() : 0;
   lines_.emplace_back(line);
   characters_ += line.size() + kLineEnd;

@@ -48,7 +48,8 @@ void ProfileReader::Forget() {
   phase_ = Phase::Closed;
   askedByLogin_ = false;
   completed_ = false;
-  nameAtPrompt_ = false;
+  askNameAtPrompt_ = false;
+  page_.ForgetNode();
 }
 
 bool ProfileReader::StatUser(std::string_view line) {
@@ -75,8 +76,8 @@ bool ProfileReader::StatUser(std::string_view line) {
 void ProfileReader::AtPrompt() {
   if (phase_ == Phase::Open) Close();
   phase_ = Phase::Closed;
-  if (!std::exchange(nameAtPrompt_, false)) return;
-  if (Wanted(ProfileField::Name, settings_.MyName) && page_.txtMyName[0].Text.Get().empty())
+  if (!std::exchange(askNameAtPrompt_, false)) return;
+  if (!report_.name && Wanted(ProfileField::Name, settings_.MyName))
     outgoing_.SendAsIs("set/name " + settings_.MyName);
   page_.fraSettings.Caption.Set("Settings @ " + state_.ConnectedNodeCall);
   page_.fraSettings.ForeColour.Set(core::kThemeColour);
@@ -88,7 +89,7 @@ bool ProfileReader::ReadEntry(const Entry& entry) {
 
 // What a DXSpider answers to changes of its filters.
 void ProfileReader::ReadFilterAnswers(std::string_view line) {
-  if (!state_.IsSpider()) return;
+  if (!state_.IsSpider() && phase_ == Phase::Closed) return;
   const auto holds = [line](std::string_view text) { return core::InStr(line, text) > 0; };
   auto& bottomOfBand = page_.chkSettings[kBottomOfBand].Value;
   if (holds(" filter4 reject on") || holds("Filter 4 updated") || holds("reject/spots 4"))
@@ -141,9 +142,9 @@ bool ProfileReader::ReadMark(const Entry& entry) {
 // The two together are the location.
 void ProfileReader::ReadLatitude(const Entry& entry) {
   if (entry.value.empty()) return;
-  auto& location = page_.txtMyLocation[0].Text;
-  const bool first = entry.label == "Latitude";
-  location.Set((first ? "" : location.Get() + " ") + std::string(entry.value));
+  (entry.label == "Latitude" ? report_.latitude : report_.longitude) = entry.value;
+  const bool both = !report_.latitude.empty() && !report_.longitude.empty();
+  page_.txtMyLocation[0].Text.Set(report_.latitude + (both ? " " : "") + report_.longitude);
   report_.location = true;
 }
 
@@ -151,53 +152,65 @@ void ProfileReader::Close() {
   phase_ = Phase::Behind;
   page_.fraUserInfo[0].Caption.Set("User Information @ " + state_.ConnectedNodeCall);
   page_.fraUserInfo[0].ForeColour.Set(core::kThemeColour);
-  intake_.PushStep("StatUser", Complete(report_, !std::exchange(completed_, true)));
+  const bool first = !std::exchange(completed_, true);
+  intake_.PushStep("StatUser", SendAll(Missing(first), state_.Sessions));
 }
 
-platform::Task<> ProfileReader::Complete(Report report, bool first) {
-  outgoing_.SendAsIs(" ");
-  if (!report.echoOff) outgoing_.SendAsIs("unset/echo");
-  if (state_.IsSpider()) {
-    if (!report.promptRight) outgoing_.SendAsIs("set/prompt " + OwnPrompt());
-    if (!report.english) outgoing_.SendAsIs("set/lang en");
-  }
-  if (!report.grid) {
-    co_await platform::Delay(kPause);
-    if (Wanted(ProfileField::Grid, settings_.MyGrid))
-      outgoing_.SendAsIs("set/qra " + settings_.MyGrid);
-  }
-  if (!report.location && Wanted(ProfileField::Location, settings_.MyLocation)) {
-    co_await platform::Delay(kPause);
-    outgoing_.SendAsIs("set/location " + settings_.MyLocation);
+std::vector<ProfileReader::Message> ProfileReader::Missing(bool first) const {
+  std::vector<Message> messages;
+  int pauses = 0;
+  const auto add = [&](std::string text) {
+    messages.push_back({std::exchange(pauses, 0), std::move(text)});
+  };
+  add(" ");
+  if (!report_.echoOff) add("unset/echo");
+  if (state_.IsSpider() && !report_.promptRight) add("set/prompt " + OwnPrompt());
+  if (state_.IsSpider() && !report_.english) add("set/lang en");
+  if (!report_.grid) ++pauses;
+  if (!report_.grid && Wanted(ProfileField::Grid, settings_.MyGrid))
+    add("set/qra " + settings_.MyGrid);
+  if (!report_.location && Wanted(ProfileField::Location, settings_.MyLocation)) {
+    ++pauses;
+    add("set/location " + settings_.MyLocation);
   }
   if (first && !state_.IsDxNet()) {
     if (askedByLogin_) {
-      outgoing_.SendAsIs("set/molva");
-      co_await platform::Delay(kPause);
+      add("set/molva");
+      ++pauses;
     }
-    co_await platform::Delay(kPause);
-    if (settings_.AutoFilter) outgoing_.SendAsIs("sh/filter");
-    co_await platform::Delay(kPause);
+    ++pauses;
+    if (settings_.AutoFilter) add("sh/filter");
+    ++pauses;
   }
+  AddEnding(first, pauses, messages);
+  return messages;
+}
+
+void ProfileReader::AddEnding(bool first, int pauses, std::vector<Message>& messages) const {
+  const bool tellsName = !report_.name && Wanted(ProfileField::Name, settings_.MyName);
+  const std::string name = "set/name " + settings_.MyName;
   if (state_.IsZelva()) {
-    co_await TellName(report);
-    if (first) outgoing_.SendAsIs(keepAlive_.VersionText());
-  } else {
-    outgoing_.SendAsIs("SET/PAGE 9999");
+    if (tellsName) messages.push_back({std::exchange(pauses, 0) + 1, name});
+    if (first) messages.push_back({pauses, keepAlive_.VersionText()});
+    return;
+  }
+  messages.push_back({pauses, "SET/PAGE 9999"});
+  if (tellsName && !TellsNameAtPrompt()) messages.push_back({2, name});
+}
+
+platform::Task<> ProfileReader::SendAll(std::vector<Message> messages, std::uint64_t session) {
+  for (const Message& message : messages) {
+    if (message.pauses > 0) co_await platform::Delay(message.pauses * kPause);
+    if (state_.Sessions != session) co_return;
+    outgoing_.SendAsIs(message.text);
   }
   co_await platform::Delay(kPause);
-  if (state_.IsDxNet() || state_.IsClx())
-    nameAtPrompt_ = true;
-  else if (!state_.IsZelva())
-    co_await TellName(report);
+  if (state_.Sessions != session) co_return;
+  askNameAtPrompt_ = TellsNameAtPrompt();
   if (std::exchange(state_.FirstConnect, false) && state_.WantMissedSpots) requests_.GetEm();
 }
 
-platform::Task<> ProfileReader::TellName(Report report) {
-  if (report.name || !Wanted(ProfileField::Name, settings_.MyName)) co_return;
-  co_await platform::Delay(kPause);
-  outgoing_.SendAsIs("set/name " + settings_.MyName);
-}
+bool ProfileReader::TellsNameAtPrompt() const { return state_.IsDxNet() || state_.IsClx(); }
 
 bool ProfileReader::Wanted(ProfileField field, const std::string& value) const {
   return !value.empty() && !hints_.Answered(field);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/settings.h"
 #include "filters/profile_report.h"
@@ -48,6 +50,14 @@ class ProfileReader {
     bool grid = false;
     bool location = false;
     bool name = false;
+    std::string latitude;
+    std::string longitude;
+  };
+
+  // What goes to the node to complete the profile, and the pauses before it.
+  struct Message {
+    int pauses;
+    std::string text;
   };
 
   bool ReadEntry(const Entry& entry);
@@ -58,8 +68,10 @@ class ProfileReader {
   void ReadLatitude(const Entry& entry);
   void AtPrompt();
   void Close();
-  platform::Task<> Complete(Report report, bool first);
-  platform::Task<> TellName(Report report);
+  std::vector<Message> Missing(bool first) const;
+  void AddEnding(bool first, int pauses, std::vector<Message>& messages) const;
+  platform::Task<> SendAll(std::vector<Message> messages, std::uint64_t session);
+  bool TellsNameAtPrompt() const;
   bool Wanted(session::ProfileField field, const std::string& value) const;
 
   const core::Settings& settings_;
@@ -75,7 +87,7 @@ class ProfileReader {
   Report report_;
   bool askedByLogin_ = false;
   bool completed_ = false;  // once in this session
-  bool nameAtPrompt_ = false;
+  bool askNameAtPrompt_ = false;
 };
 
 }  // namespace filters

@@ -17,6 +17,11 @@ UserSettings::UserSettings() {
   for (std::size_t i = 0; i < chkSettings.size(); ++i) chkSettings[i].Caption.Set(kCaptions[i]);
 }
 
+void UserSettings::ForgetNode() {
+  for (Pair* pair : {&txtMyName, &txtMyQTH, &txtMyLocation, &txtMyEmail, &txtMyHomeNode, &txtMyQRA})
+    (*pair)[0].Text.Set({});
+}
+
 void UserSettings::Take(const core::Settings& settings) {
   txtMyName[1].Text.Set(settings.MyName);
   txtMyQTH[1].Text.Set(settings.MyQth);

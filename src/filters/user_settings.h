@@ -48,6 +48,8 @@ struct UserSettings {
   std::array<core::Label, 2> fraUserInfo;  // how the personal data stand to the node's
   core::Label fraSettings;                 // the same of the switches
 
+  // What a node has told of the personal data is no longer of account.
+  void ForgetNode();
   // Puts the operator's own data into the second of each pair.
   void Take(const core::Settings& settings);
 };

@@ -28,6 +28,10 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .tncScript = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
+               .lookUpAddress =
+                   [this] {
+                     if (!endpoints.molva1.empty()) standIns.GetLatestVersion();
+                   },
                .onNodeKnown = [this] { CaptionSetup(); },
                .delayedWriteCfg = [this] { DelayedWriteCfg(); },
                .writeCfg = [this] { WriteCfg(); },

@@ -3,6 +3,7 @@
 
 #include "core/password_file.h"
 #include "core/quoted.h"
+#include "core/text.h"
 #include "program/program.h"
 #include "program/save_condition.h"
 
@@ -107,6 +108,7 @@ platform::Task<> Program::ReadCfg() {
     co_return;
   }
   settings = std::move(loaded.settings);
+  settings.MyCall = core::Trim(settings.MyCall);  // nodes refuse one with a blank
   configurationIsNew_ = loaded.created;
 }
 

@@ -52,8 +52,12 @@ void Ar17::LoggedIn() {
 }
 
 bool Ar17::ArpcReply(std::string_view line) {
-  if (!state_.LoggedIn || state_.ArpcAsked || state_.ArpcRefused) return false;
-  if (CallIsRefused(line)) return false;
+  if (!state_.LoggedIn) return false;
+  const bool settled = state_.ArpcAsked || state_.ArpcRefused;
+  // A node that has named its software before the login has settled it with its first words.
+  const bool mayRefuse = !settled || (!state_.Prompted && core::StartsWith(line, "Sorry "));
+  if (mayRefuse && CallIsRefused(line)) return false;
+  if (settled) return false;
   if (Accepted(line) || Refused(line)) {
     Settle();
     return true;

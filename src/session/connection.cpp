@@ -74,6 +74,7 @@ platform::Task<> Connection::ConnectNode() {
     co_return;
   }
   socket_.Close();
+  outgoing_.LinkDown();
   intake_.Drop();
   state_.SocketConnected = false;
   state_.ConnectEventSeen = false;
@@ -119,6 +120,7 @@ void Connection::ShowFailure() {
     state_.txtNode.Caption.Set("Failure with " + state_.ConnectedNodeCall + ": IP = " +
                                settings_.NodeNumberedAddress + " :" + settings_.NodePort);
   }
+  if (state_.ConnectFailed && settings_.NodeCall == "MOLVA-1") needs_.lookUpAddress();
   Show(LinkPhase::Disconnected);
 }
 
@@ -147,6 +149,8 @@ void Connection::OnConnect() {
   loginWatch_.LoginAttempts = 0;
   ConnectedAt = scheduler_.Now();
   state_.LoginMsgActive = true;
+  state_.ConnectedNodeCall.clear();
+  needs_.onNodeKnown();
   needs_.onConnected();
   intake_.ClearLine();
   // Nothing is read until the connecting routine has ended.
@@ -188,6 +192,7 @@ void Connection::Disconnected() {
   state_.ConnectEventSeen = false;
   state_.LoginMsgActive = false;
   state_.ForgetNode();
+  ++state_.Sessions;
   intake_.ClearLine();
   outgoing_.LinkDown();
   connectHold_.Release();
@@ -198,7 +203,8 @@ void Connection::Disconnected() {
   SessionOver();
   state_.ConnectFailed = true;
   timers_.Disable(TimerId::ConnectionTimeout);
-  if (settings_.GetMissedOnes) state_.WantMissedSpots = state_.FirstConnect = true;
+  state_.WantMissedSpots = state_.FirstConnect = settings_.GetMissedOnes;
+  DisconnectTime = calendar_.GmtNow();
   if (AutoReconnect.Value.Get()) AwaitReconnect();
   state_.SocketConnected = false;
   state_.LoggedIn = false;
@@ -208,6 +214,11 @@ void Connection::AwaitReconnect() {
   if (state_.TncMode && !timers_.Enabled(TimerId::Reconnect)) tncRetry_.LinkLost();
   timers_.Enable(TimerId::Reconnect);
   cmdDisconnect.Enabled.Set(true);
+}
+
+void Connection::ClearCount() {
+  DisconnectCount = 0;
+  lblDisconnects.Caption.Set({});
 }
 
 void Connection::Count() {

@@ -28,6 +28,7 @@ class Connection {
   struct Needs {
     std::function<void()> askUserInfo;      // the call is missing
     std::function<void()> delayedWriteCfg;  // a setting has changed
+    std::function<void()> lookUpAddress;    // of MOLVA-1, which can't be reached
     std::function<void()> onConnected;      // the link is up, nothing has been read
     std::function<void()> onLoggedIn;
     std::function<void()> onNodeKnown;  // the node has said its call
@@ -48,6 +49,7 @@ class Connection {
   int DisconnectCount = 0;                     // sessions that ended in this run of the program
   platform::Milliseconds ConnectTimeStamp{0};  // of the last login, by the scheduler
   platform::Milliseconds ConnectedAt{0};       // of the last connect event, by the scheduler
+  platform::UtcTime DisconnectTime{};          // of the last session
   std::string WhyEnded;  // the last link, in a few words; empty while one holds
 
   core::Label lblDisconnects;  // "Disconnects = 3"
@@ -66,6 +68,8 @@ class Connection {
   void BeginAnew();
   // The session that runs is not to be counted when it ends.
   void NotCounted() { ConnectedOnce = false; }
+  // The count of disconnects begins anew.
+  void ClearCount();
 
   // The link is dead: closes it, and the next try comes one interval later. `why` is shown.
   void GiveUp(std::string why);

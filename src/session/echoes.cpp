@@ -1,6 +1,5 @@
 #include "session/echoes.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "core/text.h"
@@ -18,21 +17,28 @@ void Echoes::Sent(std::string_view text) {
   pending_.push_back({std::string(core::Trim(text))});
 }
 
+// One that has seen a prompt and did not come back may never do so: those behind it still can.
 bool Echoes::IsEcho(std::string_view line) {
-  const auto oldest = std::find_if(pending_.begin(), pending_.end(),
-                                   [](const Text& text) { return !text.cameBack; });
-  if (oldest == pending_.end() || oldest->trimmed != core::Trim(line)) return false;
-  oldest->cameBack = true;
-  return true;
+  const std::string_view trimmed = core::Trim(line);
+  for (Text& text : pending_) {
+    if (text.cameBack) continue;
+    if (text.trimmed == trimmed) return text.cameBack = echoing_ = true;
+    if (text.prompts == 0) return false;
+  }
+  return false;
 }
 
 void Echoes::Prompted() {
-  if (std::exchange(prompted_, true) && !pending_.empty()) pending_.pop_front();
+  if (!std::exchange(prompted_, true)) return;
+  if (!pending_.empty()) pending_.pop_front();
+  for (Text& text : pending_) ++text.prompts;
+  if (!echoing_) std::erase_if(pending_, [](const Text& text) { return text.prompts > 1; });
 }
 
 void Echoes::Forget() {
   pending_.clear();
   prompted_ = false;
+  echoing_ = false;
 }
 
 }  // namespace session

@@ -24,10 +24,12 @@ class Echoes {
   struct Text {
     std::string trimmed;
     bool cameBack = false;
+    int prompts = 0;  // that have come since it was sent
   };
 
   std::deque<Text> pending_;
   bool prompted_ = false;
+  bool echoing_ = false;  // something has come back in this session
 };
 
 }  // namespace session

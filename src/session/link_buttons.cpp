@@ -48,6 +48,7 @@ void LinkButtons::PressConnect() {
 
 platform::Task<> LinkButtons::PressDisconnect() {
   Disconnecting = true;
+  const platform::Registration done([this] { Disconnecting = false; });
   state_.ConnectFailed = true;
   // A script that runs over the radio ends with its step's time.
   timers_.SetInterval(TimerId::ConnectScript, 1ms);
@@ -63,8 +64,7 @@ platform::Task<> LinkButtons::PressDisconnect() {
   }
   // Meanwhile the user may have connected anew.
   if (state_.UserDisconnected && !state_.TncMode) connection_.CloseIfOpen();
-  connection_.DisconnectCount = 0;
-  Disconnecting = false;
+  connection_.ClearCount();
 }
 
 }  // namespace session

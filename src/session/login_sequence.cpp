@@ -85,7 +85,8 @@ void LoginSequence::FirstSteps(std::string_view line) {
 // The greeting names the software; where the one before the login has done so, the prompt does.
 void LoginSequence::SpiderSteps(std::string_view line) {
   if (core::InStrIgnoringCase(line, "DXSpider") == 0) return;
-  state_.UseMyDx = SpiderHasMyDx(line);
+  const bool isGreeting = core::InStr(line, "DXSpider") > 0;  // not the prompt, in lower case
+  state_.UseMyDx = isGreeting && SpiderHasMyDx(line);
   state_.ShowDxCommand = state_.UseMyDx ? "sh/mydx" : "sh/dx";
   state_.LoginFinished = true;
   needs_.profileAsked();
@@ -95,14 +96,16 @@ void LoginSequence::SpiderSteps(std::string_view line) {
 void LoginSequence::ArSteps(std::string_view line) {
   if (!core::EndsWith(line, "arc >")) return;
   state_.LoginFinished = true;
-  intake_.PushStep("LoginSequence", AskAr());
+  intake_.PushStep("LoginSequence", AskAr(state_.Sessions));
 }
 
-platform::Task<> LoginSequence::AskAr() {
+platform::Task<> LoginSequence::AskAr(std::uint64_t session) {
   co_await platform::Delay(kBetweenSends);
+  if (state_.Sessions != session) co_return;
   if (settings_.AskSettings && !std::exchange(state_.RequestedSettings, true))
     outgoing_.Send("sh/settings");
   co_await platform::Delay(kBetweenSends);
+  if (state_.Sessions != session) co_return;
   outgoing_.Send(settings_.DxARPCoff ? "dont_set/dx_arpc on" : "set/dx_arpc on");
 }
 

@@ -30,7 +30,7 @@ class LoginSequence {
   void FirstSteps(std::string_view line);
   void SpiderSteps(std::string_view line);
   void ArSteps(std::string_view line);
-  platform::Task<> AskAr();
+  platform::Task<> AskAr(std::uint64_t session);
 
   const core::Settings& settings_;
   SessionState& state_;

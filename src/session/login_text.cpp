@@ -52,13 +52,15 @@ void LoginText::FirstPrompt() {
     state_.KnownNodes = {state_.ConnectedNodeCall};
   }
   const bool asksLater = state_.IsSpider() || state_.IsZelva() || state_.IsArCluster();
-  if (state_.WantMissedSpots && !asksLater) intake_.PushStep("GetEm", AskMissedSpots());
+  if (state_.WantMissedSpots && !asksLater)
+    intake_.PushStep("GetEm", AskMissedSpots(state_.Sessions));
   if (state_.IsZelva() && !std::exchange(state_.RequestedSettings, true))
     outgoing_.Send("sh/settings");
 }
 
-platform::Task<> LoginText::AskMissedSpots() {
+platform::Task<> LoginText::AskMissedSpots(std::uint64_t session) {
   co_await platform::Delay(200ms);
+  if (state_.Sessions != session) co_return;
   state_.FirstConnect = false;
   requests_.GetEm();
 }

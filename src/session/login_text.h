@@ -24,7 +24,7 @@ class LoginText {
 
   core::TextPage rtbLoginMsg;
 
-  // The software of the node has become known, or is forgotten.
+  // The software of the node has become known.
   std::function<void()> onKind;
 
   // A line handler that claims nothing: takes every line that nothing else has taken, until the
@@ -34,7 +34,7 @@ class LoginText {
  private:
   void Collect(std::string_view line);
   void FirstPrompt();
-  platform::Task<> AskMissedSpots();
+  platform::Task<> AskMissedSpots(std::uint64_t session);
 
   const core::Settings& settings_;
   SessionState& state_;

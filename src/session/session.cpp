@@ -37,7 +37,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       intake(platform.scheduler, *WinsockOut, state, needs.chain, localFeed,
              {.lineReceived = [this] { keepAlive.LineReceived(); },
               .nulReceived = [this](int nulls) { keepAlive.NulReceived(nulls); },
-              .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
+              .showRaw = [this](std::string_view line) { ShowReceived(line); },
               .escapesRepaired = [this](int escapes) { technical.ShowEscapedErrors(escapes); },
               .isEcho = [this](std::string_view line) { return IsEcho(line); },
               .sendPassword = [this] { outgoing.SendPassword(); },
@@ -55,6 +55,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                  nodeAddress, loginWatch, duelling, tncRetry, needs.tncScript, timers,
                  {.askUserInfo = needs.askUserInfo,
                   .delayedWriteCfg = needs.delayedWriteCfg,
+                  .lookUpAddress = needs.lookUpAddress,
                   .onConnected = [this] { loginText.rtbLoginMsg.Clear(); },
                   .onLoggedIn = [this] { LoggedIn(); },
                   .onNodeKnown = needs.onNodeKnown,
@@ -68,8 +69,6 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                          if (settings.LocalNetwork) localNetwork.OpenComm2();
                        },
                    .onFault = needs.onFault}),
-      modeSwitch(platform.scheduler, platform.dialogs, settings, state, connection, timers,
-                 {.openNodes = needs.openNodes, .onFault = needs.onFault}),
       login(settings, state, outgoing, connection, duelling, tncLink),
       loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
       loginLinks(loginText.rtbLoginMsg, platform.browser,
@@ -128,10 +127,21 @@ void Session::Ended() {
   echoes_.Forget();
   macros.Disconnected();
   latency.Disconnected();
+  technical.lblTech[14].Caption.Set("N/A");
+}
+
+// Some nodes send back what they ask for.
+bool Session::IsPassword(std::string_view line) const {
+  return !outgoing.NodePassword.empty() && core::Trim(line) == outgoing.NodePassword;
+}
+
+void Session::ShowReceived(std::string_view line) {
+  outgoing.updateText2(IsPassword(line) ? "********" : line);
 }
 
 // The echo of a changed prompt ends like a prompt, and is none.
 bool Session::IsEcho(std::string_view line) {
+  if (IsPassword(line)) return true;
   if (state.IsSpider() && echoes_.IsEcho(line)) return true;
   if (EndsInPrompt(line, NodeKind::Spider, "dxspider >")) echoes_.Prompted();
   return false;

@@ -23,7 +23,6 @@
 #include "session/login_text.h"
 #include "session/login_watch.h"
 #include "session/macros.h"
-#include "session/mode_switch.h"
 #include "session/outgoing.h"
 #include "session/port_path.h"
 #include "session/profile_hints.h"
@@ -48,7 +47,8 @@ class Session {
     TncScript& tncScript;
     std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
-    std::function<void()> onNodeKnown;  // its call or its software has become known
+    std::function<void()> lookUpAddress;  // of MOLVA-1
+    std::function<void()> onNodeKnown;    // its call or its software has become known
     std::function<void()> delayedWriteCfg;
     std::function<void()> writeCfg;
     std::function<void(const std::string& heading, const std::string& text)> showMessage;
@@ -66,7 +66,6 @@ class Session {
     std::function<bool()> weatherInFront = [] { return false; };
     std::function<void()> beginFreshWeatherPage = [] {};
     std::function<void()> openChat = [] {};
-    std::function<void()> openNodes = [] {};  // frmNode
   };
 
   Session(const platform::Platform& platform, const core::Calendar& calendar,
@@ -88,7 +87,6 @@ class Session {
   LoginWatch loginWatch;
   Connection connection;
   LinkButtons linkButtons;
-  ModeSwitch modeSwitch;
   Login login;
   LoginText loginText;
   Links loginLinks;  // in the login text, as long as the session lasts
@@ -104,6 +102,8 @@ class Session {
 
  private:
   bool IsEcho(std::string_view line);
+  bool IsPassword(std::string_view line) const;
+  void ShowReceived(std::string_view line);
   void LoggedIn();
   void Ended();
 

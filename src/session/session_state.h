@@ -33,6 +33,7 @@ struct NodeState {
 
 // Where the session stands. One for the program; Connection says how it changes.
 struct SessionState : NodeState {
+  std::uint64_t Sessions = 0;    // that have ended: tells one from the next
   bool TncMode = false;          // the session runs over the TNC, not telnet
   bool LoggedIn = false;         // the call has been sent to a login prompt
   bool SocketConnected = false;  // the connect event of this attempt has come

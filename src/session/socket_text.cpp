@@ -3,6 +3,12 @@
 #include "core/text.h"
 
 namespace session {
+namespace {
+
+// With its prefix and its SSID. What is longer is no call, whatever stands before it.
+constexpr std::size_t kLongestCall = 20;
+
+}  // namespace
 
 std::string StateText(platform::SocketState state, bool loggedIn) {
   using platform::SocketState;
@@ -39,7 +45,8 @@ std::string GreetingCall(std::string_view line, std::string_view ownCall,
     rest = core::Trim(core::Mid(rest, core::Len(greeting) + 1));
     const core::Position blank = core::InStr(rest, " ");
     const std::string_view call = core::Left(rest, blank - 1);
-    return core::EndsWith(call, ":") ? std::string() : core::UCase(call);
+    const bool isCall = !core::EndsWith(call, ":") && call.size() <= kLongestCall;
+    return isCall ? core::UCase(call) : std::string();
   }
   return {};
 }

@@ -230,4 +230,15 @@ TEST_F(Ar17Test, TalkOfCallsignsBehindTheLoginMeansNothing) {
   EXPECT_TRUE(program.state.LoggedIn);
 }
 
+TEST_F(Ar17Test, RefusalOfANodeThatHasNamedItselfBeforeTheLoginEndsTheLink) {
+  Connect();
+  Receive("Welcome to DXSpider");
+  ReceiveBytes("login: ");
+  Receive("");
+  Receive("one moment");
+  Receive("Sorry K1TST-2 is an invalid callsign");
+  EXPECT_FALSE(program.state.LoggedIn);
+  EXPECT_EQ(txtNode(), "Sorry K1TST-2 is an invalid callsign");
+}
+
 }  // namespace

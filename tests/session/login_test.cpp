@@ -213,4 +213,24 @@ TEST_F(LoginTest, EndlessLoginTextIsBounded) {
   EXPECT_LE(program.loginText.rtbLoginMsg.Characters(), 20'100u);
 }
 
+TEST_F(LoginTest, PasswordThatANodeSendsBackIsNeverShown) {
+  program.outgoing.NodePassword = "secret";
+  Connect();
+  ReceiveBytes("login: ");
+  Receive("");
+  log.entries.clear();
+  Receive(" secret ");
+  EXPECT_EQ(CountInRawView("secret"), 0);
+  EXPECT_EQ(log.Of("raw view"), (Lines{"********"}));
+  EXPECT_TRUE(log.Of("feed").empty());
+}
+
+TEST_F(LoginTest, NodeThatDoesNotGreetIsNotTakenForTheOneBefore) {
+  LogIn();
+  EXPECT_EQ(program.state.ConnectedNodeCall, "N0NODE");
+  NodeCloses();
+  LetRetry();
+  EXPECT_EQ(program.state.ConnectedNodeCall, "");
+}
+
 }  // namespace

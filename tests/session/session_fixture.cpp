@@ -64,6 +64,7 @@ session::Session::Needs Station::Needs() {
                 return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};
               },
           .askUserInfo = [this] { ++askedUserInfo; },
+          .lookUpAddress = [this] { above.asked.emplace_back("address of MOLVA-1"); },
           .onNodeKnown = [] {},
           .delayedWriteCfg = [this] { ++configurationWrites; },
           .writeCfg = [] {},
@@ -77,8 +78,7 @@ session::Session::Needs Station::Needs() {
               [this](std::string_view name, std::string_view what) {
                 faults.push_back(std::string(name) + ": " + std::string(what));
               },
-          .seed = 1,
-          .openNodes = [this] { ++nodesOpened; }};
+          .seed = 1};
 }
 
 Station::Claim Station::Offer(const std::string& row, std::string_view line) {

@@ -114,7 +114,6 @@ class Station {
   int messagesClosed = 0;
   int ar17Settled = 0;
   int profileAsked = 0;
-  int nodesOpened = 0;
   Lines faults;  // "<name>: <what>"
   int askedUserInfo = 0;
   int configurationWrites = 0;
