@@ -9,11 +9,6 @@ constexpr int kHeight = 24;
 constexpr int kInside = 8;    // between a lamp and its word
 constexpr int kBetween = 16;  // between what stands for itself
 
-QLabel* Dim(QLabel* label) {
-  label->setProperty("dim", true);
-  return label;
-}
-
 // A lamp and its word, one thing for the layout.
 QHBoxLayout* Lit(Lamp* lamp, QLabel* word) {
   auto* both = new QHBoxLayout;
@@ -41,12 +36,12 @@ StatusLine::StatusLine(session::Session& session, Frames& frames, LiveTheme& the
 void StatusLine::AddNode(session::SessionState& state, Frames& frames, LiveTheme& theme) {
   auto* lamp = new Lamp(this);
   BindLamp(lamp, state, frames, theme);
-  row_->addLayout(Lit(lamp, Dim(new QLabel(tr("Node"), this))));
+  row_->addLayout(Lit(lamp, new QLabel(tr("Node"), this)));
 }
 
 void StatusLine::AddTnc(core::Label& model, Frames& frames, LiveTheme& theme) {
   auto* lamp = new Lamp(this);
-  auto* word = Dim(new QLabel(tr("TNC"), this));
+  auto* word = new QLabel(tr("TNC"), this);
   row_->addLayout(Lit(lamp, word));
   const auto light = [lamp, &model, &theme] {
     lamp->SetColour(theme.Get().Of(model.ForeColour.Get(), Token::Line));
@@ -64,14 +59,14 @@ void StatusLine::AddTnc(core::Label& model, Frames& frames, LiveTheme& theme) {
 }
 
 void StatusLine::AddInactivity(core::Label& model, Frames& frames) {
-  auto* minutes = Dim(new QLabel(this));
+  auto* minutes = new QLabel(this);
   minutes->setAccessibleName(tr("Minutes of silence"));
   BindLabel(minutes, model, frames);
   row_->addWidget(minutes);
 }
 
 void StatusLine::AddLink(core::Label& model, Frames& frames) {
-  auto* text = Dim(new QLabel(this));
+  auto* text = new QLabel(this);
   text->setAccessibleName(tr("Link"));
   text->setMinimumWidth(1);
   BindLabel(text, model, frames);

@@ -36,12 +36,13 @@ QWidget#LinkBar { background: {panel}; border-bottom: 1px solid {line}; }
 QWidget#ConditionsBar { background: {alarm}; border-bottom: 1px solid {line}; }
 QFrame#FindBar { background: {panel}; border: 1px solid {line}; border-radius: 4px; }
 QWidget#StatusLine { background: {panel}; border-top: 1px solid {line}; }
+QWidget#StatusLine QLabel { color: {dim}; }
 QWidget#CommandRow { background: {panel}; }
 QLabel { color: {text}; }
+QLabel[dim="true"] { color: {dim}; }
 QLabel[bad="true"], QLabel[tint="bad"] { color: {bad}; }
 QLabel[tint="good"] { color: {good}; }
 QLabel[tint="accent"] { color: {accent}; }
-QLabel[dim="true"] { color: {dim}; }
 QLabel[heading="true"] { font-weight: 600; }
 QDialog { background: {panel}; }
 QCheckBox { color: {text}; spacing: 8px; }

@@ -101,6 +101,17 @@ TEST_F(LinkBarTest, SaysHowItStandsWithTheNode) {
               testing::MatchesRegex("next try in [0-9]+ s .*Connection reset by peer"));
 }
 
+TEST_F(LinkBarTest, TheDateIsDimUnlessTheProgramIsDebugged) {
+  const auto colour = [this] {
+    return Named(*window, "Date in UTC")->palette().color(QPalette::WindowText);
+  };
+  Open();
+  EXPECT_EQ(colour(), theme[Token::DimText]);
+  world.files.content["/home/anna/molva/debug.cfg"] = "\"yes\"\r\n";
+  Open();
+  EXPECT_EQ(colour(), theme[Token::Bad]);
+}
+
 TEST_F(LinkBarTest, NamesTheSoftwareOfTheNodeBehindItsCall) {
   Open();
   LogIn();
