@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/browser.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -19,6 +20,7 @@ struct Platform {
   SerialPorts& serialPorts;
   Files& files;
   Dialogs& dialogs;
+  Browser& browser;
 };
 
 }  // namespace platform

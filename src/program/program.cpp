@@ -56,12 +56,37 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       dxTab(views, spotPipeline.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
+      startOptions(settings, NeedsOfStartOptions()),
       linkCondition_(conditions, session),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
+      linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),
+      macrosFollowing_(views.Changed.Add([this](const Views::Change&) {
+        session.macros.fraMacros.Visible.Set(session.state.IsArCluster());
+      })),
       debuggingTicked_(DebuggingOn.Click.Add([this] { WriteDebugCfg(DebuggingOn.Value.Get()); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
+}
+
+// A link that is up has been through its login: what is ticked now is for the next one.
+StartOptions::Needs Program::NeedsOfStartOptions() {
+  return {.delayedWriteCfg = [this] { DelayedWriteCfg(); },
+          .askFilters =
+              [this] {
+                if (session.state.LoggedIn) session.outgoing.Send("SH/FILTER");
+              },
+          .missedSpots =
+              [this](bool wanted) {
+                session::SessionState& state = session.state;
+                if (!state.LoggedIn) state.WantMissedSpots = state.FirstConnect = wanted;
+              }};
+}
+
+void Program::ChooseLinking() {
+  settings.Linking = MultiNode.Value.Get();
+  CaptionSetup();
+  DelayedWriteCfg();
 }
 
 spots::NodeFacts Program::NodeFacts() const {
@@ -103,6 +128,7 @@ void Program::ApplySettings() {
   userSettings.Take(settings);
   appearance.Load();
   textSizes.Load();
+  startOptions.Load();
   CaptionSetup();
 }
 

@@ -22,6 +22,7 @@
 #include "program/message_form.h"
 #include "program/offset_form.h"
 #include "program/stand_ins.h"
+#include "program/start_options.h"
 #include "program/text_sizes.h"
 #include "program/user_info.h"
 #include "program/views.h"
@@ -101,6 +102,7 @@ class Program {
   DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
+  StartOptions startOptions;
 
  private:
   struct Step;
@@ -124,6 +126,8 @@ class Program {
   bool WindowHasMoved() const;
   void Quit();
 
+  StartOptions::Needs NeedsOfStartOptions();
+  void ChooseLinking();
   void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;
   session::DefaultNode DefaultNode() const;
@@ -141,6 +145,8 @@ class Program {
   bool configurationIsNew_ = false;
   LinkCondition linkCondition_;
   platform::Registration autoReconnectTicked_;
+  platform::Registration linkingTicked_;
+  platform::Registration macrosFollowing_;
   platform::Registration saved_;
   platform::Registration debuggingTicked_;
   platform::Tasks tasks_;

@@ -132,6 +132,7 @@ platform::Task<> Program::PrepareSession() {
   session.state.UserDisconnected = true;
   session.state.WantMissedSpots = session.state.FirstConnect = settings.GetMissedOnes;
   session.state.TncMode = settings.TncMode;
+  session.tncLink.lblTnc.Visible.Set(settings.TncMode);
   if (settings.TncMode) ShowTncCluster();
   session.nodeAddress.EnsureNode();
   session.keepAlivePanel.Load();

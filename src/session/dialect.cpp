@@ -14,14 +14,14 @@ constexpr std::array<std::string_view, 5> kDxNetDirectory = {"LL 10", "LL 40", "
 
 // In the order of the kinds.
 constexpr std::array<Dialect, 8> kDialects = {{
-    {NodeKind::Unknown, "", "arc >", "sh/dx", true, kDirectory},
-    {NodeKind::ArCluster, "ARC", "arc >", "sh/dx", true, kDirectory},
-    {NodeKind::Zelva, "Zelva Cluster", "ZLV >", "sh/mydx", false, kDirectory},
-    {NodeKind::Spider, "Spider", "  dxspider >", "sh/dx", false, kDirectory},
-    {NodeKind::DxNet, "DxNet", "DxNet>", "sh/dx", false, kDxNetDirectory},
-    {NodeKind::Clx, "CLX", " clx >", "sh/dx", false, kDirectory},
-    {NodeKind::WinCluster, "WinCluster", "WinCluster>", "sh/dx", false, kDirectory},
-    {NodeKind::Skimmer, "", " >", "sh/dx", false, kDirectory},
+    {NodeKind::Unknown, "", "", "arc >", "sh/dx", true, kDirectory},
+    {NodeKind::ArCluster, "ARC", "AR-Cluster", "arc >", "sh/dx", true, kDirectory},
+    {NodeKind::Zelva, "Zelva Cluster", "Zelva Cluster", "ZLV >", "sh/mydx", false, kDirectory},
+    {NodeKind::Spider, "Spider", "DXSpider", "  dxspider >", "sh/dx", false, kDirectory},
+    {NodeKind::DxNet, "DxNet", "DxNet", "DxNet>", "sh/dx", false, kDxNetDirectory},
+    {NodeKind::Clx, "CLX", "CLX", " clx >", "sh/dx", false, kDirectory},
+    {NodeKind::WinCluster, "WinCluster", "WinCluster", "WinCluster>", "sh/dx", false, kDirectory},
+    {NodeKind::Skimmer, "", "Skimmer", " >", "sh/dx", false, kDirectory},
 }};
 
 constexpr bool KindsAreInOrder() {

@@ -12,6 +12,7 @@ enum class NodeKind { Unknown, ArCluster, Zelva, Spider, DxNet, Clx, WinCluster,
 struct Dialect {
   NodeKind kind;
   std::string_view titleWord;  // behind the node's call in the title of the window
+  std::string_view software;   // what it calls itself
   std::string_view prompt;     // how its prompt ends, before the node is told otherwise
   std::string_view showDx;     // the command that lists spots
   bool hasAr17;                // may have the extended spot lines

@@ -42,6 +42,7 @@ LinkText::LinkText(platform::Scheduler& scheduler, const core::Calendar& calenda
 void LinkText::Tick() {
   const bool named = session_.LoggedIn && !session_.ConnectedNodeCall.empty();
   node.Caption.Set(named ? session_.ConnectedNodeCall : settings_.NodeCall);
+  software.Caption.Set(std::string(DialectOf(session_.Kind).software));
   state.Caption.Set(StateNow());
   age.Caption.Set(AgeNow());
   lblclock[0].Caption.Set(ClockText(calendar_.GmtNow()));

@@ -18,6 +18,7 @@ class LinkText {
            const Connection& connection, const Intake& intake, const Timers& timers);
 
   core::Label node;                     // the call of the node
+  core::Label software;                 // of the node, empty while it is unknown
   core::Label state;                    // "connected 2 d 4 h", or what is being done about it
   core::Label age;                      // "last line 1 s ago"
   std::array<core::Label, 2> lblclock;  // the time and the date in UTC

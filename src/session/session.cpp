@@ -72,6 +72,10 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                  {.openNodes = needs.openNodes, .onFault = needs.onFault}),
       login(settings, state, outgoing, connection, duelling, tncLink),
       loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
+      loginLinks(loginText.rtbLoginMsg, platform.browser,
+                 [show = needs.showMessage](const std::string& link) {
+                   show("Nothing opens this link", link);
+                 }),
       loginSequence(settings, state, outgoing, intake, needs.requests,
                     {.profileAsked = needs.profileAsked}),
       profileHints(settings, state, outgoing),
@@ -111,13 +115,15 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
 
 void Session::LoggedIn() {
   commandLine.txtCmdLine.Text.Set({});
-  if (state.TncMode) tncLink.lblTnc.ForeColour.Set(tncLink.BpqLink ? core::kBlue : core::kGreen);
+  if (state.TncMode) tncLink.ShowSession(true);
   keepAlive.LoggedIn();
   ar17.LoggedIn();
 }
 
 void Session::Ended() {
   ar17.Forget();
+  loginLinks.Clear();
+  if (state.TncMode) tncLink.ShowSession(false);
   profileHints.Forget();
   echoes_.Forget();
   macros.Disconnected();

@@ -15,6 +15,7 @@
 #include "session/latency_meter.h"
 #include "session/link_buttons.h"
 #include "session/link_text.h"
+#include "session/links.h"
 #include "session/local_feed.h"
 #include "session/local_network.h"
 #include "session/login.h"
@@ -90,6 +91,7 @@ class Session {
   ModeSwitch modeSwitch;
   Login login;
   LoginText loginText;
+  Links loginLinks;  // in the login text, as long as the session lasts
   LoginSequence loginSequence;
   ProfileHints profileHints;
   Ar17 ar17;

@@ -1,11 +1,6 @@
 #include "session/technical.h"
 
 namespace session {
-namespace {
-
-constexpr std::size_t kEscapedErrors = 10;
-
-}  // namespace
 
 Technical::Technical() { lblTech[kEscapedErrors].ToolTip.Set("Escaped Errors Fixed"); }
 

@@ -40,6 +40,8 @@ TncLink::TncLink(platform::SerialPorts& ports, const core::Settings& settings,
       timers_(timers),
       needs_(std::move(needs)) {
   MSComm1->lost = [this](const std::string& why) { needs_.onFault("MSComm1", why); };
+  lblTnc.Visible.Set(false);
+  ShowSession(false);
 }
 
 platform::SerialSettings TncLink::PortSettings() const {
@@ -65,6 +67,13 @@ bool TncLink::OpenComm1() {
   return true;
 }
 
+void TncLink::ShowSession(bool loggedIn) {
+  lblTnc.ForeColour.Set(!loggedIn ? core::kThemeColour : BpqLink ? core::kBlue : core::kGreen);
+  lblTnc.ToolTip.Set(!loggedIn ? "not logged in"
+                     : BpqLink ? "logged in by way of another node"
+                               : "logged in");
+}
+
 bool TncLink::TncSend(std::string_view text, std::string_view shown) {
   if (!OpenComm1()) return false;
   Write(text);
@@ -86,7 +95,7 @@ void TncLink::Write(std::string_view text) {
 void TncLink::CallBpq(std::string_view rest) {
   BpqLink = true;
   EscLink = false;
-  if (state_.LoggedIn) lblTnc.ForeColour.Set(core::kBlue);
+  if (state_.LoggedIn) ShowSession(true);
   MSComm1->Output("!");
   MSComm1->Output(std::string(rest) + "\r", core::kPause);
 }

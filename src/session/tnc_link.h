@@ -33,7 +33,7 @@ class TncLink {
   const std::unique_ptr<platform::SerialPort> MSComm1;
   bool BpqLink = false;  // the node in between has an attention character
   bool EscLink = false;  // and that is ESC, not "!"; such a node wants its text slowly
-  core::Label lblTnc;    // the lamp lblTnc(0)
+  core::Label lblTnc;    // the lamp lblTnc(0), on show in TNC mode; its tool tip says what it means
 
   // Opens the port with the settings, unless it is open. What is written first goes out half a
   // second later. False if it can't be opened.
@@ -46,6 +46,9 @@ class TncLink {
 
   // "*", with no line end: from it the TNC's firmware finds the baud rate. False if it is lost.
   bool SendAutobaud();
+
+  // Lights the lamp: by whether there is a session, and by the way it goes.
+  void ShowSession(bool loggedIn);
 
   // Polled: takes what has come in, in TNC mode. While intake is held bytes stay unread.
   void ReadTNC();

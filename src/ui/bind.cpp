@@ -1,5 +1,7 @@
 #include "ui/bind.h"
 
+#include <QStyle>
+
 #include "platform/qt/qt_text.h"
 #include "ui/one_line.h"
 
@@ -16,6 +18,30 @@ struct Watch : QObject {
   explicit Watch(QObject* owner) : QObject(owner) {}
   platform::Registration observing;
 };
+
+const char* TintOf(core::Colour colour) {
+  switch (colour) {
+    case core::kRed:
+      return "bad";
+    case core::kGreen:
+      return "good";
+    case core::kBlue:
+      return "accent";
+    default:
+      return "";
+  }
+}
+
+// The style sheet knows the theme's colours of the three meanings by name.
+void BindTint(QWidget* widget, core::Control& model, Frames& frames) {
+  BindProperty<core::Colour>(widget, model.ForeColour, frames, [widget](core::Colour colour) {
+    const QString tint = QLatin1String(TintOf(colour));
+    if (widget->property("tint").toString() == tint) return;
+    widget->setProperty("tint", tint);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+  });
+}
 
 // Shows text of the rules as it stands: an "&" in it is no mnemonic. Without a name of its own the
 // widget goes by that text.
@@ -43,6 +69,7 @@ void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
   widget->setTextFormat(Qt::PlainText);
   BindCommon(widget, model, frames);
+  BindTint(widget, model, frames);
   const QString name = widget->accessibleName();
   BindProperty<std::string>(widget, model.Caption, frames, [widget, name](const std::string& text) {
     const QString line = OneLine(text, kLongestLabel);
@@ -59,8 +86,12 @@ void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames) {
 }
 
 void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames) {
-  BindCommon(widget, model, frames);
   BindCaption(widget, model, frames);
+  BindTick(widget, model, frames);
+}
+
+void BindTick(QCheckBox* widget, core::Check& model, Frames& frames) {
+  BindCommon(widget, model, frames);
   BindProperty<bool>(widget, model.Value, frames, [widget](bool on) { widget->setChecked(on); });
   QObject::connect(widget, &QCheckBox::clicked, widget, [&model](bool on) { model.UserSets(on); });
 }

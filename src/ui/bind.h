@@ -15,10 +15,13 @@
 // The tie ends with the widget; the model outlives it.
 namespace ui {
 
-// A label that has an accessible name says its text behind it: "Node: N0DE-1".
+// A label that has an accessible name says its text behind it: "Node: N0DE-1". What the rules have
+// in red, green or blue is in the theme's bad, good or accent.
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames);
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames);
 void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames);
+// The same for a box whose words are its own, where the model's caption says something else.
+void BindTick(QCheckBox* widget, core::Check& model, Frames& frames);
 void BindChoice(QComboBox* widget, core::Choice& model, Frames& frames);
 void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames);
 // A dialog that is on show while the model says so. The user's own closing presses `cancel`.

@@ -24,6 +24,7 @@ LinkBar::LinkBar(program::Program& program, Frames& frames, LiveTheme& theme, QW
       program_(program),
       lamp_(new Lamp(this)),
       node_(new QLabel(this)),
+      software_(new QLabel(this)),
       state_(new QLabel(this)),
       age_(new QLabel(this)),
       connect_(new QPushButton(this)),
@@ -45,6 +46,8 @@ void LinkBar::Lay() {
   row->setSpacing(8);
   row->addWidget(lamp_);
   row->addWidget(node_);
+  row->addWidget(software_);
+  row->addSpacing(8);
   row->addWidget(state_);
   row->addWidget(age_);
   row->addSpacing(8);
@@ -56,7 +59,7 @@ void LinkBar::Lay() {
   row->addWidget(date_);
   node_->setFont(Bold(node_->font(), 13));
   clock_->setFont(Bold(FixedFont(), 17));
-  for (QLabel* label : {state_, age_, date_}) label->setProperty("dim", true);
+  for (QLabel* label : {software_, state_, age_, date_}) label->setProperty("dim", true);
   // What a node says is cut where it would widen the window, and the buttons stay where they are
   // while the seconds count.
   node_->setMinimumWidth(1);
@@ -67,6 +70,7 @@ void LinkBar::Lay() {
 void LinkBar::Name() {
   lamp_->setAccessibleName(tr("Link lamp"));
   node_->setAccessibleName(tr("Node"));
+  software_->setAccessibleName(tr("Node software"));
   state_->setAccessibleName(tr("State of the link"));
   age_->setAccessibleName(tr("Age of the last line"));
   clock_->setAccessibleName(tr("Time in UTC"));
@@ -87,6 +91,7 @@ void LinkBar::Tie(program::Program& program, Frames& frames, LiveTheme& theme) {
   BindLabel(clock_, program.session.linkText.lblclock[0], frames);
   BindLabel(date_, program.session.linkText.lblclock[1], frames);
   BindLabel(node_, program.session.linkText.node, frames);
+  BindLabel(software_, program.session.linkText.software, frames);
   BindLabel(state_, program.session.linkText.state, frames);
   BindLabel(age_, program.session.linkText.age, frames);
   BindLamp(lamp_, session.state, frames, theme);

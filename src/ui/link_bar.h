@@ -31,6 +31,7 @@ class LinkBar : public QWidget {
   program::Program& program_;
   Lamp* lamp_;
   QLabel* node_;
+  QLabel* software_;
   QLabel* state_;
   QLabel* age_;
   QPushButton* connect_;

@@ -12,6 +12,7 @@
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
 #include "ui/conditions_bar.h"
+#include "ui/login_view.h"
 #include "ui/message_dialog.h"
 #include "ui/offset_dialog.h"
 #include "ui/settings_page.h"
@@ -51,7 +52,8 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
       pages_(new QStackedWidget(this)),
       splitter_(new QSplitter(Qt::Vertical, this)),
       dx_(new DxPage(program, frames, theme, this)),
-      loginMessage_(new TextPageView(program.session.loginText.rtbLoginMsg, frames, this)),
+      loginMessage_(new LoginView(program.session.loginText.rtbLoginMsg, program.session.loginLinks,
+                                  frames, this)),
       raw_(new TextPageView(program.session.outgoing.Text2, frames, this)),
       findInLogin_(new FindBar(loginMessage_, *loginMessage_, tr("login message"))),
       findInRaw_(new FindBar(raw_, *raw_, tr("raw view"))),

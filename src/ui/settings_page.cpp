@@ -4,105 +4,163 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QWheelEvent>
 
 #include "ui/bind.h"
+#include "ui/macro_panel.h"
+#include "ui/technical_panel.h"
 
 namespace ui {
 namespace {
 
+constexpr int kInGroup = 8;
 constexpr int kBetweenGroups = 20;
+constexpr int kBetweenColumns = 32;
+constexpr int kColumnWidth = 560;
+
+// The wheel goes to the page, unless the box was chosen before.
+class ScrolledComboBox : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    event->ignore();
+    if (hasFocus()) QComboBox::wheelEvent(event);
+  }
+};
+
+QHBoxLayout* AddRow(QVBoxLayout* group) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kInGroup);
+  group->addLayout(row);
+  return row;
+}
 
 }  // namespace
 
 SettingsPage::SettingsPage(program::Program& program, Frames& frames, QWidget* parent)
-    : QWidget(parent), column_(new QVBoxLayout(this)) {
-  column_->setContentsMargins(16, 16, 16, 16);
-  column_->setSpacing(kBetweenGroups);
-  AddUserInfo(program.userInfo, frames);
-  AddKeepAlive(program.session, frames);
-  AddAppearance(program.appearance, frames);
-  AddTechnical(program.session, frames);
-  column_->addStretch();
+    : QScrollArea(parent), page_(new QWidget(this)), columns_(new QHBoxLayout(page_)) {
+  setFocusPolicy(Qt::NoFocus);
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setWidget(page_);
+  columns_->setContentsMargins(16, 16, 16, 16);
+  columns_->setSpacing(kBetweenColumns);
+  QVBoxLayout* left = AddColumn();
+  FillUserInfo(AddGroup(left, tr("User information")), program.userInfo, frames);
+  FillStart(AddGroup(left, tr("Start and login")), program.startOptions, frames);
+  FillKeepAlive(AddGroup(left, tr("Keep-alive")), program.session, frames);
+  FillLinking(AddGroup(left, tr("Linked copies")), program.MultiNode, frames);
+  FillAppearance(AddGroup(left, tr("Appearance")), program.appearance, frames);
+  left->addStretch();
+  QVBoxLayout* right = AddColumn();
+  AddGroup(right, tr("Macros"))->addWidget(new MacroPanel(program.session.macros, frames, page_));
+  AddGroup(right, tr("Technical"))->addWidget(new TechnicalPanel(program, frames, page_));
+  right->addStretch();
+  columns_->addStretch();
 }
 
-QVBoxLayout* SettingsPage::AddGroup(const QString& heading) {
+QVBoxLayout* SettingsPage::AddColumn() {
+  auto* column = new QWidget(page_);
+  column->setMaximumWidth(kColumnWidth);
+  columns_->addWidget(column, 1);
+  auto* groups = new QVBoxLayout(column);
+  groups->setContentsMargins(0, 0, 0, 0);
+  groups->setSpacing(kBetweenGroups);
+  return groups;
+}
+
+QVBoxLayout* SettingsPage::AddGroup(QVBoxLayout* column, const QString& heading) {
   auto* group = new QVBoxLayout;
-  group->setSpacing(8);
-  auto* title = new QLabel(heading, this);
+  group->setSpacing(kInGroup);
+  auto* title = new QLabel(heading, page_);
   title->setProperty("heading", true);
   group->addWidget(title);
-  column_->addLayout(group);
+  column->addLayout(group);
   return group;
-}
-
-void SettingsPage::AddUserInfo(program::UserInfo& model, Frames& frames) {
-  auto* who = new QLabel(this);
-  who->setAccessibleName(tr("Your call, name and QTH"));
-  BindLabel(who, model.lblWho, frames);
-  auto* change = new QPushButton(this);
-  change->setAccessibleName(tr("User info"));
-  BindButton(change, model.cmdOpen, frames);
-  auto* row = new QHBoxLayout;
-  row->setSpacing(16);
-  row->addWidget(who);
-  row->addWidget(change);
-  row->addStretch();
-  AddGroup(tr("User information"))->addLayout(row);
 }
 
 void SettingsPage::AddChoice(QHBoxLayout* row, const QString& label, const QString& name,
                              core::Choice& model, Frames& frames) {
-  auto* box = new QComboBox(this);
+  auto* box = new ScrolledComboBox(page_);
+  box->setFocusPolicy(Qt::StrongFocus);
   box->setAccessibleName(name);
-  auto* words = new QLabel(label, this);
+  auto* words = new QLabel(label, page_);
   words->setBuddy(box);
   BindChoice(box, model, frames);
   row->addWidget(words);
   row->addWidget(box);
 }
 
-void SettingsPage::AddKeepAlive(session::Session& session, Frames& frames) {
+void SettingsPage::AddCheck(QVBoxLayout* group, core::Check& model, Frames& frames) {
+  auto* box = new QCheckBox(page_);
+  BindCheck(box, model, frames);
+  group->addWidget(box);
+}
+
+void SettingsPage::FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Frames& frames) {
+  auto* who = new QLabel(page_);
+  who->setAccessibleName(tr("Your call, name and QTH"));
+  who->setMinimumWidth(1);
+  BindLabel(who, model.lblWho, frames);
+  auto* change = new QPushButton(page_);
+  change->setAccessibleName(tr("User info"));
+  BindButton(change, model.cmdOpen, frames);
+  QHBoxLayout* row = AddRow(group);
+  row->setSpacing(2 * kInGroup);
+  row->addWidget(who);
+  row->addWidget(change);
+  row->addStretch();
+  setFocusProxy(change);
+}
+
+void SettingsPage::FillStart(QVBoxLayout* group, program::StartOptions& model, Frames& frames) {
+  for (core::Check* each : {&model.AutoStart, &model.ChkAskSettings, &model.AutoFilter,
+                            &model.GetMissedOnes, &model.DontAsk})
+    AddCheck(group, *each, frames);
+}
+
+void SettingsPage::FillKeepAlive(QVBoxLayout* group, session::Session& session, Frames& frames) {
   session::KeepAlivePanel& model = session.keepAlivePanel;
-  auto* row = new QHBoxLayout;
-  row->setSpacing(8);
+  QHBoxLayout* row = AddRow(group);
   AddChoice(row, tr("&Minutes"), tr("Keep-alive minutes, 0 is off"), model.optKA, frames);
   AddChoice(row, tr("&Watch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
             model.optDirection, frames);
   AddChoice(row, tr("St&ored for"), tr("Keep-alive is stored for Telnet or TNC"), model.optMode,
             frames);
-  auto* apply = new QPushButton(this);
+  auto* apply = new QPushButton(page_);
   apply->setAccessibleName(tr("Apply keep-alive"));
   BindButton(apply, model.cmdExit, frames);
   row->addWidget(apply);
   row->addStretch();
-  auto* reconnect = new QCheckBox(this);
-  BindCheck(reconnect, session.connection.AutoReconnect, frames);
-  QVBoxLayout* group = AddGroup(tr("Keep-alive"));
-  group->addLayout(row);
-  group->addWidget(reconnect);
+  AddCheck(group, session.connection.AutoReconnect, frames);
 }
 
-void SettingsPage::AddAppearance(program::Appearance& model, Frames& frames) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(8);
+void SettingsPage::FillLinking(QVBoxLayout* group, core::Check& model, Frames& frames) {
+  auto* box = new QCheckBox(tr("Enable Linking"), page_);
+  box->setAccessibleName(tr("Enable Linking of two running copies"));
+  BindTick(box, model, frames);
+  auto* which = new QLabel(page_);
+  which->setProperty("dim", true);
+  which->setTextFormat(Qt::PlainText);
+  BindProperty<std::string>(which, model.Caption, frames, [which](const std::string& text) {
+    const QString caption = QString::fromStdString(text);
+    which->setText(caption);
+    which->setAccessibleName(tr("This copy is: %1").arg(caption));
+  });
+  QHBoxLayout* row = AddRow(group);
+  row->setSpacing(2 * kInGroup);
+  row->addWidget(box);
+  row->addWidget(which);
+  row->addStretch();
+}
+
+void SettingsPage::FillAppearance(QVBoxLayout* group, program::Appearance& model, Frames& frames) {
+  QHBoxLayout* row = AddRow(group);
   AddChoice(row, tr("&Theme"), tr("Theme: as the system has it, light or dark"), model.optTheme,
             frames);
   row->addStretch();
-  AddGroup(tr("Appearance"))->addLayout(row);
-}
-
-void SettingsPage::AddTechnical(session::Session& session, Frames& frames) {
-  auto* group = AddGroup(tr("Counts"));
-  const auto add = [&](const QString& name, core::Label& model) {
-    auto* label = new QLabel(this);
-    label->setAccessibleName(name);
-    BindLabel(label, model, frames);
-    group->addWidget(label);
-  };
-  add(tr("Inactivity"), session.keepAlive.lblInactivity);
-  add(tr("Keep-alives sent"), session.keepAlive.lblKA[0]);
-  add(tr("Nulls received"), session.keepAlive.lblKA[1]);
-  add(tr("Links given up"), session.keepAlive.lblKA[2]);
 }
 
 }  // namespace ui

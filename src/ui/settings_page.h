@@ -1,30 +1,37 @@
 #pragma once
 
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QVBoxLayout>
-#include <QWidget>
 
 #include "program/program.h"
 #include "ui/frames.h"
 
 namespace ui {
 
-// The page of the first tab: who the operator is, how the link is kept alive, how the window looks,
-// and the counts of what happened to the link.
-class SettingsPage : public QWidget {
+// The page of the first tab: who the operator is, what the program does by itself, how the link is
+// kept alive, the macros, how the window looks, and the figures of the link. In a low window it
+// scrolls.
+class SettingsPage : public QScrollArea {
  public:
   SettingsPage(program::Program& program, Frames& frames, QWidget* parent);
 
  private:
-  QVBoxLayout* AddGroup(const QString& heading);
+  QVBoxLayout* AddColumn();
+  // Its heading stands in it.
+  QVBoxLayout* AddGroup(QVBoxLayout* column, const QString& heading);
   void AddChoice(QHBoxLayout* row, const QString& label, const QString& name, core::Choice& model,
                  Frames& frames);
-  void AddUserInfo(program::UserInfo& model, Frames& frames);
-  void AddKeepAlive(session::Session& session, Frames& frames);
-  void AddAppearance(program::Appearance& model, Frames& frames);
-  void AddTechnical(session::Session& session, Frames& frames);
+  void AddCheck(QVBoxLayout* group, core::Check& model, Frames& frames);
 
-  QVBoxLayout* column_;
+  void FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Frames& frames);
+  void FillStart(QVBoxLayout* group, program::StartOptions& model, Frames& frames);
+  void FillKeepAlive(QVBoxLayout* group, session::Session& session, Frames& frames);
+  void FillLinking(QVBoxLayout* group, core::Check& model, Frames& frames);
+  void FillAppearance(QVBoxLayout* group, program::Appearance& model, Frames& frames);
+
+  QWidget* page_;
+  QHBoxLayout* columns_;
 };
 
 }  // namespace ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QWidget>
 
@@ -10,16 +11,20 @@
 
 namespace ui {
 
-// The line at the foot of the window: lamps with words, and the link's state as the rules say it.
+// The line at the foot of the window: lamps with words, how long it has been silent, and the link's
+// state as the rules say it.
 class StatusLine : public QWidget {
  public:
   StatusLine(session::Session& session, Frames& frames, LiveTheme& theme,
              QWidget* parent = nullptr);
 
  private:
-  Lamp* lamp_;
-  QLabel* text_;
-  QLabel* inactivity_;
+  void AddNode(session::SessionState& state, Frames& frames, LiveTheme& theme);
+  void AddTnc(core::Label& model, Frames& frames, LiveTheme& theme);
+  void AddInactivity(core::Label& model, Frames& frames);
+  void AddLink(core::Label& model, Frames& frames);
+
+  QHBoxLayout* row_;
 };
 
 }  // namespace ui

@@ -38,8 +38,10 @@ QFrame#FindBar { background: {panel}; border: 1px solid {line}; border-radius: 4
 QWidget#StatusLine { background: {panel}; border-top: 1px solid {line}; }
 QWidget#CommandRow { background: {panel}; }
 QLabel { color: {text}; }
+QLabel[bad="true"], QLabel[tint="bad"] { color: {bad}; }
+QLabel[tint="good"] { color: {good}; }
+QLabel[tint="accent"] { color: {accent}; }
 QLabel[dim="true"] { color: {dim}; }
-QLabel[bad="true"] { color: {bad}; }
 QLabel[heading="true"] { font-weight: 600; }
 QDialog { background: {panel}; }
 QCheckBox { color: {text}; spacing: 8px; }
@@ -96,7 +98,7 @@ constexpr std::array kNames = {
     Name{"{line}", Token::Line},           Name{"{text}", Token::Text},
     Name{"{dim}", Token::DimText},         Name{"{accent}", Token::Accent},
     Name{"{selection}", Token::Selection}, Name{"{bad}", Token::Bad},
-    Name{"{alarm}", Token::AlarmGround},
+    Name{"{good}", Token::Good},           Name{"{alarm}", Token::AlarmGround},
 };
 
 QColor Between(const QColor& a, const QColor& b) {

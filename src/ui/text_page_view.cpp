@@ -1,7 +1,6 @@
 #include "ui/text_page_view.h"
 
 #include <QScrollBar>
-#include <QTextBlock>
 #include <algorithm>
 
 #include "ui/fonts.h"
@@ -72,6 +71,23 @@ void TextPageView::SetSize(int pixels) {
   changed.setPixelSize(pixels);
   setFont(changed);
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+std::optional<TextPageView::Range> TextPageView::RangeOf(std::string_view line,
+                                                         core::Position start,
+                                                         core::Position count) {
+  const core::Position end = start - 1 + count;
+  if (end > kLongestShown) return std::nullopt;
+  const auto length = [line](core::Position bytes) {
+    return static_cast<int>(OneLine(core::Left(line, bytes), kLongestShown).size());
+  };
+  return Range{length(start - 1), length(end)};
+}
+
+std::optional<std::size_t> TextPageView::LineOf(const QTextBlock& block) const {
+  const auto number = static_cast<std::size_t>(block.blockNumber());
+  if (number < removed_ || number - removed_ >= page_.Lines().size()) return std::nullopt;
+  return number - removed_;
 }
 
 bool TextPageView::AtEnd() const {

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QTextBlock>
+#include <optional>
+#include <string_view>
 
+#include "core/text.h"
 #include "core/text_page.h"
 #include "ui/frames.h"
 #include "ui/searchable.h"
@@ -23,6 +27,18 @@ class TextPageView : public QPlainTextEdit, public Searchable {
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+
+  // Where something of a line stands in the line's block.
+  struct Range {
+    int from;
+    int to;  // behind it
+  };
+  // None if not all of these bytes of the line are shown.
+  static std::optional<Range> RangeOf(std::string_view line, core::Position start,
+                                      core::Position count);
+  // The line of the page that a block shows; none if it has left the page.
+  std::optional<std::size_t> LineOf(const QTextBlock& block) const;
+  const core::TextPage& Page() const { return page_; }
 
  private:
   bool AtEnd() const;

@@ -10,6 +10,7 @@
 
 #include "gui/by_name.h"
 #include "platform/sim/world.h"
+#include "ui/theme.h"
 
 namespace gui {
 namespace {
@@ -37,6 +38,40 @@ TEST_F(BindTest, AWidgetShowsItsModelAtOnceAndThenWithTheNextFrame) {
   EXPECT_EQ(widget.text(), "before");
   Frame();
   EXPECT_EQ(widget.text(), "after");
+}
+
+TEST_F(BindTest, ALabelIsInTheThemesColourOfWhatItsColourMeans) {
+  const ui::Theme theme(ui::Theme::Kind::Light);
+  core::Label model;
+  QLabel widget;
+  ui::BindLabel(&widget, model, frames);
+  const auto colour = [&] {
+    Frame();
+    widget.ensurePolished();
+    return widget.palette().color(QPalette::WindowText);
+  };
+  EXPECT_EQ(colour(), theme[ui::Token::Text]);
+  model.ForeColour.Set(core::kRed);
+  EXPECT_EQ(colour(), theme[ui::Token::Bad]);
+  model.ForeColour.Set(core::kGreen);
+  EXPECT_EQ(colour(), theme[ui::Token::Good]);
+  model.ForeColour.Set(core::kBlue);
+  EXPECT_EQ(colour(), theme[ui::Token::Accent]);
+  model.ForeColour.Set(core::kThemeColour);
+  EXPECT_EQ(colour(), theme[ui::Token::Text]);
+}
+
+TEST_F(BindTest, ATickOfItsOwnWordsLeavesTheCaptionToOthers) {
+  core::Check model;
+  model.Caption.Set("caption");
+  QCheckBox widget("words");
+  ui::BindTick(&widget, model, frames);
+  EXPECT_EQ(widget.text(), "words");
+  widget.click();
+  EXPECT_TRUE(model.Value.Get());
+  model.Value.Set(false);
+  Frame();
+  EXPECT_FALSE(widget.isChecked());
 }
 
 TEST_F(BindTest, AThousandChangesAreOneRepaint) {

@@ -101,6 +101,21 @@ TEST_F(LinkBarTest, SaysHowItStandsWithTheNode) {
               testing::MatchesRegex("next try in [0-9]+ s .*Connection reset by peer"));
 }
 
+TEST_F(LinkBarTest, NamesTheSoftwareOfTheNodeBehindItsCall) {
+  Open();
+  LogIn();
+  EXPECT_EQ(Text("Node software"), "");
+  node.Say("Welcome, this is AR-Cluster");
+  Run(1s);
+  EXPECT_EQ(Text("Node software"), "AR-Cluster");
+  const QLabel& software = *Named<QLabel>(*window, "Node software");
+  EXPECT_GT(software.x(), Named(*window, "Node")->geometry().right());
+  EXPECT_LT(software.geometry().right(), Named(*window, "State of the link")->x());
+  EXPECT_EQ(software.palette().color(QPalette::WindowText), theme[Token::DimText]);
+  Lose();
+  EXPECT_EQ(Text("Node software"), "");
+}
+
 TEST_F(LinkBarTest, TheClockIsInUtcAndTheLargestFiguresOfTheWindow) {
   Open();
   world.clock.Set(std::chrono::sys_days{std::chrono::year{2026} / 12 / 31} + 23h + 59min + 59s);

@@ -50,6 +50,26 @@ TEST_F(NamesTest, EverythingThatMattersHasANameOfItsOwn) {
   }
 }
 
+TEST_F(NamesTest, SoHasWhatComesToTheSettingsPageLater) {
+  Open({"\"StartTab\",0", "\"Linking\",-1", "\"Tnc\",-1"});
+  session::Session& session = program->session;
+  session.macros.fraSendMacro.Visible.Set(true);
+  session.macros.fraMacros.Visible.Set(true);
+  session.macros.fraMacros.Caption.Set("Local Macros");
+  for (core::Label* each :
+       {&session.keepAlive.lblKA[0], &session.keepAlive.lblKA[1], &session.keepAlive.lblKA[2],
+        &session.connection.lblDisconnects, &session.technical.lblTechnical[0],
+        &session.technical.lblTechnical[1], &session.ar17.lblStatus, &session.latency.Text3}) {
+    each->Caption.Set("Retry in 3");
+    each->Visible.Set(true);
+  }
+  Run(200ms);
+  const auto names = Names();
+  EXPECT_GT(names.size(), 60U);
+  for (const auto& [name, count] : names)
+    EXPECT_TRUE(count == 1 && !name.trimmed().isEmpty()) << '"' << name.toStdString() << '"';
+}
+
 TEST_F(NamesTest, ALabelSaysWhatItIsAndWhatItShows) {
   Open();
   LogIn();

@@ -131,6 +131,20 @@ TEST(ViewsInTheProgramTest, TheTabAtTheStartIsThatOfTheConfiguration) {
   EXPECT_EQ(desk.Start().views.onShow.Get(), Views::Dx);
 }
 
+TEST(ViewsInTheProgramTest, FieldsOfTheMacrosFollowTheSoftwareOfTheNodeWithEachTab) {
+  Desk desk;
+  desk.HasUsualConfiguration();
+  program::Program& program = desk.Start();
+  const auto shown = [&program] { return program.session.macros.fraMacros.Visible.Get(); };
+  program.session.state.Kind = session::NodeKind::ArCluster;
+  EXPECT_FALSE(shown());
+  program.views.Choose(Views::Settings);
+  EXPECT_TRUE(shown());
+  program.session.state.Kind = session::NodeKind::Spider;
+  program.views.Choose(Views::Dx);
+  EXPECT_FALSE(shown());
+}
+
 TEST(ViewsInTheProgramTest, AnotherTabIsNotStoredAsTheOneToStartWith) {
   Desk desk;
   desk.HasUsualConfiguration();

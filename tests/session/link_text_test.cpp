@@ -81,4 +81,34 @@ TEST_F(LinkTextTest, DisconnectedByTheUserIsSaidSo) {
   EXPECT_EQ(State(), "not connected  ·  disconnected by you");
 }
 
+TEST_F(LinkTextTest, NamesTheSoftwareOfTheNodeOnceItIsKnown) {
+  const auto software = [this] {
+    program.linkText.Tick();
+    return program.linkText.software.Caption.Get();
+  };
+  Connect();
+  EXPECT_EQ(software(), "");
+  Receive("Welcome to this DXSpider node");
+  EXPECT_EQ(software(), "DXSpider");
+  NodeCloses();
+  EXPECT_EQ(software(), "");
+}
+
+TEST_F(LinkTextTest, CallsEachSoftwareByItsPlainName) {
+  using session::NodeKind;
+  const std::vector<std::pair<NodeKind, std::string>> kNames = {
+      {NodeKind::ArCluster, "AR-Cluster"},
+      {NodeKind::Zelva, "Zelva Cluster"},
+      {NodeKind::Spider, "DXSpider"},
+      {NodeKind::DxNet, "DxNet"},
+      {NodeKind::Clx, "CLX"},
+      {NodeKind::WinCluster, "WinCluster"},
+      {NodeKind::Skimmer, "Skimmer"}};
+  for (const auto& [kind, name] : kNames) {
+    program.state.Kind = kind;
+    program.linkText.Tick();
+    EXPECT_EQ(program.linkText.software.Caption.Get(), name);
+  }
+}
+
 }  // namespace

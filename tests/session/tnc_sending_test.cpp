@@ -175,6 +175,25 @@ TEST_F(TncReady, AttentionMarkTurnsTheLampBlueOnlyWhenLoggedIn) {
   EXPECT_EQ(link.lblTnc.ForeColour.Get(), core::kBlue);
 }
 
+TEST_F(TncReady, LampSaysInWordsWhatItsColourMeans) {
+  EXPECT_EQ(link.lblTnc.ToolTip.Get(), "not logged in");
+  link.ShowSession(true);
+  EXPECT_EQ(link.lblTnc.ForeColour.Get(), core::kGreen);
+  EXPECT_EQ(link.lblTnc.ToolTip.Get(), "logged in");
+  link.BpqLink = true;
+  link.ShowSession(true);
+  EXPECT_EQ(link.lblTnc.ForeColour.Get(), core::kBlue);
+  EXPECT_EQ(link.lblTnc.ToolTip.Get(), "logged in by way of another node");
+}
+
+TEST_F(TncReady, LampGoesOutWithTheSession) {
+  program.state.LoggedIn = true;
+  link.ShowSession(true);
+  program.connection.ForceClose();
+  EXPECT_EQ(link.lblTnc.ForeColour.Get(), core::kThemeColour);
+  EXPECT_EQ(link.lblTnc.ToolTip.Get(), "not logged in");
+}
+
 TEST_F(TncReady, MarkInsideATextIsNoAttentionMark) {
   program.outgoing.SendAsIs("73!");
   program.outgoing.SendAsIs(" !");

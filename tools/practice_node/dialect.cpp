@@ -145,7 +145,7 @@ constexpr std::array<Dialect, kKinds> kDialects = {{
         .welcome = "\nHello %I, the software of %M is DxNet.\n"
                    "%N users",
         .hints = kPlainHints,
-        .prompt = "%T %C de %M DxNet>",
+        .prompt = "%C de %M %T DxNet>",
         .unknownCommand = "%W ? Unknown command, type HELP",
         .farewell = "73 %C",
         .filters = kFiltersOff,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/qt/qt_browser.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_files.h"
@@ -26,6 +27,7 @@ class QtPlatform {
   QtSerialPorts serialPorts_;
   QtFiles files_;
   QtDialogs dialogs_;
+  QtBrowser browser_;
 };
 
 }  // namespace platform::qt

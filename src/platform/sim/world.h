@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "platform/platform.h"
+#include "platform/sim/sim_browser.h"
 #include "platform/sim/sim_dialogs.h"
 #include "platform/sim/sim_files.h"
 #include "platform/sim/sim_network.h"
@@ -54,8 +55,11 @@ class World {
   SimSerialPorts serialPorts{scheduler};
   SimFiles files;
   SimDialogs dialogs;
+  SimBrowser browser;
 
-  Platform platform() { return {scheduler, clock, network, network, serialPorts, files, dialogs}; }
+  Platform platform() {
+    return {scheduler, clock, network, network, serialPorts, files, dialogs, browser};
+  }
 
   // Lets that much time pass.
   void Run(Milliseconds duration);

@@ -1,0 +1,72 @@
+#include "ui/technical_panel.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "ui/bind.h"
+
+namespace ui {
+namespace {
+
+void HideWhileEmpty(QWidget* widget, core::Label& model, Frames& frames) {
+  const auto show = [widget, &model] {
+    widget->setVisible(model.Visible.Get() && !model.Caption.Get().empty());
+  };
+  BindProperty<bool>(widget, model.Visible, frames, [show](bool) { show(); });
+  BindProperty<std::string>(widget, model.Caption, frames, [show](const auto&) { show(); });
+}
+
+}  // namespace
+
+TechnicalPanel::TechnicalPanel(program::Program& program, Frames& frames, QWidget* parent)
+    : QWidget(parent), column_(new QVBoxLayout(this)) {
+  column_->setContentsMargins(0, 0, 0, 0);
+  column_->setSpacing(4);
+  session::Session& session = program.session;
+  Add(tr("Inactivity"), session.keepAlive.lblInactivity, frames);
+  Add(tr("Keep-alives sent"), session.keepAlive.lblKA[0], frames);
+  Add(tr("Nulls received"), session.keepAlive.lblKA[1], frames);
+  Add(tr("Links given up"), session.keepAlive.lblKA[2], frames);
+  Add(tr("Links that ended"), session.connection.lblDisconnects, frames);
+  Add(tr("Minutes between tries over the TNC"), session.technical.lblTechnical[0], frames);
+  Add(tr("Minutes to the next try over the TNC"), session.technical.lblTechnical[1], frames);
+  Add(tr("Characters repaired"), session.technical.lblTech[session::Technical::kEscapedErrors],
+      frames);
+  Add(tr("Spot lines of the node"), session.ar17.lblStatus, frames);
+  AddLatency(session.latency.Text3, frames);
+  AddDebugging(program.DebuggingOn, frames);
+}
+
+void TechnicalPanel::Add(const QString& name, core::Label& model, Frames& frames) {
+  auto* figure = new QLabel(this);
+  figure->setAccessibleName(name);
+  column_->addWidget(figure);
+  BindLabel(figure, model, frames);
+  HideWhileEmpty(figure, model, frames);
+}
+
+void TechnicalPanel::AddLatency(core::Label& model, Frames& frames) {
+  auto* words = new QLabel(tr("Seconds to the node's answer ="), this);
+  auto* seconds = new QLabel(this);
+  seconds->setAccessibleName(tr("Seconds to the node's answer"));
+  auto* row = new QHBoxLayout;
+  row->setSpacing(4);
+  row->addWidget(words);
+  row->addWidget(seconds);
+  row->addStretch();
+  column_->addLayout(row);
+  BindLabel(seconds, model, frames);
+  HideWhileEmpty(seconds, model, frames);
+  HideWhileEmpty(words, model, frames);
+}
+
+void TechnicalPanel::AddDebugging(core::Check& model, Frames& frames) {
+  auto* box = new QCheckBox(tr("Tell of each failure at once, from the next start on"), this);
+  box->setAccessibleName(box->text());
+  BindTick(box, model, frames);
+  column_->addSpacing(4);
+  column_->addWidget(box);
+}
+
+}  // namespace ui
