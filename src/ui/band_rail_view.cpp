@@ -17,8 +17,8 @@ constexpr int kRowHeight = 25;
 constexpr int kBarLeft = 10;
 constexpr QSize kBar(4, 11);
 constexpr int kLabelLeft = 22;
-constexpr int kUnseenRight = 76;
-constexpr int kTotalRight = 122;
+constexpr int kTotalFromRight = 10;  // of the row, which a scroll bar makes narrower
+constexpr int kUnseenFromRight = 56;
 constexpr core::Position kLongest = 20;
 
 QString TextOf(std::string_view bytes) { return OneLine(bytes, kLongest); }
@@ -40,7 +40,7 @@ class BandRailView::Painter : public QStyledItemDelegate {
       : QStyledItemDelegate(&view), view_(view), settings_(settings), theme_(theme) {}
 
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-    return {kWidth, kRowHeight};
+    return {1, kRowHeight};  // as wide as the rail
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -67,22 +67,21 @@ class BandRailView::Painter : public QStyledItemDelegate {
     const core::Label& unseen = view_.model_.lblUnseen[band];
     const core::Label& total = view_.model_.lblTotal[band];
     const bool any = total.Caption.Get() != "0";
-    const auto draw = [&](int left, int right, Qt::Alignment side, Token colour, bool bold,
+    const auto draw = [&](int fromRight, Qt::Alignment side, Token colour, bool bold,
                           const QString& text) {
       QFont font = InterfaceFont();
       if (bold) font.setWeight(QFont::DemiBold);
       painter.setFont(font);
       painter.setPen(theme[colour]);
-      painter.drawText(QRect(row.left() + left, row.top(), right - left, row.height()),
+      painter.drawText(row.adjusted(kLabelLeft, 0, -fromRight, 0),
                        static_cast<int>(side | Qt::AlignVCenter), text);
     };
     const bool chosen = static_cast<int>(band) == view_.model_.SelectedBand();
-    draw(kLabelLeft, kUnseenRight, Qt::AlignLeft, any || chosen ? Token::Text : Token::DimText,
-         chosen, TextOf(view_.model_.optBand.Options.Get()[band]));
+    draw(kUnseenFromRight, Qt::AlignLeft, any || chosen ? Token::Text : Token::DimText, chosen,
+         TextOf(view_.model_.optBand.Options.Get()[band]));
     if (unseen.Visible.Get())
-      draw(kLabelLeft, kUnseenRight, Qt::AlignRight, Token::Accent, true,
-           TextOf(unseen.Caption.Get()));
-    draw(kUnseenRight, kTotalRight, Qt::AlignRight, Token::DimText, false, TotalText(total));
+      draw(kUnseenFromRight, Qt::AlignRight, Token::Accent, true, TextOf(unseen.Caption.Get()));
+    draw(kTotalFromRight, Qt::AlignRight, Token::DimText, false, TotalText(total));
   }
 
   BandRailView& view_;

@@ -80,22 +80,25 @@ void SpotView::Refresh() {
   const bool atEnd = AtEnd();
   const SpotSnapshot::Batch batch = rows_.Take();
   if (batch.IsEmpty()) return;
+  if (current_ && !rows_.Holds(*current_)) current_.reset();
   const int stays =
       verticalScrollBar()->value() - static_cast<int>(batch.removed) * painter_.RowHeight();
-  Forget();
+  const std::size_t below = newBelow_ + SpotsFrom(rows_.End() - static_cast<Number>(batch.added));
   SetRanges();
   if (batch.allNew || atEnd) {
     GoToEnd();
   } else {
     verticalScrollBar()->setValue(std::max(stays, 0));
-    CountBelow(newBelow_ + batch.added);
+    CountBelow(below);
   }
   viewport()->update();
 }
 
-void SpotView::Forget() {
-  if (!current_ || rows_.Holds(*current_)) return;
-  current_.reset();
+std::size_t SpotView::SpotsFrom(Number first) const {
+  std::size_t spots = 0;
+  for (Number row = first; row < rows_.End(); ++row)
+    if (!rows_.Row(row).IsStars()) ++spots;
+  return spots;
 }
 
 void SpotView::ChangeSize(int pixels) {
@@ -181,14 +184,21 @@ void SpotView::paintEvent(QPaintEvent*) {
   const SpotColours colours = Colours();
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), colours.ground);
-  paintedFirst_ = FirstInSight();
-  paintedTop_ = PlaceOf(paintedFirst_).top();
   if (rows_.Rows().empty()) {
     painter.setFont(InterfaceFont());
     painter.setPen(colours.dim);
     painter.drawText(viewport()->rect(), Qt::AlignCenter,
                      OneLine(model_.empty.Caption.Get(), kLongestRow));
   }
+  PaintRows(painter, colours);
+  if (!hasFocus()) return;
+  painter.setPen(colours.accent);
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void SpotView::PaintRows(QPainter& painter, const SpotColours& colours) {
+  paintedFirst_ = FirstInSight();
+  paintedTop_ = PlaceOf(paintedFirst_).top();
   for (Number row = paintedFirst_; row < rows_.End(); ++row) {
     const QRect place = PlaceOf(row);
     if (place.top() > viewport()->height()) break;
@@ -202,9 +212,6 @@ void SpotView::paintEvent(QPaintEvent*) {
                    .spotsBehind = content.IsStars() ? SpotsBehind(row) : 0},
                   colours);
   }
-  if (!hasFocus()) return;
-  painter.setPen(colours.accent);
-  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void SpotView::showEvent(QShowEvent* event) {

@@ -60,7 +60,8 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   class Heads;
 
   void Refresh();
-  void Forget();
+  std::size_t SpotsFrom(Number first) const;
+  void PaintRows(QPainter& painter, const SpotColours& colours);
   void ChangeSize(int pixels);
   void SetRanges();
   void GoToEnd();

@@ -320,6 +320,21 @@ TEST_F(SpotViewTest, WhatCameBelowIsCountedAndTheButtonBringsHimBack) {
   EXPECT_FALSE(Below().isVisible());
 }
 
+TEST_F(SpotViewTest, WhatIsBelowStaysCountedWhileOlderOnesGo) {
+  Add(300);
+  Run();
+  ScrollToRow(250);
+  Add(7);
+  Run();
+  pane.Append(Stars());
+  Run();
+  pane.RemoveSpots(200);
+  Run();
+  EXPECT_EQ(TopCall(), "K251AAA");
+  EXPECT_TRUE(Below().isVisible());
+  EXPECT_EQ(Below().text(), "7 new below") << "a separator is no spot";
+}
+
 TEST_F(SpotViewTest, WhoComesBackByHimselfNeedsNoButton) {
   Add(100);
   Run();
