@@ -149,7 +149,7 @@ TEST_F(LinkBarTest, WhatANodeSaysNeverWidensTheWindow) {
   EXPECT_EQ(window->size(), before);
   node.SayBytes("login: ");
   Run(1s);
-  node.Say("\r\nK1TST-2 de " + endless + " >");
+  node.Say("\r\nK1TST-2 de " + std::string(20, 'W') + " >");
   Run(2s);
   EXPECT_TRUE(Text("Node").startsWith("WWW"));
   EXPECT_EQ(window->size(), before);
