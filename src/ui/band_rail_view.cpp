@@ -12,7 +12,7 @@
 namespace ui {
 namespace {
 
-constexpr int kWidth = 132;
+constexpr int kWidth = 144;  // for counts of five digits
 constexpr int kRowHeight = 25;
 constexpr int kBarLeft = 10;
 constexpr QSize kBar(4, 11);
