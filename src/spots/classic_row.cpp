@@ -14,11 +14,9 @@ using core::Mid;
 using core::Position;
 
 constexpr std::size_t kSpotterAndFrequency = 17;
-constexpr std::size_t kCallWidth = 12;
 constexpr std::size_t kTail = 4;  // behind the time, for words on the spotter
-constexpr std::size_t kTimeWidth = 5;
 constexpr std::size_t kHead = 39;
-constexpr std::size_t kCommentWidth = kTableWidth - kTail - kTimeWidth - kHead;
+static_assert(kHead + kCommentWidth + kTimeWidth + kTail == kTableWidth);
 
 constexpr Position kSpotterColumn = 7;
 constexpr Position kFrequencyEnd = 24;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,9 @@ namespace spots {
 // room for each other, and a call of more than 12 characters, shift what stands behind them.
 
 inline constexpr int kTableWidth = 79;
+inline constexpr std::size_t kCallWidth = 12;
+inline constexpr std::size_t kCommentWidth = 31;
+inline constexpr std::size_t kTimeWidth = 5;
 
 // Makes it in `row`.
 void ClassicRow(const Spot& spot, std::string& row);

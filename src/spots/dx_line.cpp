@@ -21,10 +21,6 @@ constexpr Position kSpotterColumn = 7;
 
 constexpr MidnightLimits kMidnight = {.late = 2345, .early = 15};
 
-std::string_view WithoutBells(std::string_view line) {
-  return line.substr(0, line.find_last_not_of('\a') + 1);
-}
-
 void EmptyPlainFields(Spot& spot) {
   for (std::string* field : {&spot.SpotDate, &spot.OrigState, &spot.OrigCty, &spot.DxCty,
                              &spot.DxCq, &spot.Node, &spot.Comment, &spot.DxGrid, &spot.OrigGrid})
@@ -115,7 +111,6 @@ void TakeComment(std::string_view tail, const NodeFacts& node, Spot& spot) {
 
 bool ParseDxLine(std::string_view line, const NodeFacts& node, const Moment& now, Spot& spot) {
   if (line.size() > kLongestLine) return false;
-  line = WithoutBells(line);
   EmptyPlainFields(spot);
   std::string_view tail = Mid(line, kSpotterColumn);
   if (!TakeSpotter(tail, node, spot) || !TakeFrequency(tail, spot) || !TakeCall(tail, spot))

@@ -8,10 +8,6 @@
 namespace spots {
 namespace {
 
-constexpr std::size_t kCallWidth = 12;
-constexpr std::size_t kCommentWidth = 31;
-constexpr std::size_t kTimeWidth = 5;
-
 // The piece of the row from `start` on; empty where the row has ended.
 std::string_view Piece(std::string_view row, std::size_t start, std::size_t length) {
   return start < row.size() ? row.substr(start, length) : std::string_view();

@@ -86,15 +86,6 @@ TEST(DxLine, EmptyWordBehindTheTimeIsNone) {
   EXPECT_EQ(spot.OrigCty, "");
 }
 
-TEST(DxLine, BellsAtTheEndAreNoPartOfIt) {
-  const Spot bare = Read({.tail = "\a\a"});
-  EXPECT_EQ(bare.SpotTime, "2116");
-  EXPECT_EQ(bare.Comment, "CW up 2");
-  const Spot withGrid = Read({.tail = " JN58\a\a"});
-  EXPECT_EQ(withGrid.SpotTime, "2116");
-  EXPECT_EQ(withGrid.OrigCty, "JN58");
-}
-
 TEST(DxLine, BytesOfACommentStayAsTheyAre) {
   for (const std::string comment : {"gr\xC3\xBC\xC3\x9F"
                                     "e 73",

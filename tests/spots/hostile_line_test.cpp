@@ -14,7 +14,7 @@ using testing::IsEmpty;
 const std::vector<std::string>& ValidLines() {
   static const std::vector<std::string> kLines = {
       Line{}.Text(),
-      Line{.tail = " JN58\a\a"}.Text(),
+      Line{.tail = " JN58"}.Text(),
       Line{.comment = "gr\xFC\xDF"
                       "e 73",
            .tail = " 14"}
