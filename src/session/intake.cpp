@@ -45,6 +45,17 @@ void Intake::Turn() {
     batch_ = socket_.GetData(kTurnBytes);
     batchAt_ = 0;
   }
+  Consume();
+}
+
+void Intake::Receive(std::string_view bytes) {
+  batch_.erase(0, batchAt_);
+  batchAt_ = 0;
+  batch_ += bytes;
+  Consume();
+}
+
+void Intake::Consume() {
   while (!Held() && batchAt_ < batch_.size()) {
     try {
       InputCharacter(static_cast<std::uint8_t>(batch_[batchAt_++]));

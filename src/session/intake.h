@@ -44,6 +44,9 @@ class Intake {
   // Takes what the socket has, up to a bounded number of bytes.
   void Turn();
 
+  // Takes text that has come by the TNC. What has to wait joins what the socket gave.
+  void Receive(std::string_view bytes);
+
   // One byte of the node's text.
   void InputCharacter(std::uint8_t byte);
   // One whole line.
@@ -69,6 +72,7 @@ class Intake {
 
  private:
   void HoldChanged();
+  void Consume();
   void FinishLine();
   void Run(std::string_view line, int row);
   bool ClosedToSession(int row) const;

@@ -19,7 +19,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       tncLink(platform.serialPorts, settings, state, timers,
               {.portPath = needs.portPath,
                .intakeHeld = [this] { return intake.Held(); },
-               .inputCharacter = [this](std::uint8_t byte) { intake.InputCharacter(byte); },
+               .received = [this](std::string_view bytes) { intake.Receive(bytes); },
                .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
                .onFault = needs.onFault}),
       localNetwork(platform.serialPorts, settings, timers,
@@ -127,12 +127,12 @@ void Session::Ended() {
   echoes_.Forget();
   macros.Disconnected();
   latency.Disconnected();
-  technical.lblTech[14].Caption.Set("N/A");
 }
 
 // Some nodes send back what they ask for.
 bool Session::IsPassword(std::string_view line) const {
-  return !outgoing.NodePassword.empty() && core::Trim(line) == outgoing.NodePassword;
+  return state.LoginRuns() && !outgoing.NodePassword.empty() &&
+         core::Trim(line) == outgoing.NodePassword;
 }
 
 void Session::ShowReceived(std::string_view line) {

@@ -1,7 +1,6 @@
 #include "session/tnc_link.h"
 
 #include <chrono>
-#include <exception>
 #include <utility>
 
 #include "core/pause.h"
@@ -121,24 +120,7 @@ bool TncLink::SendAutobaud() {
 }
 
 void TncLink::ReadTNC() {
-  if (!state_.TncMode || needs_.intakeHeld()) return;
-  if (batchAt_ >= batch_.size()) {
-    batch_ = MSComm1->Input();
-    batchAt_ = 0;
-  }
-  while (state_.TncMode && !needs_.intakeHeld() && batchAt_ < batch_.size()) {
-    try {
-      needs_.inputCharacter(static_cast<std::uint8_t>(batch_[batchAt_++]));
-    } catch (const std::exception& fault) {
-      needs_.onFault("InputCharacter", fault.what());
-    }
-  }
-}
-
-void TncLink::DropUnread() {
-  batch_.clear();
-  batchAt_ = 0;
-  MSComm1->Input();
+  if (state_.TncMode && !needs_.intakeHeld()) needs_.received(MSComm1->Input());
 }
 
 }  // namespace session

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -21,7 +20,7 @@ class TncLink {
   struct Needs {
     std::function<std::string(int number)> portPath;  // empty: there is no such port
     std::function<bool()> intakeHeld;
-    std::function<void(std::uint8_t byte)> inputCharacter;
+    std::function<void(std::string_view bytes)> received;
     std::function<void(std::string_view line)> showRaw;
     // Told why the port does not open, once for each reason, and that it has gone.
     platform::FaultHandler onFault;
@@ -53,9 +52,6 @@ class TncLink {
   // Polled: takes what has come in, in TNC mode. While intake is held bytes stay unread.
   void ReadTNC();
 
-  // The program closes the session itself: what is unread goes.
-  void DropUnread();
-
  private:
   platform::SerialSettings PortSettings() const;
   void Write(std::string_view text);
@@ -68,8 +64,6 @@ class TncLink {
   Timers& timers_;
   Needs needs_;
   std::string toldWhy_;  // the port does not open
-  std::string batch_;
-  std::size_t batchAt_ = 0;
 };
 
 }  // namespace session

@@ -165,4 +165,15 @@ TEST(ZelvaProfile, MissedSpotsAreAskedForAtTheEnd) {
   EXPECT_THAT(station.above.asked, ElementsAre("GetEm"));
 }
 
+TEST_F(CompletionTest, EndsWithItsSession) {
+  program.state.WantMissedSpots = program.state.FirstConnect = true;
+  Receive("Callsign: K1TST-2");
+  Receive("Type of User: U");
+  settings.GetMissedOnes = true;
+  program.connection.ForceClose();
+  LetPass(2s);
+  EXPECT_THAT(above.asked, IsEmpty());
+  EXPECT_TRUE(program.state.FirstConnect) << "the next session still has to ask";
+}
+
 }  // namespace

@@ -302,4 +302,12 @@ TEST_F(ProfileTest, EndOfTheSessionEndsTheReport) {
   EXPECT_FALSE(Ticked(filters::kWwv));
 }
 
+TEST_F(ProfileTest, LatitudesAndLongitudesWithoutEndMakeOneLocation) {
+  Receive("Callsign: K1TST-2");
+  for (int i = 0; i < 100; ++i) Receive("Longitude: 72 43 W");
+  EXPECT_EQ(Told(&filters::UserSettings::txtMyLocation), "72 43 W");
+  Receive("Latitude: 41 42 N");
+  EXPECT_EQ(Told(&filters::UserSettings::txtMyLocation), "41 42 N 72 43 W");
+}
+
 }  // namespace

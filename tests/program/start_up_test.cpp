@@ -140,6 +140,11 @@ TEST_F(StartUpTest, DebugRunShowsItsDateInRedAndTheTickIsForTheNextRun) {
   EXPECT_EQ(desk.Content("debug.cfg"), "\"yes\"\r\n");
 }
 
+TEST_F(StartUpTest, BlanksRoundTheCallAreGone) {
+  desk.HasConfiguration("\"My Call\",\" K1TST-2 \"\r\n");
+  EXPECT_EQ(desk.Start().settings.MyCall, "K1TST-2");
+}
+
 TEST_F(StartUpTest, LoggingServerThatIsOffIsNotStarted) {
   desk.HasUsualConfiguration("\"LoggingProgram\",0\r\n");
   EXPECT_FALSE(desk.Start().standIns.calls.contains("EnableLogger"));

@@ -200,4 +200,17 @@ TEST_F(Connecting, WithoutANodeTheDefaultOneIsTaken) {
   }
 }
 
+TEST_F(Connecting, AddressOfMolva1IsLookedUpWhenItCantBeReached) {
+  settings.NodeCall = "MOLVA-1";
+  node.refuses = true;
+  Connect();
+  EXPECT_THAT(above.asked, testing::Contains("address of MOLVA-1"));
+}
+
+TEST_F(Connecting, AddressOfAnotherNodeIsNotLookedUp) {
+  node.refuses = true;
+  Connect();
+  EXPECT_THAT(above.asked, testing::IsEmpty());
+}
+
 }  // namespace

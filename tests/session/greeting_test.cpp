@@ -102,4 +102,10 @@ TEST_F(Greeting, TalkToTheOwnCallBehindTheGreetingChangesNothing) {
   EXPECT_EQ(settings.NodeNumberedAddress, "10.1.2.3");
 }
 
+TEST_F(Greeting, WordFarBeyondAnyCallIsNoNode) {
+  Connect();
+  EXPECT_EQ(NodeBehind("K1TST-2 de " + std::string(20, 'W') + " >"), std::string(20, 'W'));
+  EXPECT_EQ(NodeBehind("K1TST-2 de " + std::string(21, 'X') + " >"), std::string(20, 'W'));
+}
+
 }  // namespace

@@ -343,4 +343,16 @@ TEST_F(LoginSequenceTest, SunTimesAreAskedForAgainInTheNextSession) {
   EXPECT_THAT(above.asked, ElementsAre("AskSunTimes", "AskSunTimes"));
 }
 
+// The third word of a prompt is a call, whatever number stands in it.
+TEST_F(LoginSequenceTest, PromptOfADxSpiderTellsNoVersion) {
+  Connect();
+  Receive("Welcome to DXSpider");
+  ReceiveBytes("login: ");
+  Sent();
+  Receive("");
+  Receive("K1TST-2 de S59ABC 20-Nov-2026 2101Z dxspider >");
+  ExpectSent({"stat/user"});
+  EXPECT_EQ(program.state.ShowDxCommand, "sh/dx");
+}
+
 }  // namespace

@@ -225,6 +225,14 @@ TEST_F(LoginTest, PasswordThatANodeSendsBackIsNeverShown) {
   EXPECT_TRUE(log.Of("feed").empty());
 }
 
+TEST_F(LoginTest, BehindTheLoginALineLikeThePasswordIsALine) {
+  program.outgoing.NodePassword = "secret";
+  LogIn();
+  Receive("secret");
+  EXPECT_EQ(log.Of("raw view"), (Lines{"secret"}));
+  EXPECT_EQ(log.Of("First"), (Lines{"secret"}));
+}
+
 TEST_F(LoginTest, NodeThatDoesNotGreetIsNotTakenForTheOneBefore) {
   LogIn();
   EXPECT_EQ(program.state.ConnectedNodeCall, "N0NODE");

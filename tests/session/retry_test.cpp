@@ -199,4 +199,15 @@ TEST_F(Retry, StepOfTheWallClockChangesNothing) {
   EXPECT_THAT(node.called, SizeIs(2));
 }
 
+TEST_F(Retry, MissedSpotsAreWantedBehindALossAsLongAsTheUserWantsThem) {
+  settings.GetMissedOnes = true;
+  LogIn();
+  NodeCloses();
+  EXPECT_TRUE(program.state.WantMissedSpots);
+  LetRetry();
+  settings.GetMissedOnes = false;
+  NodeCloses();
+  EXPECT_FALSE(program.state.WantMissedSpots);
+}
+
 }  // namespace

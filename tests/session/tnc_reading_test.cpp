@@ -87,35 +87,13 @@ TEST_F(TncReading, RestOfTheBatchWaitsWhenALineHoldsIntake) {
 
 TEST_F(TncReading, OwnCloseInTheMiddleOfABatchDropsItsRest) {
   on["First"] = [this](std::string_view line) {
-    if (line == "one") program.tncLink.DropUnread();
+    if (line == "one") program.intake.Drop();
     return Claim::None;
   };
   Says("one\rtwo\r");
   EXPECT_THAT(Heard(), ElementsAre("one"));
   Says("three\r");
   EXPECT_THAT(Heard(), ElementsAre("one", "three"));
-}
-
-TEST_F(TncReading, OwnCloseDropsWhatWaitsInThePort) {
-  auto hold = program.intake.Hold();
-  Says("one\r");
-  program.tncLink.DropUnread();
-  hold.Release();
-  Says("two\r");
-  EXPECT_THAT(Heard(), ElementsAre("two"));
-}
-
-TEST_F(TncReading, RestOfTheBatchWaitsWhenALineEndsTncMode) {
-  on["First"] = [this](std::string_view) {
-    program.state.TncMode = false;
-    return Claim::None;
-  };
-  Says("one\rtwo\r");
-  LetPass(1s);
-  EXPECT_THAT(Heard(), ElementsAre("one"));
-  program.state.TncMode = true;
-  LetPass(250ms);
-  EXPECT_THAT(Heard(), ElementsAre("one", "two"));
 }
 
 TEST_F(TncReading, FaultInOneLineDoesNotLoseTheNext) {
