@@ -166,10 +166,10 @@ TEST(ZelvaProfile, MissedSpotsAreAskedForAtTheEnd) {
 }
 
 TEST_F(CompletionTest, EndsWithItsSession) {
-  program.state.WantMissedSpots = program.state.FirstConnect = true;
+  program.state.WantMissedSpots = program.state.FirstConnect = settings.GetMissedOnes = true;
   Receive("Callsign: K1TST-2");
   Receive("Type of User: U");
-  settings.GetMissedOnes = true;
+  ASSERT_TRUE(world.RunUntil([this] { return CountInRawView("set/name") > 0; }, 5s));
   program.connection.ForceClose();
   LetPass(2s);
   EXPECT_THAT(above.asked, IsEmpty());

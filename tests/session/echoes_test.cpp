@@ -161,4 +161,15 @@ TEST_F(EchoTest, PromptsUnaskedForDoNoHarm) {
   EXPECT_THAT(IntoTheChain(), IsEmpty());
 }
 
+// Two texts that one prompt has answered leave one behind for which nothing comes any more.
+TEST(Echoes, TextThatNeverCameBackDoesNotHideTheEchoOfALaterOne) {
+  session::Echoes echoes;
+  echoes.Prompted();
+  echoes.Sent("first");
+  echoes.Sent("second");
+  echoes.Prompted();
+  echoes.Sent("third");
+  EXPECT_TRUE(echoes.IsEcho("third"));
+}
+
 }  // namespace
