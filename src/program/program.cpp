@@ -95,9 +95,7 @@ void Program::ChooseLinking() {
 
 spots::NodeFacts Program::NodeFacts() const {
   const session::SessionState& state = session.state;
-  return {.IsClx = state.IsClx(),
-          .IsWinCluster = state.IsWinCluster(),
-          .KeepsLeadingBlanks = state.IsSkimmer(),
+  return {.kind = state.Kind,
           .Ar17Active = state.ArpcAsked,
           .Ar17Refused = state.Ar17Refused(),
           .SessionUp = state.LoggedIn};

@@ -50,7 +50,7 @@ bool TakeSpotter(std::string_view& tail, const NodeFacts& node, Spot& spot) {
   }
   if (core::EndsWith(word, ":")) word.remove_suffix(1);
   spot.Spotter = word;
-  if (node.IsClx)
+  if (node.IsClx())
     for (char& byte : spot.Spotter) byte = core::UCase(byte);
   return true;
 }
@@ -77,7 +77,7 @@ void TakeTime(std::string_view& tail, const NodeFacts& node, Spot& spot) {
   const std::string_view last = Right(tail, kEnd);
   const Position blank = InStr(6, last, " ");
   const Position time = blank > 0 ? blank - 5 : 6;
-  if (blank > 0 && !node.IsWinCluster) spot.OrigCty = Mid(last, blank + 1);
+  if (blank > 0 && !node.IsWinCluster()) spot.OrigCty = Mid(last, blank + 1);
   spot.SpotTime = Mid(last, time, 4);
   spot.SpotHHMM = core::ValInt(spot.SpotTime);
   tail = Left(tail, Len(tail) + time - kEnd - 1);
@@ -97,7 +97,7 @@ std::string_view ExtractTrailingCty(std::string_view text) {
 
 void TakeComment(std::string_view tail, const NodeFacts& node, Spot& spot) {
   if (!core::EndsWith(tail, " ")) {
-    spot.Comment = node.KeepsLeadingBlanks ? tail : LTrim(tail);
+    spot.Comment = node.KeepsLeadingBlanks() ? tail : LTrim(tail);
     return;
   }
   const std::string_view word = ExtractTrailingCty(tail);
@@ -115,7 +115,7 @@ bool ParseDxLine(std::string_view line, const NodeFacts& node, const Moment& now
   std::string_view tail = Mid(line, kSpotterColumn);
   if (!TakeSpotter(tail, node, spot) || !TakeFrequency(tail, spot) || !TakeCall(tail, spot))
     return false;
-  if (node.IsWinCluster) spot.DxCq = Right(line, 2);
+  if (node.IsWinCluster()) spot.DxCq = Right(line, 2);
   TakeTime(tail, node, spot);
   TakeComment(tail, node, spot);
   InferDate(spot.SpotHHMM, now, kMidnight, spot.SpotDate);

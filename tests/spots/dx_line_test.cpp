@@ -111,9 +111,9 @@ TEST(DxLine, CommentThatTouchesTheTimeStaysWhole) {
 TEST(DxLine, LeadingBlanksOfACommentStayWhereTheNodeMeansThem) {
   const std::string line =
       "DX de DL1ABC:    14025.0  3Y0J           1234567890123456789012345678X2116Z";
-  EXPECT_EQ(Read(line, {.KeepsLeadingBlanks = true}).Comment,
+  EXPECT_EQ(Read(line, {.kind = session::NodeKind::Skimmer}).Comment,
             "          1234567890123456789012345678X");
-  EXPECT_EQ(Read({.comment = "CW"}, {.KeepsLeadingBlanks = true}).Comment, "CW");
+  EXPECT_EQ(Read({.comment = "CW"}, {.kind = session::NodeKind::Skimmer}).Comment, "CW");
 }
 
 TEST(DxLine, EmptyCommentIsEmpty) {
@@ -161,12 +161,12 @@ TEST(DxLineSpotter, ThatHasLostItsColonKeepsItsLastCharacter) {
 }
 
 TEST(DxLineSpotter, IsInUpperCaseOnClx) {
-  EXPECT_EQ(Read({.spotter = "dl1abc-2"}, {.IsClx = true}).Spotter, "DL1ABC-2");
+  EXPECT_EQ(Read({.spotter = "dl1abc-2"}, {.kind = session::NodeKind::Clx}).Spotter, "DL1ABC-2");
   EXPECT_EQ(Read({.spotter = "dl1abc-2"}).Spotter, "dl1abc-2");
 }
 
 TEST(DxLineWinCluster, EndsInTheZoneOfTheDx) {
-  const Spot spot = Read({.tail = " 38"}, {.IsWinCluster = true});
+  const Spot spot = Read({.tail = " 38"}, {.kind = session::NodeKind::WinCluster});
   EXPECT_EQ(spot.DxCq, "38");
   EXPECT_EQ(spot.OrigCty, "");
   EXPECT_EQ(spot.SpotTime, "2116");
