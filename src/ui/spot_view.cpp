@@ -83,7 +83,10 @@ void SpotView::Refresh() {
   if (current_ && !rows_.Holds(*current_)) current_.reset();
   const int stays =
       verticalScrollBar()->value() - static_cast<int>(batch.removed) * painter_.RowHeight();
-  const std::size_t below = newBelow_ + SpotsFrom(rows_.End() - static_cast<Number>(batch.added));
+  const Number firstAdded = rows_.End() - static_cast<Number>(batch.added);
+  const std::size_t below = newBelow_ + SpotsFrom(firstAdded);
+  if (batch.allNew) widest_ = 0;
+  Measure(firstAdded);
   SetRanges();
   if (batch.allNew || atEnd) {
     GoToEnd();
@@ -99,6 +102,11 @@ std::size_t SpotView::SpotsFrom(Number first) const {
   for (Number row = first; row < rows_.End(); ++row)
     if (!rows_.Row(row).IsStars()) ++spots;
   return spots;
+}
+
+void SpotView::Measure(Number first) {
+  for (Number row = first; row < rows_.End(); ++row)
+    if (!rows_.Row(row).IsStars()) widest_ = std::max(widest_, rows_.Row(row).Text().size());
 }
 
 void SpotView::ChangeSize(int pixels) {
@@ -117,11 +125,8 @@ void SpotView::SetRanges() {
   verticalScrollBar()->setSingleStep(painter_.RowHeight());
   verticalScrollBar()->setPageStep(viewport()->height());
   verticalScrollBar()->setRange(0, std::max(height - viewport()->height(), 0));
-  std::size_t columns = 0;
-  for (const spots::TableRow& row : rows_.Rows())
-    if (!row.IsStars()) columns = std::max(columns, row.Text().size());
   const int width =
-      painter_.ColumnAt(std::min(static_cast<core::Position>(columns), kLongestRow)) + kFromEdge;
+      painter_.ColumnAt(std::min(static_cast<core::Position>(widest_), kLongestRow)) + kFromEdge;
   horizontalScrollBar()->setSingleStep(painter_.RowHeight());
   horizontalScrollBar()->setPageStep(viewport()->width());
   horizontalScrollBar()->setRange(0, std::max(width - viewport()->width(), 0));

@@ -63,6 +63,7 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   std::size_t SpotsFrom(Number first) const;
   void PaintRows(QPainter& painter, const SpotColours& colours);
   void ChangeSize(int pixels);
+  void Measure(Number first);
   void SetRanges();
   void GoToEnd();
   bool AtEnd() const;
@@ -85,6 +86,7 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   Heads* heads_;
   QPushButton* below_;
   std::size_t newBelow_ = 0;
+  std::size_t widest_ = 0;  // row there was since all were new, in characters
   std::optional<Number> current_;
   Number anchor_ = 0;  // where choosing began
   bool pressed_ = false;

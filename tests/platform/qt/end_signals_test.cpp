@@ -10,7 +10,7 @@ namespace {
 
 TEST(QtEndSignals, EachSignalToEndBecomesACallFromTheEventLoop) {
   int ends = 0;
-  const platform::qt::QtEndSignals signals([&ends] { ++ends; });
+  const platform::qt::QtEndSignals endSignals([&ends] { ++ends; });
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
     const int before = ends;
     ASSERT_EQ(std::raise(signal), 0);
@@ -21,7 +21,7 @@ TEST(QtEndSignals, EachSignalToEndBecomesACallFromTheEventLoop) {
 
 TEST(QtEndSignals, BehindThemASignalHasItsUsualEffect) {
   {
-    const platform::qt::QtEndSignals signals([] {});
+    const platform::qt::QtEndSignals endSignals([] {});
   }
   EXPECT_EXIT(static_cast<void>(std::raise(SIGTERM)), testing::KilledBySignal(SIGTERM), "");
 }

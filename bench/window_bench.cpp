@@ -1,0 +1,155 @@
+// The running window on a flood: how long the event loop is away with one event, and what the whole
+// costs. Real time, real sockets: molva-window-bench [lines a second [seconds of each view]].
+
+#include <sys/resource.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <algorithm>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "platform/qt/qt_platform.h"
+#include "program/program.h"
+#include "ui/frames.h"
+#include "ui/main_window.h"
+#include "ui/style.h"
+
+namespace {
+
+using program::Program;
+using program::Views;
+
+// Times each event that the loop hands out, with all that it sets off.
+class TimedApplication : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    if (depth_ > 0) return QApplication::notify(receiver, event);
+    QElapsedTimer timer;
+    timer.start();
+    ++depth_;
+    const bool result = QApplication::notify(receiver, event);
+    --depth_;
+    events_.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    return result;
+  }
+
+  // The milliseconds of each event since the last call.
+  std::vector<double> TakeEvents() { return std::exchange(events_, {}); }
+
+ private:
+  int depth_ = 0;
+  std::vector<double> events_;
+};
+
+double ProcessorSeconds() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+// What happened while one view was on show.
+class Stretch {
+ public:
+  Stretch(TimedApplication& application, const Program& program)
+      : application_(application), program_(program) {
+    application_.TakeEvents();
+  }
+
+  void Report(const char* view) {
+    std::vector<double> events = application_.TakeEvents();
+    std::sort(events.begin(), events.end());
+    const auto above = [&](double limit) {
+      return events.end() - std::upper_bound(events.begin(), events.end(), limit);
+    };
+    const double seconds = static_cast<double>(clock_.elapsed()) / 1e3;
+    std::cout << view << ": " << program_.spotPipeline.SpotsShown - spots_ << " spots in "
+              << seconds << " s, " << events.size() << " events, the longest " << events.back()
+              << " ms, " << above(16) << " over 16 ms, " << above(50) << " over 50 ms, "
+              << 100 * (ProcessorSeconds() - processor_) / seconds << " % of a core" << std::endl;
+  }
+
+ private:
+  static QElapsedTimer Started() {
+    QElapsedTimer timer;
+    timer.start();
+    return timer;
+  }
+
+  TimedApplication& application_;
+  const Program& program_;
+  std::uint64_t spots_ = program_.spotPipeline.SpotsShown;
+  double processor_ = ProcessorSeconds();
+  QElapsedTimer clock_ = Started();
+};
+
+// The port that the node says it has.
+QByteArray PortOf(QProcess& node) {
+  node.waitForReadyRead();
+  const QByteArray address = node.readLine().split(' ').value(2);
+  return address.mid(address.lastIndexOf(':') + 1);
+}
+
+void WriteConfiguration(const QString& folder, const QByteArray& port) {
+  QFile file(folder + "/molva.cfg");
+  if (!file.open(QFile::WriteOnly)) return;
+  file.write(
+      "\"My Call\",\"K1TST-2\"\r\n\"My Name\",\"ANNA\"\r\n\"My QTH\",\"Ann Arbor\"\r\n"
+      "\"My Grid\",\"EN82DG\"\r\n\"Gmt Offset\",\"Ok\"\r\n\"AutoStart\",-1\r\n"
+      "\"SelectedNode\",\"N0DE-1\"\r\n\"SelectedNodesAddress\",\"127.0.0.1\"\r\n"
+      "\"PrimaryPort\",\"" +
+      port + "\"\r\n");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  TimedApplication application(argc, argv);
+  const QString rate = argc > 1 ? argv[1] : "2000";
+  const int seconds = argc > 2 ? QString(argv[2]).toInt() : 60;
+
+  QProcess node;
+  node.start(PRACTICE_NODE, {"--port", "0", "--rate", rate});
+  const QTemporaryDir folder;
+  WriteConfiguration(folder.path(), PortOf(node));
+
+  platform::qt::QtPlatform qt;
+  const platform::Platform platform = qt.Platform();
+  Program program(platform, folder.path().toStdString(), {.quit = [] { QApplication::exit(0); }});
+  ui::Wardrobe wardrobe(program.appearance, application);
+  ui::Frames frames(platform.scheduler);
+  ui::MainWindow window(program, frames, wardrobe.theme);
+  program.Start();
+  window.show();
+
+  constexpr auto kSettle = 5000;  // in milliseconds: start, login, the stores filling
+  std::unique_ptr<Stretch> stretch;
+  const auto begin = [&](Views::Tab tab) {
+    program.views.Choose(tab);
+    QTimer::singleShot(1000, &application,
+                       [&] { stretch = std::make_unique<Stretch>(application, program); });
+  };
+  QTimer::singleShot(kSettle, &application, [&] { begin(Views::Dx); });
+  QTimer::singleShot(kSettle + (1 + seconds) * 1000, &application, [&] {
+    stretch->Report("DX tab");
+    begin(Views::LoginMsg);
+  });
+  QTimer::singleShot(kSettle + 2 * (1 + seconds) * 1000, &application, [&] {
+    stretch->Report("Login message");
+    program.RequestClose(Program::Close::WithoutAsking);
+  });
+  const int result = QApplication::exec();
+  node.terminate();
+  node.waitForFinished();
+  return result;
+}
