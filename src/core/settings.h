@@ -149,9 +149,10 @@ struct Settings {
   bool DontUseMyFilter = false;
   bool AutoFilter = false;
   bool CorrectErrors = true;
-  bool RejSpots = false;
+  bool RejSpots = false;  // the reject lists are in force
   bool RejectInvalidCountry = false;
   bool RejectNotLoTWeQSL = false;
+  bool RejectCounties = false;
   int FilterBy = 1;
   bool GetMissedOnes = true;
   int GetNr = 100;
@@ -167,7 +168,9 @@ struct Settings {
   int KeepSpotsDays = 7;
   bool DeleteDxLogs = false;
   bool LoadLogFileOnStartup = false;
-  bool ShowSkimmerDupes = false;
+  bool ShowSkimmerDupes = false;  // the share of duplicates among Skimmers' spots is on show
+  bool AllowSkimmerDupes = false;
+  bool ShowOwnSkimmerSpots = false;  // duplicates too, of the operator's own call
   bool Sys1 = false;
   bool Sys2 = false;
   bool ArNode = false;

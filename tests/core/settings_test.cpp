@@ -253,6 +253,14 @@ TEST(FormatSettings, SomeFlagsAreWords) {
               HasSubstr("\"Show Skimmer Dupes\",\"True\"\r\n"));
 }
 
+TEST(FormatSettings, SwitchesOfTheAcceptanceOfSpotsAreKeptOnceTheyAreOn) {
+  EXPECT_THAT(Written(&Settings::RejectCounties), HasSubstr("\r\n\"Reject Counties\",-1\r\n"));
+  EXPECT_THAT(Written(&Settings::AllowSkimmerDupes),
+              HasSubstr("\r\n\"Allow Skimmer Dupes\",-1\r\n"));
+  EXPECT_THAT(Written(&Settings::ShowOwnSkimmerSpots),
+              HasSubstr("\r\n\"Show Own Skimmer Spots\",-1\r\n"));
+}
+
 TEST(FormatSettings, KeysAtTheirDefaultThatAreOptionalAreLeftOut) {
   const std::string text = Written(Settings{});
   for (const char* key : {"Show Spot Nrs",
@@ -283,6 +291,9 @@ TEST(FormatSettings, KeysAtTheirDefaultThatAreOptionalAreLeftOut) {
                           "Theme",
                           "Raw Size",
                           "Login Size",
+                          "Reject Counties",
+                          "Allow Skimmer Dupes",
+                          "Show Own Skimmer Spots",
                           "TncParity",
                           "TncDataBits",
                           "TncStopBits",
