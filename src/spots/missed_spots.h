@@ -14,9 +14,9 @@ struct MissedFilter {
     double low;  // kHz
     double high;
   };
-  std::vector<Range> ranges;           // that the bands and modes pass; empty: all
-  std::vector<std::string> countries;  // of spotters, by their prefixes; empty: any
-  bool rejectsCountries = false;       // these are the ones not wanted; else the only ones
+  std::vector<Range> ranges = {};           // that the bands and modes pass; empty: all
+  std::vector<std::string> countries = {};  // of spotters, by their prefixes; empty: any
+  bool rejectsCountries = false;            // these are the ones not wanted; else the only ones
 };
 
 // The filter in an AR-Cluster's query language, a blank around each word.

@@ -15,7 +15,8 @@ namespace spots {
 
 // Writes accepted spots to the files of their days. Lines are gathered and handed to the system
 // together, half a second behind the first or when there are many, so that no file stays open in
-// between and a flood costs few calls. A crash of the program loses that half second at most.
+// between and a flood costs few calls. A crash of the program loses that half second at most; its
+// end, which calls Close, nothing.
 //
 // Lines that the disk doesn't take are lost; the next ones are tried again.
 class SpotLog {
@@ -28,7 +29,6 @@ class SpotLog {
           std::function<void(platform::Files::Fault)> trouble);
   SpotLog(const SpotLog&) = delete;
   SpotLog& operator=(const SpotLog&) = delete;
-  ~SpotLog() { Close(); }
 
   // The start of the program or of a day: closes the log and makes the folder of today's year.
   void EnableLoggingSpots();
