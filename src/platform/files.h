@@ -39,7 +39,8 @@ class Files {
   // Creates the folder and those above it; those that it creates are their owner's alone.
   // No fault if it is there.
   virtual Fault MakeFolder(const std::string& path) = 0;
-  // Names (not paths) in a folder, sorted; empty if there is no such folder.
+  // Names (not paths) of the files and folders in a folder, sorted; empty if there is no such
+  // folder.
   virtual std::vector<std::string> List(const std::string& folder) = 0;
 
   // A lock that goes with this process, however it ends. False if another process holds it.

@@ -39,4 +39,12 @@ TEST(SimFiles, DeniedFolderDeniesAllBelow) {
   EXPECT_EQ(files.Read("/home/a/b").fault, Files::Fault::Denied);
 }
 
+TEST(SimFiles, ListNamesTheFilesAndTheFoldersOfAFolder) {
+  SimFiles files;
+  files.content["/a/b"] = files.content["/a/2026/x"] = files.content["/a/2026/y"] = "";
+  files.folders.insert("/a/2027");
+  EXPECT_EQ(files.List("/a"), (std::vector<std::string>{"2026", "2027", "b"}));
+  EXPECT_TRUE(files.List("/none").empty());
+}
+
 }  // namespace

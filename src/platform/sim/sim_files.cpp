@@ -56,14 +56,15 @@ Files::Fault SimFiles::MakeFolder(const std::string& path) {
 }
 
 std::vector<std::string> SimFiles::List(const std::string& folder) {
-  std::vector<std::string> names;
+  std::set<std::string> names;
   const std::string below = folder + "/";
-  for (const auto& [path, bytes] : content) {
-    if (!path.starts_with(below)) continue;
-    const std::string name = path.substr(below.size());
-    if (name.find('/') == std::string::npos) names.push_back(name);
-  }
-  return names;
+  const auto note = [&](const std::string& path) {
+    if (path.starts_with(below))
+      names.insert(path.substr(below.size(), path.find('/', below.size()) - below.size()));
+  };
+  for (const auto& [path, bytes] : content) note(path);
+  for (const std::string& path : folders) note(path);
+  return {names.begin(), names.end()};
 }
 
 bool SimFiles::Denied(const std::string& path) const {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "core/controls.h"
+#include "core/settings.h"
+
+namespace spots {
+
+// The display of "Show Spot Nrs": how many rows the view holds, and the counts beside the bands.
+class SpotNumbers {
+ public:
+  // The settings outlive it.
+  explicit SpotNumbers(const core::Settings& settings);
+
+  core::Property<bool> Shown{false};  // the counts beside the bands
+  core::Label txtrtb2;                // the rows in the view
+
+  // The setting has been read or changed.
+  void SetupSpotNrs();
+  // The view holds that many rows.
+  void ShowRows(std::size_t rows) { txtrtb2.Caption.Set(std::to_string(rows)); }
+
+ private:
+  const core::Settings& settings_;
+};
+
+// A number right-aligned in two columns, with a blank behind it.
+std::string FixNr(int n);
+
+}  // namespace spots

@@ -1,0 +1,105 @@
+#include "spots/spots_form.h"
+
+#include <string>
+#include <utility>
+
+#include "core/text.h"
+
+namespace spots {
+namespace {
+
+using core::Settings;
+
+struct Tick {
+  core::Check SpotsForm::*box;
+  bool Settings::*setting;
+  const char* caption;
+};
+
+constexpr std::array kTicks = {
+    Tick{&SpotsForm::chkSave, &Settings::LogDxSpots, "Save Dx Spots To Log File"},
+    Tick{&SpotsForm::chkLoad, &Settings::LoadLogFileOnStartup,
+         "Load Old Spots from File on Restart"},
+    Tick{&SpotsForm::chkDelete, &Settings::DeleteDxLogs, "Delete Old DX Log Files"},
+    Tick{&SpotsForm::chkShowNrs, &Settings::ShowSpotNrs, "Show Spot Nrs"},
+};
+
+constexpr int kDefaultMemory = 200;
+
+}  // namespace
+
+// A box with a number. One below `least` counts as `fallback`.
+struct SpotsForm::Number {
+  core::TextBox& box;
+  int& setting;
+  const char* caption;
+  int least;
+  int fallback;
+
+  int Typed() const {
+    const int typed = core::ValInt(box.Text.Get());
+    return typed < least ? fallback : typed;
+  }
+};
+
+SpotsForm::SpotsForm(Settings& settings, SpotReload& reload, Needs needs)
+    : settings_(settings), reload_(reload), needs_(std::move(needs)) {
+  lblMemory.Caption.Set("Max Spots Displayed");
+  BindChecks();
+  BindNumbers();
+  BindReload();
+}
+
+std::array<SpotsForm::Number, 4> SpotsForm::Numbers() {
+  return {{{Text1, settings_.KeepSpotsDays, "Number of days to keep", 1, 1},
+           {txtReloadNr, settings_.ReloadHours, "Number of hours to reload", 0, 0},
+           {txtMemory[0], settings_.SpotMemoryAll, "ALL", 1, kDefaultMemory},
+           {txtMemory[1], settings_.SpotMemorySingle, "Single", 1, kDefaultMemory}}};
+}
+
+void SpotsForm::Show() {
+  for (const Tick& tick : kTicks) (this->*tick.box).Value.Set(settings_.*tick.setting);
+  for (const Number& number : Numbers()) {
+    const int kept = number.setting < number.least ? number.fallback : number.setting;
+    number.box.Text.Set(std::to_string(kept));
+  }
+  Open.Set(true);
+}
+
+void SpotsForm::BindChecks() {
+  for (const Tick& tick : kTicks) {
+    core::Check& box = this->*tick.box;
+    box.Caption.Set(tick.caption);
+    bound_.push_back(box.Click.Add([this, &box, setting = tick.setting] {
+      settings_.*setting = box.Value.Get();
+      needs_.settingsChanged();
+    }));
+  }
+  bound_.push_back(chkSave.Click.Add([this] { needs_.loggingChanged(); }));
+  bound_.push_back(chkShowNrs.Click.Add([this] { needs_.setupSpotNrs(); }));
+}
+
+void SpotsForm::BindNumbers() {
+  for (const Number& number : Numbers()) {
+    number.box.Caption.Set(number.caption);
+    bound_.push_back(number.box.Change.Add([this, number] {
+      number.setting = number.Typed();
+      needs_.settingsChanged();
+    }));
+  }
+}
+
+void SpotsForm::BindReload() {
+  cmdReload.Caption.Set("Reload");
+  cmdStop.Caption.Set("Stop");
+  bound_.push_back(cmdReload.Click.Add([this] { reload_.ReloadSpots(); }));
+  bound_.push_back(cmdStop.Click.Add([this] { reload_.Stop(); }));
+  bound_.push_back(reload_.Reloading.Observe([this](bool reloading) {
+    cmdReload.Enabled.Set(!reloading);
+    cmdStop.Enabled.Set(reloading);
+  }));
+  bound_.push_back(reload_.SpotsRead.Observe(
+      [this](std::uint64_t spots) { lblCount.Caption.Set(std::to_string(spots)); }));
+}
+
+}  // namespace spots
