@@ -30,10 +30,10 @@ class CtyTable {
     Heading heading;
   };
 
-  // Takes the file's text in place of what was read before. A text of 300 lines or less leaves the
-  // table empty. Where the file lacks Marion Island, the table gains it and the result is what the
-  // file should hold from now on: the country lines alone. Total, and bounded by kMostRows; lines
-  // may end in CR LF or LF.
+  // Takes the file's text in place of what was read before. A text of fewer than 300 line ends
+  // leaves the table empty. Where the file lacks Marion Island, the table gains it and the result
+  // is what the file should hold from now on: the country lines alone. Total, and bounded by
+  // kMostRows; lines may end in CR LF or LF.
   std::optional<std::string> Read(std::string_view text);
   void Clear();
   // The headings follow it. There is none at first.

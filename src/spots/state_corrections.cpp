@@ -19,7 +19,7 @@ constexpr std::array<Possession, 7> kPossessions = {{
 }};
 
 struct Province {
-  std::array<std::string_view, 3> keys;
+  std::array<std::string_view, 3> keys;  // none is empty
   std::string_view state;
   std::string_view cq;
   std::string_view itu;
