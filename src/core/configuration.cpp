@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/file_fault.h"
 #include "core/text.h"
 
 namespace core {
@@ -44,24 +45,6 @@ Message WriteFaultMessage() {
           "The \"System Administrator\" must update permission.",
           Message::Kind::Warning,
           {Answer::Ok}};
-}
-
-struct FaultName {
-  int number;
-  std::string_view description;
-};
-
-FaultName NameOf(Fault fault) {
-  switch (fault) {
-    case Fault::Denied:
-      return {70, "Permission denied"};
-    case Fault::Full:
-      return {61, "Disk full"};
-    case Fault::NotFound:
-      return {76, "Path not found"};
-    default:
-      return {57, "Device I/O error"};
-  }
 }
 
 }  // namespace
