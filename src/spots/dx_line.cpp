@@ -1,6 +1,9 @@
 #include "spots/dx_line.h"
 
 #include "core/text.h"
+#include "spots/added_words.h"
+#include "spots/clock_time.h"
+#include "spots/spot_line.h"
 
 namespace spots {
 namespace {
@@ -12,20 +15,10 @@ using core::LTrim;
 using core::Mid;
 using core::Position;
 using core::Right;
-using core::Trim;
-
-// Nodes send less than a hundred characters. What is far beyond that is no spot.
-constexpr std::size_t kLongestLine = 4096;
 
 constexpr Position kSpotterColumn = 7;
 
 constexpr MidnightLimits kMidnight = {.late = 2345, .early = 15};
-
-void EmptyPlainFields(Spot& spot) {
-  for (std::string* field : {&spot.SpotDate, &spot.OrigState, &spot.OrigCty, &spot.DxCty,
-                             &spot.DxCq, &spot.Node, &spot.Comment, &spot.DxGrid, &spot.OrigGrid})
-    field->clear();
-}
 
 // Where the colon stands that a digit follows at once; 0 if there is none.
 Position GluedColon(std::string_view word) {
@@ -49,9 +42,7 @@ bool TakeSpotter(std::string_view& tail, const NodeFacts& node, Spot& spot) {
     tail = LTrim(tail.substr(word.size()));
   }
   if (core::EndsWith(word, ":")) word.remove_suffix(1);
-  spot.Spotter = word;
-  if (node.IsClx())
-    for (char& byte : spot.Spotter) byte = core::UCase(byte);
+  SetSpotter(word, node, spot);
   return true;
 }
 
@@ -64,60 +55,69 @@ bool TakeFrequency(std::string_view& tail, Spot& spot) {
 }
 
 bool TakeCall(std::string_view& tail, Spot& spot) {
-  const Position blank = InStr(2, tail, " ");
+  tail = LTrim(tail);
+  const Position blank = InStr(tail, " ");
   if (blank == 0) return false;
-  spot.DxCall = LTrim(Left(tail, blank - 1));
+  spot.DxCall = Left(tail, blank - 1);
   tail = Mid(tail, blank + 1);
   return true;
 }
 
-// The time and the word behind it, if there is one, from the end of `tail`.
-void TakeTime(std::string_view& tail, const NodeFacts& node, Spot& spot) {
+constexpr Position kTimeWidth = 5;  // with its "Z"
+
+bool IsTimeAt(Position at, std::string_view text) {
+  if (at < 1 || !IsClockTime(Mid(text, at, 4))) return false;
+  const std::string_view behind = Mid(text, at + kTimeWidth, 1);
+  // At the end of a line the time may touch the comment.
+  return behind.empty() || (behind == " " && (at == 1 || Mid(text, at - 1, 1) == " "));
+}
+
+// Where the last word like "2116Z" begins; 0 if there is none.
+Position LastTime(std::string_view text) {
+  for (auto z = text.rfind('Z'); z != std::string_view::npos; z = text.rfind('Z', z - 1)) {
+    const Position at = static_cast<Position>(z) + 1 - (kTimeWidth - 1);
+    if (IsTimeAt(at, text)) return at;
+    if (z == 0) break;
+  }
+  return 0;
+}
+
+struct Ending {
+  std::string_view before;
+  std::string_view time;
+  std::string_view behind;
+};
+
+// Of a line that shows no time: the place is counted from the line's end, or from its last word.
+Ending PresumedEnding(std::string_view text) {
   constexpr Position kEnd = 10;
-  const std::string_view last = Right(tail, kEnd);
+  const std::string_view last = Right(text, kEnd);
   const Position blank = InStr(6, last, " ");
-  const Position time = blank > 0 ? blank - 5 : 6;
-  if (blank > 0 && !node.IsWinCluster()) spot.OrigCty = Mid(last, blank + 1);
-  spot.SpotTime = Mid(last, time, 4);
-  spot.SpotHHMM = core::ValInt(spot.SpotTime);
-  tail = Left(tail, Len(tail) + time - kEnd - 1);
+  const Position time = blank > 0 ? blank - kTimeWidth : 6;
+  const std::string_view behind = blank > 0 ? Mid(last, blank + 1) : std::string_view();
+  return {Left(text, Len(text) + time - kEnd - 1), Mid(last, time, 4), behind};
 }
 
-// A word of up to five characters that two blanks set apart at the end of a comment, with the
-// blanks behind it: a country, or a zone.
-std::string_view ExtractTrailingCty(std::string_view text) {
-  if (Len(text) < 24) return {};
-  std::string_view word = LTrim(Right(text, 8));
-  for (const Position length : {7, 6, 5, 4}) {
-    if (Len(word) < length) return word;
-    word = LTrim(Right(text, length));
-  }
-  return Len(word) >= 3 ? std::string_view() : word;
-}
-
-void TakeComment(std::string_view tail, const NodeFacts& node, Spot& spot) {
-  if (!core::EndsWith(tail, " ")) {
-    spot.Comment = node.KeepsLeadingBlanks() ? tail : LTrim(tail);
-    return;
-  }
-  const std::string_view word = ExtractTrailingCty(tail);
-  spot.Comment = Trim(Left(tail, Len(tail) - Len(word)));
-  std::string_view country = Trim(word);
-  if (core::StartsWith(country, "+")) country.remove_prefix(1);
-  spot.DxCty = country;
+Ending EndingOf(std::string_view text) {
+  const Position time = LastTime(text);
+  if (time == 0) return PresumedEnding(text);
+  return {Left(text, time - 1), Mid(text, time, 4), Mid(text, time + kTimeWidth)};
 }
 
 }  // namespace
 
-bool ParseDxLine(std::string_view line, const NodeFacts& node, const Moment& now, Spot& spot) {
+bool ParseDxLine(std::string_view line, const NodeFacts& node, const WordFacts& words,
+                 const Moment& now, Spot& spot) {
   if (line.size() > kLongestLine) return false;
   EmptyPlainFields(spot);
   std::string_view tail = Mid(line, kSpotterColumn);
   if (!TakeSpotter(tail, node, spot) || !TakeFrequency(tail, spot) || !TakeCall(tail, spot))
     return false;
   if (node.IsWinCluster()) spot.DxCq = Right(line, 2);
-  TakeTime(tail, node, spot);
-  TakeComment(tail, node, spot);
+  const Ending ending = EndingOf(tail);
+  SetTime(ending.time, spot);
+  ReadComment(ending.before, node, words, spot);
+  if (!node.IsWinCluster()) ReadOrigText(ending.behind, node, words, spot);
   InferDate(spot.SpotHHMM, now, kMidnight, spot.SpotDate);
   return true;
 }

@@ -5,6 +5,7 @@
 #include "spots/node_facts.h"
 #include "spots/spot.h"
 #include "spots/spot_date.h"
+#include "spots/word_facts.h"
 
 namespace spots {
 
@@ -17,6 +18,9 @@ inline constexpr std::string_view kDxLineStart = "DX de ";
 //
 // Two bent forms are read as well: a spotter that fills the columns up to the frequency
 // ("DX de EA8/DF4UE-#:21149.0"), and one that has lost its colon.
-bool ParseDxLine(std::string_view line, const NodeFacts& node, const Moment& now, Spot& spot);
+//
+// The time is the last word like "2210Z"; what stands around it is read as added_words.h says.
+bool ParseDxLine(std::string_view line, const NodeFacts& node, const WordFacts& words,
+                 const Moment& now, Spot& spot);
 
 }  // namespace spots

@@ -28,7 +28,7 @@ bool SpotPipeline::dx(std::string_view line) {
   if (Zv11Seen || !line.starts_with(kDxLineStart)) return false;
   const NodeFacts node = needs_.nodeFacts();
   if (settling_.Drops(node)) return true;
-  if (ParseDxLine(line, node, MomentNow(calendar_), spot)) DisplayDx();
+  if (ParseDxLine(line, node, WordFacts{}, MomentNow(calendar_), spot)) DisplayDx();
   ClearSpotExtras(spot);
   return true;
 }

@@ -13,7 +13,7 @@ constexpr Moment kNow = {.dayNumber = 20777, .date = "20-Nov-2026", .minutes = 2
 
 std::optional<Spot> Parse(std::string_view line, const NodeFacts& node = {}) {
   Spot spot;
-  return ParseDxLine(line, node, kNow, spot) ? std::optional(spot) : std::nullopt;
+  return ParseDxLine(line, node, {}, kNow, spot) ? std::optional(spot) : std::nullopt;
 }
 
 // The spot of a line that must be one.
@@ -44,10 +44,6 @@ TEST(DxLineMalformed, FrequencyThatIsNoNumberIsZero) {
   EXPECT_EQ(Read({.kHz = "nan"}).Freq, 0);
   EXPECT_EQ(Read({.kHz = "inf"}).Freq, 0);
   EXPECT_EQ(Read({.kHz = "1e999"}).Freq, 0);
-}
-
-TEST(DxLineMalformed, MissingCallIsEmpty) {
-  EXPECT_EQ(Read("DX de DL1ABC:    14025.0   3Y0J         CW                2116Z").DxCall, "");
 }
 
 TEST(DxLineMalformed, WithoutATimeTheEndIsTakenForIt) {
@@ -121,9 +117,16 @@ TEST(DxLine, EmptyCommentIsEmpty) {
   EXPECT_EQ(Read({.comment = "", .tail = " JN58"}).Comment, "");
 }
 
-TEST(DxLine, OneBlankOrTwoStandBeforeTheCall) {
-  EXPECT_EQ(Read("DX de DL1ABC: 14025.0 3Y0J CW up 2 2116Z").DxCall, "3Y0J");
-  EXPECT_EQ(Read("DX de DL1ABC: 14025.0  3Y0J CW up 2 2116Z").DxCall, "3Y0J");
+TEST(DxLine, AnyBlanksPartTheFrequencyFromTheCall) {
+  for (const std::string blanks : {" ", "  ", "   ", "       "}) {
+    const Spot spot = Read("DX de DL1ABC: 14025.0" + blanks + "3Y0J CW up 2 2116Z");
+    EXPECT_EQ(spot.DxCall, "3Y0J");
+    EXPECT_EQ(spot.Comment, "CW up 2");
+  }
+}
+
+TEST(DxLine, CallOfOneCharacterIsRead) {
+  EXPECT_EQ(Read("DX de DL1ABC: 14025.0 K CW up 2 2116Z").DxCall, "K");
 }
 
 TEST(DxLine, CallOfMoreThanTwelveCharactersStaysWhole) {
@@ -137,6 +140,54 @@ TEST(DxLine, FrequencyIsTakenAsWritten) {
   EXPECT_EQ(Read({.kHz = "14025.25"}).Freq, 14025.25);
   EXPECT_EQ(Read({.kHz = "14025"}).Freq, 14025);
   EXPECT_EQ(Read({.kHz = "14025.0CW"}).Freq, 14025);
+}
+
+TEST(DxLineTime, IsTheLastWordThatReadsAsOne) {
+  const Spot spot = Read({.comment = "QRV 2000Z to 2100Z", .tail = " JN58"});
+  EXPECT_EQ(spot.SpotTime, "2116");
+  EXPECT_EQ(spot.Comment, "QRV 2000Z to 2100Z");
+  EXPECT_EQ(spot.OrigCty, "JN58");
+}
+
+TEST(DxLineTime, MustBeOneOfTheDay) {
+  for (const std::string word : {"2400Z", "2360Z", "9999Z", "-100Z", "21.6Z", "2116z", "216Z"})
+    EXPECT_EQ(Read({.tail = " " + word}).SpotTime, "2116") << word;
+  for (const std::string time : {"0000", "0959", "1900", "2359"}) {
+    EXPECT_EQ(Read({.time = time}).SpotTime, time);
+    EXPECT_EQ(Read({.time = time}).SpotHHMM, std::stoi(time));
+  }
+}
+
+TEST(DxLineTime, IsNoPartOfALongerWord) {
+  for (const std::string word : {"2100Zulu", "@2100Z", "2100Z,", "(2100Z)"}) {
+    const Spot spot = Read({.tail = " " + word + " x"});
+    EXPECT_EQ(spot.SpotTime, "2116") << word;
+    EXPECT_EQ(spot.OrigCty, word + " x");
+  }
+}
+
+TEST(DxLineTime, MayTouchTheCommentAtTheEndOfALine) {
+  const Spot spot = Read("DX de DL1ABC:    14025.0  3Y0J         from 2100Z on, 59 in Bonn.2116Z");
+  EXPECT_EQ(spot.SpotTime, "2116");
+  EXPECT_EQ(spot.Comment, "from 2100Z on, 59 in Bonn.");
+}
+
+TEST(DxLineTime, StandsRightBehindTheCallWhereThereIsNoComment) {
+  const Spot spot = Read("DX de DL1ABC: 14025.0 3Y0J 2116Z");
+  EXPECT_EQ(spot.SpotTime, "2116");
+  EXPECT_EQ(spot.Comment, "");
+}
+
+TEST(DxLineTime, WithoutOneItsPlaceIsCountedFromTheEnd) {
+  const Spot spot = Read({.comment = "CW up 2", .time = "2560", .tail = " JN58"});
+  EXPECT_EQ(spot.SpotTime, "2560");
+  EXPECT_EQ(spot.OrigCty, "JN58");
+  EXPECT_EQ(spot.Comment, "CW up 2");
+}
+
+TEST(DxLine, TextBehindTheTimeMayBeLongAndIsTrimmed) {
+  for (const std::string tail : {"(JO62QM)", "FN20", "two words", "K", "Fed. Rep. of Germany"})
+    EXPECT_EQ(Read({.tail = "  " + tail + "  "}).OrigCty, tail);
 }
 
 TEST(DxLineSpotter, ThatFillsItsColumnsIsParted) {
@@ -203,19 +254,22 @@ TEST(DxLineCountry, IsNotLookedForInAShortComment) {
 
 TEST(DxLine, NothingOfTheSpotBeforeIsLeft) {
   Spot spot;
-  const auto fields = {&spot.Comment, &spot.Node,      &spot.DxCty,  &spot.DxCq,
-                       &spot.OrigCty, &spot.OrigState, &spot.DxGrid, &spot.OrigGrid};
+  const auto fields = {&spot.Comment,   &spot.Node,        &spot.DxCty,  &spot.DxCq,
+                       &spot.OrigCty,   &spot.OrigState,   &spot.DxGrid, &spot.OrigGrid,
+                       &spot.SpotterIp, &spot.OrigLocation};
   for (auto* field : fields) *field = "old";
-  ASSERT_TRUE(ParseDxLine(Line{.comment = ""}.Text(), {}, kNow, spot));
+  spot.ExpandedLine = true;
+  ASSERT_TRUE(ParseDxLine(Line{.comment = ""}.Text(), {}, {}, kNow, spot));
   for (const auto* field : fields) EXPECT_EQ(*field, "");
+  EXPECT_FALSE(spot.ExpandedLine);
 }
 
 TEST(DxLine, DateOfALateTimeRightBehindMidnightIsYesterdays) {
   Spot spot;
   const Moment early = {.dayNumber = 20777, .date = "20-Nov-2026", .minutes = 14};
-  ASSERT_TRUE(ParseDxLine(Line{.time = "2346"}.Text(), {}, early, spot));
+  ASSERT_TRUE(ParseDxLine(Line{.time = "2346"}.Text(), {}, {}, early, spot));
   EXPECT_EQ(spot.SpotDate, "19-Nov-2026");
-  ASSERT_TRUE(ParseDxLine(Line{.time = "2345"}.Text(), {}, early, spot));
+  ASSERT_TRUE(ParseDxLine(Line{.time = "2345"}.Text(), {}, {}, early, spot));
   EXPECT_EQ(spot.SpotDate, "20-Nov-2026");
 }
 

@@ -1,0 +1,121 @@
+#include "spots/spot_lines.h"
+
+#include <utility>
+
+#include "spots/extended_line.h"
+#include "spots/grid_square.h"
+#include "spots/show_dx_line.h"
+#include "spots/spot_line.h"
+
+namespace spots {
+namespace {
+
+// A shorter row of a list is cut off.
+constexpr std::size_t kShortRow = 74;
+
+}  // namespace
+
+SpotLines::SpotLines(platform::Scheduler& scheduler, core::Calendar& calendar, Spot& spot,
+                     bool& Zv11Seen, Needs needs)
+    : list(scheduler, ListNeeds()),
+      spot_(spot),
+      zv11Seen_(Zv11Seen),
+      needs_(std::move(needs)),
+      settling_(scheduler, needs_.sendEmptyLine),
+      clockCheck_(calendar, needs_.readUtcOffset) {}
+
+SpotList::Needs SpotLines::ListNeeds() {
+  return {
+      .RcvdPrompt = [this](std::string_view line) { return needs_.RcvdPrompt(line); },
+      .sessionUp = [this] { return needs_.nodeFacts().SessionUp; },
+      .directoryRuns = [this] { return needs_.directoryRuns(); },
+      .latency = [this] { return needs_.latency(); },
+      .newestFirst = [this] { return !needs_.nodeFacts().IsZelva(); },
+      .replayBegins =
+          [this] {
+            if (!zv11Seen_) EmptyPlainFields(spot_);
+          },
+      .replay = [this](std::string_view row) { Replay(row); },
+      .sort = [this] { needs_.sort(); },
+  };
+}
+
+bool SpotLines::ar17(std::string_view line) {
+  if (!line.starts_with(kAr17Start)) return false;
+  // Extended or not, a line that comes before the format is settled lets the node be asked on.
+  if (!needs_.ar17Probing()) settling_.Drops(needs_.nodeFacts());
+  Link(line);
+  switch (ParseAr17Line(line, spot_)) {
+    case LineOutcome::FieldError:
+      errors.CountAr17();
+      break;
+    case LineOutcome::Spot:
+      clockCheck_.Check(spot_);
+      Display();
+      break;
+    case LineOutcome::None:
+      break;
+  }
+  return true;
+}
+
+bool SpotLines::ZV11CarrotCounter(std::string_view line) {
+  if (!line.starts_with(kZv11Start)) return false;
+  if (list.ShDxDone)
+    ReadZV11(line);
+  else
+    list.ZV11_SpotsOthers(line);
+  zv11Seen_ = true;
+  return true;
+}
+
+void SpotLines::ReadZV11(std::string_view line) {
+  const NodeFacts node = needs_.nodeFacts();
+  const bool keepsGrids = node.IsSpider() && needs_.RecordGrid;
+  const LineOutcome outcome = ParseZV11Line(line, node, keepsGrids, spot_);
+  if (outcome == LineOutcome::FieldError) errors.CountZv11(line);
+  if (outcome != LineOutcome::Spot) return;
+  if (spot_.ExpandedLine) {
+    Link(line);
+    clockCheck_.Check(spot_);
+  }
+  if (keepsGrids) RecordGrids();
+  Display();
+}
+
+void SpotLines::RecordGrids() {
+  if (ValidGrid4(spot_.OrigGrid)) needs_.RecordGrid(spot_.OrigGrid, spot_.Spotter);
+  if (ValidGrid4(spot_.DxGrid)) needs_.RecordGrid(spot_.DxGrid, spot_.DxCall);
+}
+
+void SpotLines::ReadShDx(std::string_view row) {
+  spot_.ExpandedLine = false;
+  if (ParseShDxLine(row, needs_.nodeFacts(), needs_.wordFacts(), spot_)) Display();
+}
+
+void SpotLines::Replay(std::string_view row) {
+  if (zv11Seen_ || needs_.nodeFacts().IsZelva())
+    ReadZV11(row);
+  else if (row.size() > kShortRow)
+    ReadShDx(row);
+}
+
+void SpotLines::Link(std::string_view line) {
+  if (!needs_.txtDDEsend || line.size() > kLongestLine) return;
+  linked_ = line;
+  linked_.append(" (").append(needs_.nodeCall()).append(")");
+  needs_.txtDDEsend(linked_);
+}
+
+void SpotLines::Display() {
+  needs_.DisplayDx();
+  ClearSpotExtras(spot_);
+}
+
+void SpotLines::Disconnected() {
+  zv11Seen_ = false;
+  list.Disconnected();
+  errors.Forget();
+}
+
+}  // namespace spots

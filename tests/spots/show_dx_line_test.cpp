@@ -1,0 +1,178 @@
+#include "spots/show_dx_line.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+namespace spots {
+namespace {
+
+using session::NodeKind;
+
+// A row of a list, in the columns of most nodes.
+struct Row {
+  std::string kHz = " 14025.0";
+  std::string call = "3Y0J       ";
+  std::string date = "20-Nov-2026";
+  std::string time = "2116Z";
+  std::string comment = "CW up 2                     ";
+  std::string spotter = "<DL1ABC>";
+
+  std::string Text() const {
+    return kHz + "  " + call + " " + date + " " + time + " " + comment + spotter;
+  }
+};
+
+const WordFacts kTable = {.CountriesLoaded = true,
+                          .isPrefix = [](std::string_view word) { return word == "DL"; }};
+
+std::optional<Spot> Parse(const std::string& row, const NodeFacts& node = {},
+                          const WordFacts& words = {}) {
+  Spot spot;
+  return ParseShDxLine(row, node, words, spot) ? std::optional(spot) : std::nullopt;
+}
+
+Spot Read(const Row& row, const NodeFacts& node = {}, const WordFacts& words = {}) {
+  const auto spot = Parse(row.Text(), node, words);
+  EXPECT_TRUE(spot) << row.Text();
+  return spot.value_or(Spot());
+}
+
+TEST(ShDxRow, IsToldByFrequencyTimeAndYear) {
+  EXPECT_TRUE(IsShowDxRow(Row{}.Text()));
+  EXPECT_TRUE(IsShowDxRow(Row{.kHz = "  1800.0"}.Text()));
+  EXPECT_TRUE(IsShowDxRow(Row{.date = " 1-Mar-2026"}.Text()));
+  EXPECT_TRUE(IsShowDxRow(Row{.date = "20-Nov-2003"}.Text()));
+  EXPECT_TRUE(IsShowDxRow(Row{.date = "20-Nov-2049"}.Text()));
+}
+
+TEST(ShDxRow, IsNothingElse) {
+  EXPECT_FALSE(IsShowDxRow(""));
+  EXPECT_FALSE(IsShowDxRow("14025"));
+  EXPECT_FALSE(IsShowDxRow("14025Z"));
+  EXPECT_FALSE(IsShowDxRow(Row{.kHz = "  1799.9"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(Row{.kHz = "     QRT"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(Row{.date = "20-Nov-2002"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(Row{.date = "20-Nov-2050"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(Row{.time = "2116 "}.Text()));
+  EXPECT_FALSE(IsShowDxRow("DX de DL1ABC:    14025.0  3Y0J         CW up 2          2116Z"));
+}
+
+TEST(ShDxLineMalformed, WithoutAYearOrABracketItIsNoSpot) {
+  for (const std::string& row :
+       {std::string(), Row{.spotter = ""}.Text(), Row{.date = "20-Nov-1999"}.Text(),
+        std::string(80, ' '), std::string(28, ' ') + "-2", std::string("<")})
+    EXPECT_FALSE(Parse(row)) << row;
+}
+
+TEST(ShDxLineMalformed, FarTooLongIsNoSpot) {
+  EXPECT_FALSE(Parse(Row{.comment = std::string(1'000'000, 'x')}.Text()));
+}
+
+TEST(ShDxLineMalformed, OpenBracketAtTheEndIsAnEmptySpotter) {
+  EXPECT_EQ(Read({.spotter = "<"}).Spotter, "");
+}
+
+TEST(ShDxLine, FieldsOfTheRow) {
+  const Spot spot = Read({});
+  EXPECT_EQ(spot.Freq, 14025);
+  EXPECT_EQ(spot.DxCall, "3Y0J");
+  EXPECT_EQ(spot.SpotDate, "20-Nov-2026");
+  EXPECT_EQ(spot.SpotTime, "2116");
+  EXPECT_EQ(spot.SpotHHMM, 2116);
+  EXPECT_EQ(spot.Comment, "CW up 2");
+  EXPECT_EQ(spot.Spotter, "DL1ABC");
+  EXPECT_EQ(spot.DxCty, "");
+}
+
+TEST(ShDxLine, FrequencyIsRounded) { EXPECT_EQ(Read({.kHz = "14025.25"}).Freq, 14025.3); }
+
+TEST(ShDxLine, LongFrequencyOrCallShiftsTheRow) {
+  EXPECT_EQ(Read({.kHz = "1296119.3", .call = "9K2HN     "}).DxCall, "9K2HN");
+  const Spot spot = Read({.call = "K6NNN/QRPP/MM"});
+  EXPECT_EQ(spot.DxCall, "K6NNN/QRPP/MM");
+  EXPECT_EQ(spot.SpotTime, "2116");
+}
+
+TEST(ShDxLine, DayMayHaveOneDigit) {
+  const Spot spot = Read({.date = " 1-Mar-2026"});
+  EXPECT_EQ(spot.SpotDate, " 1-Mar-2026");
+  EXPECT_EQ(spot.DxCall, "3Y0J");
+  EXPECT_EQ(spot.SpotTime, "2116");
+}
+
+TEST(ShDxLine, CallBeginsAColumnEarlierOnWinCluster) {
+  const Row row = {.kHz = "14025.0", .call = "3Y0J        "};
+  EXPECT_EQ(Read(row, {.kind = NodeKind::WinCluster}).DxCall, "3Y0J");
+  EXPECT_EQ(Read({.kHz = "4025.0", .call = "XY0J         "}).DxCall, "0J");
+}
+
+TEST(ShDxLine, SpotterIsInUpperCaseOnClx) {
+  EXPECT_EQ(Read({.spotter = "<dl1abc>"}, {.kind = NodeKind::Clx}).Spotter, "DL1ABC");
+  EXPECT_EQ(Read({.spotter = "<dl1abc>"}).Spotter, "dl1abc");
+}
+
+TEST(ShDxLine, LastBracketOpensTheSpotter) {
+  const Spot spot = Read({.comment = "up <2> or <3                "});
+  EXPECT_EQ(spot.Spotter, "DL1ABC");
+  EXPECT_EQ(spot.Comment, "up <2> or <3");
+}
+
+TEST(ShDxLine, FullCommentLosesNoLetter) {
+  for (const NodeKind kind : {NodeKind::Unknown, NodeKind::Spider, NodeKind::Skimmer}) {
+    const Row row = {.comment = "1234567890123456789012345678"};
+    EXPECT_EQ(Read(row, {.kind = kind}).Comment, row.comment);
+    EXPECT_EQ(Read(row, {.kind = kind}, kTable).Comment, row.comment);
+  }
+}
+
+TEST(ShDxLine, WithoutATableAWordSetApartIsACountry) {
+  const Spot spot = Read({.comment = "CW up 2                  14  "});
+  EXPECT_EQ(spot.DxCty, "14");
+  EXPECT_EQ(spot.Comment, "CW up 2");
+  EXPECT_EQ(Read({.comment = "CW up 2                   14 "}).DxCty, "");
+}
+
+TEST(ShDxLine, WithATableOnlyItsPrefixesAreCountries) {
+  for (const std::string blanks : {" ", "  "}) {
+    const Spot spot = Read({.comment = "CW up 2                  DL" + blanks}, {}, kTable);
+    EXPECT_EQ(spot.DxCty, "DL");
+    EXPECT_EQ(spot.Comment, "CW up 2");
+    EXPECT_EQ(Read({.comment = "CW up 2                  14" + blanks}, {}, kTable).Comment,
+              "CW up 2                  14");
+  }
+}
+
+TEST(ShDxLine, StateGoesWithTheCall) {
+  const std::string comment = "CW up 2                  OH ";
+  EXPECT_EQ(Read({.call = "W8RIK      ", .comment = comment}, {}, kTable).DxState, "OH");
+  EXPECT_EQ(Read({.call = "3Y0J       ", .comment = comment}, {}, kTable).DxState, "");
+}
+
+TEST(ShDxLine, DxSpiderAddsNoWords) {
+  for (const WordFacts& words : {WordFacts{}, kTable}) {
+    const Spot spot =
+        Read({.comment = "CW up 2                 DL  "}, {.kind = NodeKind::Spider}, words);
+    EXPECT_EQ(spot.DxCty, "");
+    EXPECT_EQ(spot.Comment, "CW up 2                 DL");
+  }
+}
+
+TEST(ShDxLine, LeadingBlanksOfACommentStayWhereTheNodeMeansThem) {
+  EXPECT_EQ(Read({.comment = "  CW                        "}, {.kind = NodeKind::Skimmer}).Comment,
+            "  CW");
+  EXPECT_EQ(Read({.comment = "  CW                        "}).Comment, "CW");
+  EXPECT_EQ(Read({.comment = "  CW up 2 and so on, 59 here"}, {.kind = NodeKind::Skimmer}).Comment,
+            "CW up 2 and so on, 59 here");
+}
+
+TEST(ShDxLine, CountryOfTheSpotBeforeIsGone) {
+  Spot spot;
+  spot.DxCty = "old";
+  ASSERT_TRUE(ParseShDxLine(Row{}.Text(), {}, kTable, spot));
+  EXPECT_EQ(spot.DxCty, "");
+}
+
+}  // namespace
+}  // namespace spots

@@ -1,0 +1,323 @@
+#include "spots/spot_list.h"
+
+#include <gmock/gmock.h>
+
+#include <vector>
+
+#include "platform/sim/world.h"
+
+namespace spots {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr std::string_view kPrompt = "N0CALL de K1TST 20-Nov-2026 2116Z arc >";
+constexpr std::string_view kNotFound = "sh/dx: '99 NB0DY' not found";
+
+std::string Row(const std::string& comment) {
+  return " 14025.0  3Y0J        20-Nov-2026 2116Z " + comment + "<DL1ABC>";
+}
+
+class SpotListTest : public testing::Test {
+ protected:
+  bool Receive(std::string_view line) { return list.CollectShDxLine(line); }
+  void ReceiveRows(int count) {
+    for (int i = 1; i <= count; ++i) EXPECT_TRUE(Receive(Row(std::to_string(i))));
+  }
+  bool Ended() const { return list.ShDxDone && !list.ShDxCollecting() && !list.SpotListBusy(); }
+
+  platform::sim::World world;
+  bool sessionUp = true;
+  bool directoryRuns = false;
+  bool newestFirst = false;
+  int begun = 0;
+  int sorted = 0;
+  bool collectedDuringReplay = true;
+  std::vector<std::string> replayed;
+  SpotList list{world.scheduler,
+                {
+                    .RcvdPrompt = [](auto line) { return line.ends_with("arc >"); },
+                    .sessionUp = [this] { return sessionUp; },
+                    .directoryRuns = [this] { return directoryRuns; },
+                    .latency = [] { return 250ms; },
+                    .newestFirst = [this] { return newestFirst; },
+                    .replayBegins = [this] { ++begun; },
+                    .replay =
+                        [this](std::string_view row) {
+                          collectedDuringReplay &= list.ShDxCollecting();
+                          replayed.emplace_back(row);
+                        },
+                    .sort = [this] { ++sorted; },
+                }};
+};
+
+TEST_F(SpotListTest, LinesThatAreNoRowsAreNotClaimed) {
+  for (const std::string_view line :
+       {std::string_view(), std::string_view("ZV11^14025.0^3Y0J"), kPrompt, kNotFound,
+        std::string_view("To ALL de K1A: 14025 2026 2116Z"), std::string_view("14025 Z")})
+    EXPECT_FALSE(Receive(line)) << line;
+  EXPECT_FALSE(list.ShDxCollecting());
+}
+
+TEST_F(SpotListTest, RowsAreClaimedAndKeptUntilThePrompt) {
+  list.AskedForMissed();
+  ReceiveRows(2);
+  EXPECT_TRUE(list.ShDxCollecting());
+  EXPECT_FALSE(list.ShDxDone);
+  EXPECT_THAT(replayed, IsEmpty());
+  EXPECT_FALSE(Receive(kPrompt));
+  EXPECT_THAT(replayed, ElementsAre(Row("1"), Row("2")));
+  EXPECT_TRUE(Ended());
+  EXPECT_EQ(begun, 1);
+  EXPECT_EQ(sorted, 1);
+  EXPECT_EQ(list.lblCount.Caption.Get(), "2");
+}
+
+TEST_F(SpotListTest, IsBeingCollectedUntilTheReplayIsOver) {
+  ReceiveRows(2);
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, SizeIs(2));
+  EXPECT_TRUE(collectedDuringReplay);
+}
+
+TEST_F(SpotListTest, NewestFirstIsReplayedFromItsEnd) {
+  newestFirst = true;
+  ReceiveRows(3);
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, ElementsAre(Row("3"), Row("2"), Row("1")));
+}
+
+TEST_F(SpotListTest, KeepsTheFirstHundredRowsAndCountsAll) {
+  ReceiveRows(150);
+  Receive(kPrompt);
+  ASSERT_THAT(replayed, SizeIs(100));
+  EXPECT_EQ(replayed.front(), Row("1"));
+  EXPECT_EQ(replayed.back(), Row("100"));
+  EXPECT_EQ(list.lblCount.Caption.Get(), "150");
+}
+
+TEST_F(SpotListTest, RowsOfAFinishedListAreClaimedAndNotKept) {
+  list.ShDxDone = true;
+  ReceiveRows(2);
+  EXPECT_FALSE(list.ShDxCollecting());
+  EXPECT_FALSE(Receive(kPrompt));
+  EXPECT_THAT(replayed, IsEmpty());
+  EXPECT_EQ(sorted, 0);
+}
+
+TEST_F(SpotListTest, NothingOfTheListBeforeIsReplayedAgain) {
+  ReceiveRows(3);
+  Receive(kPrompt);
+  replayed.clear();
+  list.AskedForSpots();
+  ReceiveRows(1);
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, ElementsAre(Row("1")));
+}
+
+TEST_F(SpotListTest, RowsOfADirectoryAreNotItsOwn) {
+  directoryRuns = true;
+  EXPECT_FALSE(Receive(Row("1")));
+}
+
+TEST_F(SpotListTest, GiantRowIsCountedAndNotKept) {
+  EXPECT_TRUE(Receive(Row(std::string(1'000'000, 'x'))));
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, IsEmpty());
+  EXPECT_EQ(list.lblCount.Caption.Get(), "1");
+}
+
+TEST_F(SpotListTest, WithoutRecordsEndsAtTheNextPrompt) {
+  list.AskedForSpots();
+  EXPECT_TRUE(list.SpotListBusy());
+  EXPECT_TRUE(Receive("*** no records found"));
+  EXPECT_TRUE(list.ShDxCollecting());
+  EXPECT_FALSE(Ended());
+  Receive(kPrompt);
+  EXPECT_TRUE(Ended());
+  EXPECT_THAT(replayed, IsEmpty());
+  EXPECT_EQ(sorted, 1);
+}
+
+TEST_F(SpotListTest, NoRecordsAmongRowsIsNotClaimed) {
+  ReceiveRows(1);
+  EXPECT_FALSE(Receive("*** no records found"));
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, SizeIs(1));
+}
+
+TEST_F(SpotListTest, WithoutAPromptBeforeItAnyPauseBelongsToIt) {
+  ReceiveRows(1);
+  world.Run(60s);
+  Receive(Row("2"));
+  EXPECT_FALSE(Ended());
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, SizeIs(2));
+}
+
+TEST_F(SpotListTest, BehindAPromptEndsASecondAfterItsLastRow) {
+  list.AskedForSpots();
+  Receive(kPrompt);
+  world.Run(500ms);
+  Receive(Row("1"));
+  world.Run(999ms);
+  Receive(Row("2"));
+  world.Run(999ms);
+  EXPECT_FALSE(Ended());
+  world.Run(1ms);
+  EXPECT_TRUE(Ended());
+  EXPECT_THAT(replayed, ElementsAre(Row("1"), Row("2")));
+  EXPECT_EQ(sorted, 1);
+}
+
+TEST_F(SpotListTest, BehindAPromptNothingElseEndsOrProlongsIt) {
+  list.AskedForSpots();
+  Receive(kPrompt);
+  Receive(Row("1"));
+  for (int i = 0; i < 9; ++i) {
+    world.Run(100ms);
+    for (const std::string_view line : {kPrompt, kNotFound, std::string_view("hello")})
+      Receive(line);
+    EXPECT_FALSE(Ended());
+  }
+  Receive(Row("2"));
+  world.Run(999ms);
+  EXPECT_FALSE(Ended());
+  world.Run(1ms);
+  EXPECT_THAT(replayed, SizeIs(2));
+}
+
+TEST_F(SpotListTest, BarePromptIsAnEmptyList) {
+  list.AskedForSpots();
+  Receive(kPrompt);
+  world.Run(900ms);
+  Receive(kPrompt);
+  EXPECT_FALSE(Ended());
+  world.Run(100ms);
+  EXPECT_TRUE(Ended());
+  EXPECT_THAT(replayed, IsEmpty());
+  EXPECT_EQ(list.lblCount.Caption.Get(), "0");
+}
+
+TEST_F(SpotListTest, NothingFoundIsAnEmptyList) {
+  for (const std::string_view line :
+       {kNotFound, std::string_view("sh/mydx: '99 NB0DY' not found")}) {
+    list.AskedForSpots();
+    EXPECT_FALSE(Receive(line));
+    world.Run(999ms);
+    EXPECT_FALSE(Ended());
+    world.Run(1ms);
+    EXPECT_TRUE(Ended()) << line;
+  }
+}
+
+TEST_F(SpotListTest, EmptyListAfterAFullOneReplaysNothing) {
+  ReceiveRows(3);
+  Receive(kPrompt);
+  replayed.clear();
+  list.AskedForSpots();
+  Receive(kNotFound);
+  world.Run(1s);
+  EXPECT_TRUE(Ended());
+  EXPECT_THAT(replayed, IsEmpty());
+}
+
+TEST_F(SpotListTest, RequestForgetsThePromptBeforeIt) {
+  Receive(kPrompt);
+  world.Run(500ms);
+  list.AskedForSpots();
+  world.Run(10s);
+  EXPECT_FALSE(Ended());
+  ReceiveRows(1);
+  Receive(kPrompt);
+  EXPECT_TRUE(Ended());
+}
+
+TEST_F(SpotListTest, ExtendedLinesAreRowsWhileASessionIsUp) {
+  list.ZV11_SpotsOthers("ZV11^1");
+  list.ZV11_SpotsOthers("ZV11^2");
+  EXPECT_TRUE(list.ShDxCollecting());
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, ElementsAre("ZV11^1", "ZV11^2"));
+  EXPECT_TRUE(Ended());
+}
+
+TEST_F(SpotListTest, ExtendedLinesAreNoRowsOfAFinishedListOrWithoutASession) {
+  list.ShDxDone = true;
+  list.ZV11_SpotsOthers("ZV11^1");
+  EXPECT_FALSE(list.ShDxCollecting());
+  list.ShDxDone = false;
+  sessionUp = false;
+  list.ZV11_SpotsOthers("ZV11^1");
+  EXPECT_FALSE(list.ShDxCollecting());
+}
+
+TEST_F(SpotListTest, ExtendedRowsBehindAPromptEndWithTheNext) {
+  Receive(kPrompt);
+  list.ZV11_SpotsOthers("ZV11^1");
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, ElementsAre("ZV11^1"));
+}
+
+TEST_F(SpotListTest, StreamOfExtendedLinesDoesNotKeepAListOpen) {
+  Receive(kPrompt);
+  for (int i = 0; i < 150; ++i) {
+    list.ZV11_SpotsOthers("ZV11^");
+    world.Run(20ms);
+  }
+  EXPECT_TRUE(list.ShDxDone);
+  EXPECT_THAT(replayed, SizeIs(100));
+}
+
+TEST_F(SpotListTest, TimeToTheFirstRowIsShown) {
+  list.AskedForMissed();
+  world.Run(1254ms);
+  ReceiveRows(1);
+  world.Run(1s);
+  ReceiveRows(1);
+  EXPECT_EQ(list.lblSeconds.Caption.Get(), "001.25");
+  EXPECT_EQ(list.lblBeyondLatency.Caption.Get(), "1.00");
+}
+
+TEST_F(SpotListTest, LongTimeIsShownInTenths) {
+  list.AskedForMissed();
+  world.Run(9994ms);
+  ReceiveRows(1);
+  EXPECT_EQ(list.lblSeconds.Caption.Get(), "009.99");
+  Receive(kPrompt);
+  list.AskedForMissed();
+  EXPECT_EQ(list.lblSeconds.Caption.Get(), "");
+  EXPECT_EQ(list.lblBeyondLatency.Caption.Get(), "");
+  EXPECT_EQ(list.lblCount.Caption.Get(), "");
+  world.Run(12'250ms);
+  ReceiveRows(1);
+  EXPECT_EQ(list.lblSeconds.Caption.Get(), "012.3");
+  EXPECT_EQ(list.lblBeyondLatency.Caption.Get(), "12.00");
+}
+
+TEST_F(SpotListTest, AnswerFasterThanTheLinkIsShownAsLess) {
+  list.AskedForMissed();
+  ReceiveRows(1);
+  EXPECT_EQ(list.lblSeconds.Caption.Get(), "000.00");
+  EXPECT_EQ(list.lblBeyondLatency.Caption.Get(), "-0.25");
+}
+
+TEST_F(SpotListTest, EndsWithTheSessionAndLeavesNothing) {
+  list.AskedForSpots();
+  Receive(kPrompt);
+  ReceiveRows(3);
+  list.Disconnected();
+  EXPECT_FALSE(list.ShDxCollecting() || list.ShDxDone || list.SpotListBusy());
+  world.Run(10s);
+  EXPECT_EQ(sorted, 0);
+  ReceiveRows(1);
+  Receive(kPrompt);
+  EXPECT_THAT(replayed, ElementsAre(Row("1")));
+}
+
+}  // namespace
+}  // namespace spots
