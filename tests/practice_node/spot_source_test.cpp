@@ -1,6 +1,7 @@
 #include "practice_node/spot_source.h"
 
 #include <algorithm>
+#include <map>
 
 #include "practice_node/bands.h"
 #include "practice_node/spot_lines.h"

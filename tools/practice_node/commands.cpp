@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "core/text.h"
 #include "practice_node/reports.h"
@@ -61,11 +60,10 @@ std::vector<std::string> FoundSpots(const Caller& caller, const SpotSearch& sear
   const SpotStyle style = caller.Style();
   const auto line = caller.facts().dialect.shape == Shape::Zv11 ? SpotLine : ListRow;
   std::vector<std::string> rows;
-  for (const Spot& spot : std::views::reverse(caller.house().Spots())) {
-    if (rows.size() == search.count) break;
-    if (Matches(spot, search)) rows.push_back(line(spot, style));
-  }
-  if (caller.facts().dialect.oldestFirst) std::ranges::reverse(rows);
+  const auto& spots = caller.house().Spots();
+  for (auto spot = spots.rbegin(); spot != spots.rend() && rows.size() < search.count; ++spot)
+    if (Matches(*spot, search)) rows.push_back(line(*spot, style));
+  if (caller.facts().dialect.oldestFirst) std::reverse(rows.begin(), rows.end());
   return rows;
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <vector>
 
 #include "core/text.h"
@@ -37,6 +36,8 @@ std::string StateOf(const Station& station) { return std::string(station.area.st
 std::string ItuOf(const Station& station) { return std::to_string(station.area.itu); }
 std::string CqOf(const Station& station) { return std::to_string(station.area.cq); }
 std::string CountryOf(const Station& station) { return std::string(station.area.country); }
+// AR-Cluster and its relatives write some countries so.
+std::string PlusCountryOf(const Station& station) { return "+" + CountryOf(station); }
 std::string StateOrCountryOf(const Station& station) {
   return station.area.state.empty() ? CountryOf(station) : StateOf(station);
 }
@@ -62,8 +63,8 @@ constexpr std::array<Slot, 4> kSlots = {{
 }};
 
 // On the DX station, in front of the time.
-constexpr std::array<Word, 6> kEndings = {CountryOf, CountryOf, CountryOf,
-                                          CountryOf, CqOf,      StateOrCountryOf};
+constexpr std::array<Word, 7> kEndings = {CountryOf,     CountryOf, CountryOf,       CountryOf,
+                                          PlusCountryOf, CqOf,      StateOrCountryOf};
 // On the spotter, behind it.
 constexpr std::array<Word, 7> kTrailers = {
     StateOrCountryOf, CountryOf, StateOrCountryOf, GridOf, CqOf, ExactGridOf, CountryAndZoneOf};
@@ -89,10 +90,7 @@ std::string WithEnding(const Spot& spot, const std::string& word, std::size_t ga
   return PadRight(spot.comment.substr(0, width - word.size() - gap), width - word.size()) + word;
 }
 
-// AR-Cluster and its relatives write some countries as "+DL".
-std::string Ending(const Spot& spot) {
-  return (spot.variant % 5 == 0 ? "+" : "") + Chosen(kEndings, spot)(spot.dx);
-}
+std::string Ending(const Spot& spot) { return Chosen(kEndings, spot)(spot.dx); }
 
 std::string LiveComment(const Spot& spot, const SpotStyle& style) {
   if (style.country) return WithEnding(spot, Ending(spot), 2, kCommentWidth);
@@ -128,13 +126,13 @@ std::string Joined(std::string line, const Fields& fields) {
 std::string Ar17Line(const Spot& spot, const SpotStyle& style) {
   const Area& dx = spot.dx.area;
   const Area& spotter = spot.spotter.area;
-  const std::string plus = spot.variant % 5 == 0 ? "+" : "";
+  const std::string country = spot.variant % 5 == 0 ? PlusCountryOf(spot.dx) : CountryOf(spot.dx);
   return Joined("AR17",
                 {"0", Frequency(spot), spot.dx.call, DateText(spot.time), TimeText(spot.time),
-                 WithoutCarets(spot.comment), Spotter(spot, style), std::string(spot.node),
-                 plus + std::string(dx.country), std::string(dx.continent), std::string(dx.state),
-                 CqOf(spot.dx), ItuOf(spot.dx), std::string(spotter.continent),
-                 std::string(spotter.country), std::string(spotter.state), "", ""});
+                 WithoutCarets(spot.comment), Spotter(spot, style), std::string(spot.node), country,
+                 std::string(dx.continent), std::string(dx.state), CqOf(spot.dx), ItuOf(spot.dx),
+                 std::string(spotter.continent), std::string(spotter.country),
+                 std::string(spotter.state), "", ""});
 }
 
 // A Zelva Cluster marks the zones of countries that have several.
@@ -222,7 +220,8 @@ std::string Zv11Line(const Spot& spot, const SpotStyle& style) {
   if (form->fields > 0) {
     fields.resize(form->fields - 1);
   } else {
-    std::ranges::move(Zv11Tail(spot), std::back_inserter(fields));
+    const Fields tail = Zv11Tail(spot);
+    fields.insert(fields.end(), tail.begin(), tail.end());
   }
   if (form->closed) fields.emplace_back(form->last);
   return Joined("ZV11", fields);

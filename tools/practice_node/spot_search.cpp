@@ -25,12 +25,16 @@ bool IsNumber(std::string_view text) {
   return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+Range RangeOf(const Band& band) {
+  return {static_cast<double>(band.low), static_cast<double>(band.high)};
+}
+
 Range BandNamed(std::string_view name) {
   const auto isNamed = [&](const Band& band) { return band.name == name; };
   const auto* band = std::find_if(kBands.begin(), kBands.end(), isNamed);
-  if (band != kBands.end()) return Range(band->low, band->high);
+  if (band != kBands.end()) return RangeOf(*band);
   band = std::find_if(kNicknames.begin(), kNicknames.end(), isNamed);
-  return band == kNicknames.end() ? kNowhere : Range(band->low, band->high);
+  return band == kNicknames.end() ? kNowhere : RangeOf(*band);
 }
 
 // "20m", "3500-4000", "3500/4000".
@@ -46,7 +50,7 @@ bool ReadRange(std::string_view word, bool takesDash, SpotSearch& search) {
   const auto high = word.substr(between + 1);
   if (!IsNumber(low) || !IsNumber(high)) return false;
   const bool taken = takesDash || word[between] == '/';
-  search.ranges.push_back(taken ? Range(core::Val(low), core::Val(high)) : kNowhere);
+  search.ranges.push_back(taken ? Range{core::Val(low), core::Val(high)} : kNowhere);
   return true;
 }
 
