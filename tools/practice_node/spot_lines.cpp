@@ -72,7 +72,7 @@ constexpr std::array<Word, 7> kTrailers = {
 // Empty if nothing of what is wanted is known.
 std::string SlotWord(const Station& station, const SpotStyle& style) {
   for (const Slot& slot : kSlots) {
-    const std::string word = style.*slot.wanted ? slot.word(station) : std::string();
+    std::string word = style.*slot.wanted ? slot.word(station) : std::string();
     if (!word.empty()) return word;
   }
   return {};
