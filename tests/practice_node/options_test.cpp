@@ -44,9 +44,9 @@ TEST(OptionsTest, EveryOptionArrives) {
   constexpr std::string_view mischief =
       "--misbehave=nuls,escapes,iac,no-line-ends,close,refuse,silent,stall,"
       "close-after=4,flood=100";
-  const auto parsed =
-      Parse({"--address=0.0.0.0", "--call=db0x", "--rate=0.5", "--seed=7", "--play=f.txt", "--loop",
-             "--version-string=1.55", "--password=x=y", "--refuse-arpc", mischief});
+  const auto parsed = Parse({"--address=0.0.0.0", "--call=db0x", "--rate=0.5", "--seed=7",
+                             "--play=f.txt", "--loop", "--version-string=1.55", "--password=x=y",
+                             "--refuse-arpc", "--skimmers=60", "--prompt-first", mischief});
   ASSERT_EQ(parsed.wrong, "");
   const Options& options = parsed.options;
   EXPECT_EQ(options.address, "0.0.0.0");
@@ -58,6 +58,8 @@ TEST(OptionsTest, EveryOptionArrives) {
   EXPECT_EQ(options.spiderVersion, "1.55");
   EXPECT_EQ(options.password, "x=y");
   EXPECT_TRUE(options.refuseArpc);
+  EXPECT_EQ(options.skimmersPercent, 60u);
+  EXPECT_TRUE(options.promptFirst);
   EXPECT_EQ(options.mischief, (MischiefPlan{.close = true,
                                             .refuse = true,
                                             .silent = true,
@@ -88,6 +90,8 @@ TEST(OptionsTest, WhatIsWrongIsToldInPlainWords) {
   for (const auto rate : {"", "x", "-1", "nan", "inf", "1e9", "1 "})
     EXPECT_THAT(Parse({"--rate", rate}).wrong, StartsWith("--rate: a rate is a number")) << rate;
   EXPECT_THAT(Parse({"--seed=-1"}).wrong, StartsWith("--seed: "));
+  EXPECT_EQ(Parse({"--skimmers=101"}).wrong,
+            "--skimmers: the part of the Skimmers is a number from 0 to 100");
   EXPECT_EQ(Parse({"--dialect=morse"}).wrong, "--dialect: there is no dialect \"morse\"");
   EXPECT_EQ(Parse({"--version-string=2"}).wrong,
             "--version-string: the versions of DXSpider are 1.55 and 1.57");
@@ -101,7 +105,8 @@ TEST(OptionsTest, HelpListsEveryOption) {
   const std::string help = HelpText();
   for (const auto option :
        {"--dialect", "--all", "--port", "--address", "--call", "--rate", "--seed", "--play",
-        "--loop", "--version-string", "--password", "--misbehave", "--help"})
+        "--loop", "--version-string", "--password", "--misbehave", "--skimmers", "--prompt-first",
+        "--refuse-arpc", "--help"})
     EXPECT_THAT(help, HasSubstr(std::string("\n  ") + option));
 }
 

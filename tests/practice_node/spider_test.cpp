@@ -143,6 +143,15 @@ TEST_F(SpiderTest, Version155ListsFirst) {
   EXPECT_THAT(visitor->heard, EndsWith("dxspider >\r\n"));
 }
 
+TEST_F(SpiderTest, TheRangeWithADashIsNotUnderstood) {
+  StartNode({"--version-string=1.55"});
+  auto visitor = LoggedIn();
+  visitor->Type("unset/echo");
+  EXPECT_EQ(visitor->Ask("sh/dx/20 on 14000/14350").find("not found"), std::string::npos);
+  EXPECT_THAT(visitor->Ask("sh/dx/20 on 14000-14350"),
+              StartsWith("sh/dx: '20 on 14000-14350' not found\r\n"));
+}
+
 TEST_F(SpiderTest, Version157HangsUpAtThe21stUnknownCommandInARow) {
   StartNode({});
   auto visitor = LoggedIn();

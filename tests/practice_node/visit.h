@@ -66,11 +66,12 @@ class Visitor {
     }
     return lines;
   }
-  std::vector<std::string> SpotLines() const {
-    std::vector<std::string> spots = Lines();
-    std::erase_if(spots, [](const std::string& line) { return !line.starts_with("DX de "); });
-    return spots;
+  std::vector<std::string> LinesWith(std::string_view beginning) const {
+    std::vector<std::string> lines = Lines();
+    std::erase_if(lines, [&](const std::string& line) { return !line.starts_with(beginning); });
+    return lines;
   }
+  std::vector<std::string> SpotLines() const { return LinesWith("DX de "); }
 
   std::string heard;
   bool closed = false;

@@ -1,6 +1,7 @@
 #include "practice_node/caller.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "core/text.h"
@@ -16,6 +17,18 @@ constexpr std::size_t kMostBytesAtOnce = 4096;
 constexpr auto kPasswordPatience = 60s;
 constexpr auto kListDelay = 300ms;
 constexpr auto kSilence = 5min;  // before a prompt comes unasked
+
+// Spots that a user can do without, on the nodes that let him.
+struct Choice {
+  Toggle toggle;
+  bool (*concerns)(const Spot& spot);
+};
+
+constexpr std::array<Choice, 3> kChoices = {{
+    {Toggle::DxSpots, [](const Spot&) { return true; }},
+    {Toggle::BottomOfBand, IsBottomOfBand},
+    {Toggle::Skimmer, IsSkimmer},
+}};
 
 bool IsLetter(char byte) { return core::UCase(byte) >= 'A' && core::UCase(byte) <= 'Z'; }
 bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
@@ -60,7 +73,7 @@ void Caller::Greet() {
 }
 
 void Caller::Hear(const Spot& spot) {
-  if (!LoggedIn() || !profile_->Has(Toggle::DxSpots)) return;
+  if (!LoggedIn() || !Wants(spot)) return;
   const bool rings = facts_.dialect.bells && profile_->Has(Toggle::Beep);
   SayLine(SpotLine(spot, Style()) + (rings ? "\a\a" : ""));
 }
@@ -102,12 +115,28 @@ void Caller::HangUp() {
   mischief_.HangUp();
 }
 
-SpotStyle Caller::Style() {
-  const bool grids = facts_.dialect.kind == Kind::Spider || facts_.dialect.kind == Kind::Zelva;
-  return {.lowerCaseSpotter = facts_.dialect.lowerCase,
-          .grid = grids && profile_->Has(Toggle::DxCountry),
-          .zone = facts_.dialect.zoneInSpots,
-          .listCall = facts_.dialect.listCall};
+SpotStyle Caller::Style() const {
+  const Dialect& dialect = facts_.dialect;
+  const bool first = profile_->Has(Toggle::DxCountry);
+  const bool second = profile_->Has(Toggle::SpotterQth);
+  return {.shape = arpc_ ? Shape::Ar17 : dialect.shape,
+          .lowerCaseSpotter = dialect.lowerCase,
+          .zone = dialect.zoneInSpots,
+          .listCall = dialect.listCall,
+          .grid = dialect.slots && first,
+          .state = dialect.slots && second,
+          .itu = dialect.slots && profile_->Has(Toggle::ItuZone),
+          .cq = dialect.slots && profile_->Has(Toggle::CqZone),
+          .country = !dialect.slots && first,
+          .qth = !dialect.slots && second};
+}
+
+bool Caller::Wants(const Spot& spot) const {
+  return std::none_of(kChoices.begin(), kChoices.end(), [&](const Choice& each) {
+    const ToggleWords& words = kToggleWords[static_cast<std::size_t>(each.toggle)];
+    const bool choosable = !LabelOf(words, facts_.dialect.kind).empty();
+    return choosable && !profile_->Has(each.toggle) && each.concerns(spot);
+  });
 }
 
 void Caller::Write(std::string_view bytes) { socket_->SendData(bytes); }

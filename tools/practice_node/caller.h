@@ -15,6 +15,7 @@
 #include "practice_node/mischief.h"
 #include "practice_node/profile.h"
 #include "practice_node/spot.h"
+#include "practice_node/spot_lines.h"
 
 namespace practice_node {
 
@@ -76,11 +77,13 @@ class Caller : private Mischief::Wire {
   void SayLine(std::string_view line);                 // as it is
   void SayList(const std::vector<std::string>& rows);  // when this software sends its lists
   void HangUp();
-  SpotStyle Style();
+  void EnableArpc() { arpc_ = true; }  // spots come as AR17 lines from now on
+  SpotStyle Style() const;
 
  private:
   enum class Stage { Call, Password, Commands, Gone };
 
+  bool Wants(const Spot& spot) const;
   void Write(std::string_view bytes) override;
   void Close() override;
   void OnData();
@@ -107,6 +110,7 @@ class Caller : private Mischief::Wire {
   Stage stage_ = Stage::Call;
   std::string call_;
   std::shared_ptr<Profile> profile_;
+  bool arpc_ = false;
   unsigned unknownInRow_ = 0;
   std::vector<std::string> lateRows_;
   platform::Registration lateTimer_;

@@ -5,13 +5,11 @@
 
 #include "core/text.h"
 #include "practice_node/reports.h"
+#include "practice_node/spot_search.h"
 #include "practice_node/wording.h"
 
 namespace practice_node {
 namespace {
-
-constexpr std::size_t kSpotsListed = 10;  // when no number is given
-constexpr std::size_t kMostSpotsListed = 500;
 
 template <Field field>
 void SetField(Caller& caller, std::string_view argument) {
@@ -51,30 +49,29 @@ void SetResolution(Caller& caller, std::string_view argument) {
 
 void SetArpc(Caller& caller, std::string_view argument) {
   const bool accepted = caller.facts().knowsArpc && core::SameIgnoringCase(argument, "on");
+  if (accepted) caller.EnableArpc();
   caller.Say(accepted ? "DX ArPc enabled" : "SET/DX_ARPC command error");
 }
 
 void ShowFilters(Caller& caller, std::string_view) { caller.Say(caller.facts().dialect.filters); }
 
-// The first word that is all digits is how many.
-std::size_t HowMany(std::string_view argument) {
-  for (const auto word : core::Split(argument, " ")) {
-    const bool isNumber = word.find_first_not_of("0123456789") == std::string_view::npos;
-    const int number = isNumber ? core::ValInt(word) : 0;
-    if (number > 0) return std::min(static_cast<std::size_t>(number), kMostSpotsListed);
-  }
-  return kSpotsListed;
+// The latest of what is asked for, in the order of the dialect.
+std::vector<std::string> FoundSpots(const Caller& caller, const SpotSearch& search) {
+  const SpotStyle style = caller.Style();
+  const auto line = caller.facts().dialect.shape == Shape::Zv11 ? SpotLine : ListRow;
+  std::vector<std::string> rows;
+  const auto& spots = caller.house().Spots();
+  for (auto spot = spots.rbegin(); spot != spots.rend() && rows.size() < search.count; ++spot)
+    if (Matches(*spot, search)) rows.push_back(line(*spot, style));
+  if (caller.facts().dialect.oldestFirst) std::reverse(rows.begin(), rows.end());
+  return rows;
 }
 
 void ShowSpots(Caller& caller, std::string_view argument) {
-  const auto& spots = caller.house().Spots();
-  const std::size_t count = std::min(HowMany(argument), spots.size());
-  const auto first = spots.end() - static_cast<std::ptrdiff_t>(count);
-  std::vector<std::string> rows;
-  std::transform(first, spots.end(), std::back_inserter(rows),
-                 [style = caller.Style()](const Spot& spot) { return ListRow(spot, style); });
-  if (!caller.facts().dialect.oldestFirst) std::reverse(rows.begin(), rows.end());
-  if (rows.empty()) rows.emplace_back("*** no records found");
+  const Dialect& dialect = caller.facts().dialect;
+  auto rows = FoundSpots(caller, ReadSearch(argument, dialect.dashInRanges));
+  if (rows.empty() && !dialect.nothingFound.empty())
+    rows.push_back(Expand(dialect.nothingFound, {{'W', Quotable(argument)}}));
   caller.SayList(rows);
 }
 

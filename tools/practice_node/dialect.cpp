@@ -109,9 +109,12 @@ constexpr std::array<Dialect, kKinds> kDialects = {{
         .unknownCommand = "Invalid command",
         .farewell = "73 de %M",
         .filters = "%C: no filters set",
+        .nothingFound = "sh/dx: '%W' not found",
         .replaced = "%C has logged in once more, this instance is disconnected",
         .stationLabel = "User         : ",
         .fields = kSpiderFields,
+        .slots = true,
+        .dashInRanges = false,
         .bells = true,
     },
     {
@@ -193,6 +196,7 @@ constexpr std::array<Dialect, kKinds> kDialects = {{
         .replaced = "%C has logged in once more, this instance is disconnected",
         .stationLabel = "User         : ",
         .fields = kSpiderFields,
+        .shape = Shape::Zv11,
         .oldestFirst = true,
     },
     {
@@ -209,6 +213,7 @@ constexpr std::array<Dialect, kKinds> kDialects = {{
         .unknownCommand = "Command not supported: %W",
         .farewell = "73",
         .filters = "No filters",
+        .nothingFound = "",
         .replaced = "",
         .stationLabel = "",
         .fields = {},

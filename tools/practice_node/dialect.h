@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "practice_node/profile.h"
+#include "practice_node/spot_lines.h"
 
 namespace practice_node {
 
@@ -42,15 +43,20 @@ struct Dialect {
   std::string_view prompt;
   std::string_view unknownCommand;
   std::string_view farewell;
-  std::string_view filters;       // the answer to "sh/filter"
+  std::string_view filters;  // the answer to "sh/filter"
+  // The answer to a show-spots command that finds none; %W is what was asked for. May be empty.
+  std::string_view nothingFound = "*** no records found";
   std::string_view replaced;      // to a session whose call logs in once more; may be empty
   std::string_view stationLabel;  // the first label of the report on a station
   std::array<FieldWords, kFields> fields;
-  bool lowerCase = false;     // writes calls so
-  bool zoneInSpots = false;   // spot lines end in the zone of the DX station
-  bool bells = false;         // rings two at the end of a spot, for those who want it
-  bool oldestFirst = false;   // in lists of spots
-  std::size_t listCall = 11;  // column of the call in those lists
+  bool lowerCase = false;      // writes calls so
+  Shape shape = Shape::Plain;  // of spots
+  bool slots = false;          // beside the time of a spot there is room for a word each
+  bool dashInRanges = true;    // takes "3500-4000", not "3500/4000" alone
+  bool zoneInSpots = false;    // spot lines end in the zone of the DX station
+  bool bells = false;          // rings two at the end of a spot, for those who want it
+  bool oldestFirst = false;    // in lists of spots
+  std::size_t listCall = 11;   // column of the call in those lists
 };
 
 const Dialect& DialectOf(Kind kind);

@@ -21,8 +21,7 @@ Node::Node(platform::Scheduler& scheduler, const platform::Clock& clock, platfor
       network_(network),
       facts_(std::move(facts)),
       stream_(std::move(stream)),
-      source_(stream_.seed, facts_.dialect.kind == Kind::Skimmer ? SpotSource::Taste::Skimmer
-                                                                 : SpotSource::Taste::Mixed),
+      source_(stream_.seed, facts_.dialect.kind == Kind::Skimmer ? 100 : stream_.skimmersPercent),
       spotPacer_(scheduler, stream_.lines ? 0 : stream_.rate, [this] { StreamSpot(); }),
       started_(scheduler.Now()) {}
 

@@ -21,6 +21,7 @@ namespace practice_node {
 struct StreamPlan {
   double rate = 1;  // spots or lines a second
   std::uint32_t seed = 1;
+  std::size_t skimmersPercent = 25;  // of the spots; a Skimmer sends its own alone
   // Lines to play instead of spots, to each caller from the first one on.
   std::shared_ptr<const std::vector<std::string>> lines;
   bool loop = false;

@@ -51,6 +51,13 @@ std::string SetSeed(Options& options, std::string_view value) {
   return {};
 }
 
+std::string SetSkimmers(Options& options, std::string_view value) {
+  const auto percent = ReadNumber<std::size_t>(value, 0, 100);
+  if (!percent) return "the part of the Skimmers is a number from 0 to 100";
+  options.skimmersPercent = *percent;
+  return {};
+}
+
 std::string SetVersion(Options& options, std::string_view value) {
   const bool known = std::any_of(kSpiderVersions.begin(), kSpiderVersions.end(),
                                  [&](const SpiderVersion& each) { return each.number == value; });
@@ -81,7 +88,7 @@ constexpr Row::Takes kValue = Row::Takes::Value;
 using Text = std::string_view;
 
 // clang-format off
-constexpr std::array<Row, 16> kRows = {{
+constexpr std::array<Row, 18> kRows = {{
     {"--dialect", kValue, "NAME", "ar, spider, clx, dxnet, wincluster, zelva or skimmer (spider)",
      SetKind},
     {"--all", kNothing, "", "all seven, in that order, on as many ports from --port on",
@@ -93,6 +100,8 @@ constexpr std::array<Row, 16> kRows = {{
     {"--rate", kValue, "RATE", "spots, or lines of --play, a second (1); fractions allowed",
      SetRate},
     {"--seed", kValue, "N", "the same seed gives the same spots (1)", SetSeed},
+    {"--skimmers", kValue, "PERCENT", "how many of the spots are those of Skimmers (25)",
+     SetSkimmers},
     {"--play", kValue, "FILE", "send the lines of this file instead of spots, to each caller",
      [](Options& options, Text value) { options.playFile = value; return std::string(); }},
     {"--loop", kNothing, "", "begin the file again at its end",
@@ -106,6 +115,8 @@ constexpr std::array<Row, 16> kRows = {{
      [](Options& options, Text value) { options.password = value; return std::string(); }},
     {"--refuse-arpc", kNothing, "", "as AR-Cluster, refuse \"set/dx_arpc on\"",
      [](Options& options, Text) { options.refuseArpc = true; return std::string(); }},
+    {"--prompt-first", kNothing, "", "send lists of spots behind the prompt, as DXSpider 1.57 does",
+     [](Options& options, Text) { options.promptFirst = true; return std::string(); }},
     {"--misbehave", kValue, "WHAT,...",
      "close, close-after=LINES, refuse, silent, stall[=LINE], nuls,\n"
      "escapes, iac, no-line-ends, flood=MEGABYTES",
@@ -182,8 +193,10 @@ NodeFacts FactsOf(const Options& options, Kind kind) {
   const auto* version =
       std::find_if(kSpiderVersions.begin(), kSpiderVersions.end(),
                    [&](const SpiderVersion& each) { return each.number == options.spiderVersion; });
+  SpiderVersion peculiarities = kind == Kind::Spider ? *version : kNoPeculiarities;
+  peculiarities.promptsFirst = peculiarities.promptsFirst || options.promptFirst;
   return {.dialect = DialectOf(kind),
-          .version = kind == Kind::Spider ? *version : kNoPeculiarities,
+          .version = peculiarities,
           .call = options.nodeCall,
           .password = options.password,
           .knowsArpc = !options.refuseArpc,
@@ -192,8 +205,11 @@ NodeFacts FactsOf(const Options& options, Kind kind) {
 }
 
 StreamPlan StreamOf(const Options& options, std::shared_ptr<const std::vector<std::string>> lines) {
-  return {
-      .rate = options.rate, .seed = options.seed, .lines = std::move(lines), .loop = options.loop};
+  return {.rate = options.rate,
+          .seed = options.seed,
+          .skimmersPercent = options.skimmersPercent,
+          .lines = std::move(lines),
+          .loop = options.loop};
 }
 
 std::vector<Kind> KindsOf(const Options& options) {

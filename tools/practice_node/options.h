@@ -23,11 +23,13 @@ struct Options {
   std::string nodeCall = "N0DE-1";
   double rate = 1;
   std::uint32_t seed = 1;
+  std::size_t skimmersPercent = 25;
   std::string playFile;  // empty: spots
   bool loop = false;
   std::string spiderVersion = "1.57";
   std::optional<std::string> password;
   bool refuseArpc = false;
+  bool promptFirst = false;
   MischiefPlan mischief;
 };
 

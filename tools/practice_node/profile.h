@@ -83,7 +83,7 @@ inline constexpr std::array<ToggleWords, kToggles> kToggleWords = {{
      "Self Spots enabled for %C", "Self Spots disabled for %C"},
     {Toggle::Beacons, true, {"beaconspot", ""}, "", "Req Beacon Spot", "",
      "Beacon Spots enabled for %C", "Beacon Spots disabled for %C"},
-    {Toggle::Skimmer, false, {"skimmer", ""}, "", "Req SkimmerSpot", "",
+    {Toggle::Skimmer, true, {"skimmer", ""}, "", "Req SkimmerSpot", "",
      "Skimmer Spots enabled for %C", "Skimmer Spots disabled for %C"},
     {Toggle::OwnSkimmer, false, {"own", ""}, "", "Req Skimmer Own", "",
      "Own Skimmer Spots enabled for %C", "Own Skimmer Spots disabled for %C"},

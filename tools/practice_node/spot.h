@@ -1,34 +1,43 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "platform/clock.h"
 
 namespace practice_node {
 
+// Where calls of a prefix come from.
+struct Area {
+  std::string_view prefix;  // of calls: "W8"
+  std::string_view country;
+  std::string_view continent;
+  std::string_view state;  // of the USA and Canada; empty elsewhere
+  int cq = 0;
+  int itu = 0;
+  bool spansZones = false;  // those are two of several
+  std::string_view field;   // first half of a grid
+};
+
+struct Station {
+  std::string call;
+  Area area;
+  std::string grid;  // four characters; empty: not known
+};
+
 struct Spot {
   int tenths = 0;  // frequency in units of 100 Hz
-  std::string call;
-  std::string spotter;
+  Station dx;
+  Station spotter;  // the call of a Skimmer ends in "#"
   std::string comment;
   platform::UtcTime time;
-  std::string spotterGrid;  // four characters
-  int dxZone = 0;           // CQ zone of `call`
+  std::string_view node = "N0DE-2";  // at which it came into the network
+  std::uint32_t variant = 0;         // chooses where a dialect has several forms for the same
 };
 
-// What a dialect, or its user, wants different.
-struct SpotStyle {
-  bool lowerCaseSpotter = false;
-  bool grid = false;          // the spotter's grid stands behind the time
-  bool zone = false;          // the zone of the DX station ends the line
-  std::size_t listCall = 11;  // column of the call in a row of the list
-};
-
-// "DX de DL1ABC:    14025.0  3Y0J         CW up 2                        2210Z": the frequency ends
-// in column 24, the call begins in 27, the comment in 40, the time in 71. No line end.
-std::string SpotLine(const Spot& spot, const SpotStyle& style);
-
-// " 14025.0  3Y0J        20-Nov-2026 2210Z  CW up 2                     <DL1ABC>"
-std::string ListRow(const Spot& spot, const SpotStyle& style);
+bool IsSkimmer(const Spot& spot);
+// On the very edge of a band.
+bool IsBottomOfBand(const Spot& spot);
 
 }  // namespace practice_node
