@@ -138,7 +138,7 @@ TEST_F(DuplicatesTest, ReportTooLongAfterTheFirstGoesOnUnrecordedWithConfirmatio
   duplicates.SkimmerConfirm = true;
   EXPECT_EQ(Receive(Skimmed("2100")), Dropped);
   EXPECT_EQ(Receive(Skimmed("2103")), Shown);
-  EXPECT_FALSE(duplicates.NewSkimmerCall);
+  EXPECT_FALSE(duplicates.NewSkimmerCall());
   // It wasn't recorded: the next one is not its second report.
   EXPECT_EQ(Receive(Skimmed("2104")), Dropped);
   EXPECT_THAT(remarks, IsEmpty());
@@ -177,10 +177,10 @@ TEST_F(DuplicatesTest, AllowedDuplicatesAreNone) {
 
 TEST_F(DuplicatesTest, AllowedDuplicatesLeaveTheFlag) {
   Receive(Skimmed());
-  ASSERT_TRUE(duplicates.NewSkimmerCall);
+  ASSERT_TRUE(duplicates.NewSkimmerCall());
   settings.AllowSkimmerDupes = true;
   Receive(Skimmed());
-  EXPECT_TRUE(duplicates.NewSkimmerCall);
+  EXPECT_TRUE(duplicates.NewSkimmerCall());
 }
 
 TEST_F(DuplicatesTest, OwnCallIsNoneIfItsSpotsAreWanted) {
