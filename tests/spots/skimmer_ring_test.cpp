@@ -54,6 +54,15 @@ TEST(SkimmerRing, NewerEntryThatIsFarAwayHidesTheCallBehindIt) {
   EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow).answer, Answer::NotFound);
 }
 
+TEST(SkimmerRing, EntryFarAwayHidesTheCallEvenBehindEveryMinuteThatIsNear) {
+  SkimmerRing ring;
+  ring.Record(kHz, "3Y0J", kNow);
+  ring.Record(kHz, "P5DX", kNow + 20);
+  for (int offset = -2; offset <= 2; ++offset) ring.Record(kHz, "K1ABC", kNow + offset);
+  EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow).answer, Answer::NotFound);
+  EXPECT_EQ(ring.RingTail(), 3);
+}
+
 TEST(SkimmerRing, WhatALookEndedAtIsNotLookedAtAgain) {
   SkimmerRing ring;
   ring.Record(kHz, "3Y0J", kNow);
