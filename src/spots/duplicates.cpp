@@ -51,7 +51,7 @@ bool Duplicates::dupefoundskm(const Spot& spot) {
   if (settings_.ShowOwnSkimmerSpots && IsOwnCall(spot.DxCall)) return false;
   if (settings_.AllowSkimmerDupes) return false;
   const auto [answer, entry] = skimmers_.Find(HertzOf(spot), spot.DxCall, spot.SpotMinute);
-  NewSkimmerCall = answer == SkimmerRing::Answer::NotFound;
+  newSkimmerCall_ = answer == SkimmerRing::Answer::NotFound;
   if (answer != SkimmerRing::Answer::Found) return false;
   return !SkimmerConfirm || IsConfirmedDupe(*entry);
 }
@@ -68,7 +68,7 @@ bool Duplicates::IsOwnCall(std::string_view call) const {
 }
 
 bool Duplicates::Admit(const Spot& spot) {
-  const Gating gating = GateOf(NewSkimmerCall, SkimmerConfirm);
+  const Gating gating = GateOf(newSkimmerCall_, SkimmerConfirm);
   if (gating.recorded) RecordDxSpot(spot);
   return gating.goesOn;
 }

@@ -42,7 +42,10 @@ class Duplicates {
 
   core::Label SkimmerDupes;     // "Skimmer Dupes =  12.50%", on show if the settings say so
   bool SkimmerConfirm = false;  // Skimmers' calls must be heard twice: the node's user wants it so
-  bool NewSkimmerCall = false;  // what the last look for a Skimmer's call has left
+
+  // What the last look for a Skimmer's call has left: there was none within reach. It decides on
+  // the spots of others too, until the next look.
+  bool NewSkimmerCall() const { return newSkimmerCall_; }
 
   // Sets SpotMinute of the spot, which has its date and time.
   bool IsDupe(Spot& spot);
@@ -67,6 +70,7 @@ class Duplicates {
   SkimmerRing skimmers_;
   std::uint64_t skimmerSpots_ = 0;
   std::uint64_t skimmerDupes_ = 0;
+  bool newSkimmerCall_ = false;
   bool shareChanged_ = false;
 };
 

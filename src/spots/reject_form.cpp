@@ -7,6 +7,13 @@
 #include "core/text.h"
 
 namespace spots {
+namespace {
+
+// By RejectLists::Kind.
+constexpr std::array<const char*, RejectLists::kKinds> kListCaptions = {
+    "Reject DX Calls", "Reject Spotters and Nodes", "Reject Comments"};
+
+}  // namespace
 
 constexpr std::array<RejectForm::Switch, 5> RejectForm::kSwitches = {{
     {&RejectForm::chkEnabled, &core::Settings::RejSpots, "Enabled"},
@@ -39,6 +46,7 @@ void RejectForm::Bind(const Switch& each) {
 }
 
 void RejectForm::Bind(RejectLists::Kind kind) {
+  lists_.lstReject[kind].Caption.Set(kListCaptions[kind]);
   cmdAdd[kind].Caption.Set("Add");
   cmdDelete[kind].Caption.Set("Delete");
   watching_.push_back(cmdAdd[kind].Click.Add([this, kind] { Add(kind); }));

@@ -29,19 +29,17 @@ std::size_t HashOf(std::string_view call, std::int64_t cell) {
 }  // namespace
 
 SkimmerRing::Finding SkimmerRing::Find(std::int64_t hz, std::string_view call, int minute) {
+  if (spent_) return {};
   const Sequence same = NewestOf(hz, call.substr(0, kLongestCall));
   const Sequence far = NewestFarFrom(minute);
-  const Sequence end = std::max(same, far);
-  if (end < OldestInReach() || end == 0) {
-    // The look went on into slots that were never written.
-    if (tail_ > head_ && !lapped_) tail_ = 1;
-    return {};
-  }
+  if (std::max(same, far) < SequenceOf(tail_)) return {};
   if (same > far) return {Answer::Found, &At(SlotOf(same))};
   tail_ = SlotOf(far) == RingLast() ? 1 : SlotOf(far) + 1;
+  spent_ = far == recorded_;
   return {same == far ? Answer::TooOld : Answer::NotFound, nullptr};
 }
 
+// A slot ahead of the head is one of the lap before.
 SkimmerRing::Sequence SkimmerRing::SequenceOf(int slot) const {
   return recorded_ - head_ + slot - (slot > head_ ? RingLast() : 0);
 }
@@ -49,12 +47,6 @@ SkimmerRing::Sequence SkimmerRing::SequenceOf(int slot) const {
 int SkimmerRing::SlotOf(Sequence sequence) const {
   const auto slot = static_cast<int>(head_ - (recorded_ - sequence));
   return slot < 1 ? slot + RingLast() : slot;
-}
-
-// With the tail ahead of the head all the present lap is in reach, and of the lap before what
-// stands from the tail on.
-SkimmerRing::Sequence SkimmerRing::OldestInReach() const {
-  return tail_ > head_ && !lapped_ ? SequenceOf(1) : SequenceOf(tail_);
 }
 
 SkimmerRing::Sequence SkimmerRing::NewestOf(std::int64_t hz, std::string_view call) const {
@@ -84,6 +76,7 @@ SkimmerRing::Sequence SkimmerRing::NewestFarFrom(int minute) const {
 void SkimmerRing::Record(std::int64_t hz, std::string_view call, int minute) {
   AdvanceHead(minute);
   ++recorded_;
+  spent_ = false;
   index_.Remove(head_);
   Entry& entry = At(head_);
   entry.hz = hz;
@@ -97,8 +90,7 @@ void SkimmerRing::Record(std::int64_t hz, std::string_view call, int minute) {
 void SkimmerRing::AdvanceHead(int minute) {
   if (entries_.empty()) Grow(kFirstSlots);
   if (++head_ <= RingLast()) return;
-  lapped_ = minute - At(1).SpotMinute >= kReusedAfter || RingLast() + kMoreSlots > kMostSlots;
-  if (lapped_)
+  if (minute - At(1).SpotMinute >= kReusedAfter || RingLast() + kMoreSlots > kMostSlots)
     head_ = 1;
   else
     Grow(kMoreSlots);

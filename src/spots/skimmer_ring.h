@@ -39,7 +39,7 @@ class SkimmerRing {
     Entry* entry = nullptr;  // the one that was found; stands until the next Record
   };
   // Looks for that call within 300 Hz. An entry 3 or more minutes from `minute` ends the look, and
-  // from then on nothing up to that entry is looked at. Minutes aren't negative.
+  // the tail moves to the one behind it. Minutes aren't negative.
   Finding Find(std::int64_t hz, std::string_view call, int minute);
 
   // Adds an entry that isn't seen yet. Memory for one is taken where the oldest is less than 11
@@ -62,7 +62,6 @@ class SkimmerRing {
   const Entry& At(int slot) const { return entries_[static_cast<std::size_t>(slot) - 1]; }
   Sequence SequenceOf(int slot) const;
   int SlotOf(Sequence sequence) const;
-  Sequence OldestInReach() const;
   Sequence NewestOf(std::int64_t hz, std::string_view call) const;
   Sequence NewestFarFrom(int minute) const;
   int NewestIn(std::int64_t cell, std::int64_t hz, std::string_view call) const;
@@ -75,7 +74,7 @@ class SkimmerRing {
   SlotIndex index_;  // by call and frequency; what an equal newer entry hides is not in
   int head_ = 0;
   int tail_ = 1;
-  bool lapped_ = false;  // the slots behind the head hold the lap before
+  bool spent_ = true;  // the tail is behind the head: nothing is looked at
   Sequence recorded_ = 0;
 
   // The minutes recorded last, the latest first. Five of them at most are near any one minute, so

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdlib>
+#include <optional>
 #include <random>
 
 #include "../session/memory_meter.h"
@@ -53,6 +54,15 @@ TEST(SkimmerRing, NewerEntryThatIsFarAwayHidesTheCallBehindIt) {
   EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow).answer, Answer::NotFound);
 }
 
+TEST(SkimmerRing, EntryFarAwayHidesTheCallEvenBehindEveryMinuteThatIsNear) {
+  SkimmerRing ring;
+  ring.Record(kHz, "3Y0J", kNow);
+  ring.Record(kHz, "P5DX", kNow + 20);
+  for (int offset = -2; offset <= 2; ++offset) ring.Record(kHz, "K1ABC", kNow + offset);
+  EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow).answer, Answer::NotFound);
+  EXPECT_EQ(ring.RingTail(), 3);
+}
+
 TEST(SkimmerRing, WhatALookEndedAtIsNotLookedAtAgain) {
   SkimmerRing ring;
   ring.Record(kHz, "3Y0J", kNow);
@@ -61,6 +71,15 @@ TEST(SkimmerRing, WhatALookEndedAtIsNotLookedAtAgain) {
   EXPECT_EQ(ring.RingTail(), 2);
   EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow + 1).answer, Answer::NotFound);
   EXPECT_EQ(ring.Find(kHz, "P5DX", kNow + 1).answer, Answer::Found);
+}
+
+TEST(SkimmerRing, CallThatWasTooOldIsNotFoundAgain) {
+  SkimmerRing ring;
+  ring.Record(kHz, "3Y0J", kNow);
+  EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow + 3).answer, Answer::TooOld);
+  EXPECT_EQ(ring.RingTail(), 2);
+  EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow + 3).answer, Answer::NotFound);
+  EXPECT_EQ(ring.Find(kHz, "3Y0J", kNow).answer, Answer::NotFound);
 }
 
 TEST(SkimmerRing, EntryIsNotSeenUntilSomebodySaysSo) {
@@ -151,6 +170,7 @@ class WalkedRing {
   Finding Find(std::int64_t hz, const std::string& call, int minute) {
     const Finding nothing;
     std::optional<Finding> end;
+    if (spent) return nothing;
     if (tail <= head) {
       for (int i = head; i >= tail && !end; --i) end = Visit(i, hz, call, minute);
     } else {
@@ -170,6 +190,7 @@ class WalkedRing {
         Grow(200);
     }
     At(head) = {hz, minute, call, false};
+    spent = false;
   }
 
   SkimmerRing::Entry& At(int slot) { return entries[static_cast<std::size_t>(slot)]; }
@@ -177,6 +198,7 @@ class WalkedRing {
   int head = 0;
   int tail = 1;
   int last = 0;
+  bool spent = true;  // the tail has moved behind the head
 
  private:
   std::optional<Finding> Visit(int i, std::int64_t hz, const std::string& call, int minute) {
@@ -184,7 +206,10 @@ class WalkedRing {
     const bool hit = std::abs(entry.hz - hz) <= 300 && entry.DxCall == call;
     const bool far = std::abs(entry.SpotMinute - minute) > 2;
     if (!hit && !far) return {};
-    if (far) tail = i + 1 > last ? 1 : i + 1;
+    if (far) {
+      tail = i + 1 > last ? 1 : i + 1;
+      spent = i == head;
+    }
     if (hit) return Finding{far ? Answer::TooOld : Answer::Found, i};
     return Finding{};
   }
@@ -264,7 +289,7 @@ TEST_P(SkimmerRingIsTheWalk, WhateverIsHeard) {
   }
   // The evening was worth watching.
   EXPECT_GT(found, 50);
-  EXPECT_GT(tooOld, 0);
+  EXPECT_TRUE(tooOld > 0 || evening.jumpsIn100 < 5);
   EXPECT_GT(laps + (walked.last > 1000), 0);
 }
 
@@ -273,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Evening{1, 300, 100, 4, 0, false}, Evening{2, 300, 100, 4, 5, false},
                     Evening{3, 300, 100, 8, 30, true}, Evening{4, 5000, 2000, 2, 1, false},
                     Evening{5, 5000, 700, 8, 2, true}, Evening{6, 20, 40, 60, 10, true},
-                    Evening{7, 1, 30, 3000, 10, false}, Evening{8, 2000, 1000, 1, 100, true},
+                    Evening{7, 1, 30, 3000, 10, false}, Evening{8, 20, 1000, 1, 100, true},
                     Evening{9, 100, 20, 12, 3, true}));
 
 }  // namespace
