@@ -48,17 +48,21 @@ void SpotPipeline::InferMissingDate() {
 
 void SpotPipeline::DisplayDxPart2() {
   core::RepairEscapes(spot.Comment, ' ' + 1);
-  ClassicRow(spot, row_);
-  UpdateText5(row_);
+  const RowLayout layout = ArPcScreenSetup({});
+  const std::size_t commentField = ClassicRow(spot, layout, {}, row_);
+  UpdateText5(row_, Packed(layout.shape), commentField);
 }
 
-void SpotPipeline::UpdateText5(std::string_view row) {
-  if (IsSkimmerRow(row)) table.NoteSkimmer();
+void SpotPipeline::UpdateText5(std::string_view row, std::uint32_t shape,
+                               std::size_t commentField) {
+  const bool skimmer = IsSkimmer(spot);
+  if (skimmer) table.NoteSkimmer();
   const int band = BandOf(spot.Freq);
   if (band == kAllBands) return;
   table.rail.Increment(BandAt(band).label);
   table.CountUnseen(band);
-  table.Add(row, band);
+  table.Add({row, skimmer ? TableRow::Kind::Skimmer : TableRow::Kind::Other, band,
+             RowSpotOf(spot, shape, commentField)});
   ++SpotsShown;
 }
 

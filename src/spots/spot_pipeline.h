@@ -41,7 +41,7 @@ class SpotPipeline {
  private:
   void InferMissingDate();
   void DisplayDxPart2();
-  void UpdateText5(std::string_view row);
+  void UpdateText5(std::string_view row, std::uint32_t shape, std::size_t commentField);
 
   core::Calendar& calendar_;
   Needs needs_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/text.h"
 #include "spots/classic_row.h"
 #include "spots/spot_date.h"
 
@@ -17,7 +18,9 @@ constexpr std::size_t kViewCut = 5000;  // the piece, in characters
 }  // namespace
 
 SpotTable::SpotTable(core::Calendar& calendar, const core::Settings& settings)
-    : rail([this](int band) { At(band, selectedView_).Append(StarsRow()); }),
+    : rail([this](int band) {
+        if (!sorted_.IsActive()) At(band, selectedView_).Append(StarsRow());
+      }),
       calendar_(calendar),
       settings_(settings) {
   chkShSkm[kDx].Caption.Set("DX");
@@ -50,20 +53,26 @@ void SpotTable::NoteSkimmer() {
 void SpotTable::CountUnseen(int band) {
   const int selected = rail.SelectedBand();
   if (onShow_ || (selected != kAllBands && selected != band)) return;
-  if (++unseen_ == 1) RtbDx.Append(StarsRow());
+  if (++unseen_ == 1 && !sorted_.IsActive() && !reloading_) RtbDx.Append(StarsRow());
   TabCaption.Set("DX = " + std::to_string(unseen_));
 }
 
-void SpotTable::Add(std::string_view text, int band) {
+void SpotTable::Add(const TableRow& row) {
   KeepLimits(kAllBands, settings_.SpotMemoryAll);
-  KeepLimits(band, settings_.SpotMemorySingle);
-  const bool skimmer = IsSkimmerRow(text);
-  const TableRow row(text, skimmer ? TableRow::Kind::Skimmer : TableRow::Kind::Other, band);
-  for (const int where : {kAllBands, band})
+  KeepLimits(row.Band(), settings_.SpotMemorySingle);
+  const bool skimmer = row.RowKind() == TableRow::Kind::Skimmer;
+  for (const int where : {kAllBands, row.Band()})
     for (const int view : {kAllSpots, skimmer ? kSkimmerSpots : kOtherSpots}) {
       At(where, view).Append(row);
-      if (Selected(where, view)) RtbDx.Append(row);
+      if (Selected(where, view)) Show(row);
     }
+}
+
+void SpotTable::Show(const TableRow& row) {
+  if (sorted_.IsActive())
+    sorted_.Queue(row);
+  else if (!reloading_)
+    RtbDx.Append(row);
 }
 
 void SpotTable::KeepLimits(int band, int memory) {
@@ -77,7 +86,11 @@ void SpotTable::KeepLimits(int band, int memory) {
 }
 
 void SpotTable::Forget(int band, int view, std::size_t spots) {
-  if (Selected(band, view)) RtbDx.RemoveSpots(spots);
+  if (spots == 0 || !Selected(band, view)) return;
+  if (sorted_.IsActive())
+    sorted_.Renew();
+  else if (!reloading_)
+    RtbDx.RemoveSpots(spots);
 }
 
 void SpotTable::SelectBand() {
@@ -94,7 +107,45 @@ void SpotTable::SelectView() {
   ClearStars();
 }
 
-void SpotTable::UpdateDxSpots() { RtbDx.Redraw(At(rail.SelectedBand(), selectedView_).Rows()); }
+void SpotTable::SortBy(int button, Press press) {
+  if (sorting_) return;
+  sorting_ = true;
+  reversed_ = press == Press::Middle;
+  sorted_.Begin(button, press != Press::Right);
+  RtbDx.SetNewestFirst(reversed_ && !sorted_.IsActive());
+  optSortBy.Set(button);
+  UpdateDxSpots();
+  sorting_ = false;
+}
+
+void SpotTable::RunDxQue() {
+  if (reloading_ || !sorted_.HasWork()) return;
+  sorted_.Run(SelectedStore().Rows(), Now());
+  RtbDx.Refresh(sorted_.Rows(reversed_));
+}
+
+void SpotTable::RefreshLastHour() {
+  if (reloading_ || optSortBy.Get() != kLastHour) return;
+  sorted_.Refresh(SelectedStore().Rows(), Now());
+  RtbDx.Refresh(sorted_.Rows(reversed_));
+}
+
+void SpotTable::EndReload() {
+  reloading_ = false;
+  UpdateDxSpots();
+}
+
+void SpotTable::UpdateDxSpots() {
+  if (sorted_.IsActive()) return ShowSorted();
+  if (!reloading_) RtbDx.Redraw(SelectedStore().Rows());
+}
+
+void SpotTable::ShowSorted() {
+  sorted_.Renew();
+  if (reloading_) return;
+  sorted_.Run(SelectedStore().Rows(), Now());
+  RtbDx.Redraw(sorted_.Rows(reversed_));
+}
 
 // Only behind the drawing: the separators are to be seen once.
 void SpotTable::ClearStars() { At(rail.SelectedBand(), selectedView_).ClearStars(); }
@@ -104,7 +155,12 @@ bool SpotTable::Selected(int band, int view) const {
 }
 
 TableRow SpotTable::StarsRow() {
-  return {Stars(kTableWidth), TableRow::Kind::Stars, 0, MomentNow(calendar_).minutes};
+  return {Stars(tableWidth_), TableRow::Kind::Stars, 0, {.minute = MomentNow(calendar_).minutes}};
+}
+
+SortMoment SpotTable::Now() {
+  const Moment now = MomentNow(calendar_);
+  return {.minutes = now.minutes, .day = core::ValInt(core::Left(now.date, 2))};
 }
 
 }  // namespace spots

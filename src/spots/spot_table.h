@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "core/controls.h"
 #include "core/dates.h"
@@ -12,6 +11,7 @@
 #include "spots/band_rail.h"
 #include "spots/dx_pane.h"
 #include "spots/row_store.h"
+#include "spots/sorted_view.h"
 
 namespace spots {
 
@@ -33,6 +33,7 @@ class SpotTable {
   std::array<core::Check, 2> chkShSkm;           // "DX" and "Skimmer"
   BandRail rail;
   DxPane RtbDx;
+  core::Property<int> optSortBy{kTimeOrder};  // the button of the order in force
 
   // What chkShSkm says: with both ticked or none it is all spots.
   int SelectedView() const { return selectedView_; }
@@ -45,8 +46,28 @@ class SpotTable {
   void NoteSkimmer();
   // Counts a spot of that band that comes while the tab isn't on show, if it will be on view there.
   void CountUnseen(int band);
-  // Stores a row of that band, and shows it where band and view are the selected ones.
-  void Add(std::string_view row, int band);
+  // Stores a row, and shows it where band and view are the selected ones; in a sorted view it waits
+  // for RunDxQue.
+  void Add(const TableRow& row);
+
+  // The order of the rows, by the number of a sort button. Pressed with the middle button of the
+  // mouse it shows them from their end; with the right one no spotter is left out of the order by
+  // addresses.
+  enum class Press { Left, Middle, Right };
+  void SortBy(int button, Press press = Press::Left);
+  // Takes what waits into the sorted view. To be called 10 times a second.
+  void RunDxQue();
+  // Brings the summary of the last hour up to the present minute.
+  void RefreshLastHour();
+  // As many rows are in sight.
+  void SetPaneRows(int rows) { sorted_.SetPaneRows(rows); }
+
+  // While a log is reloaded the rows are stored and not drawn; its end draws them.
+  void BeginReload() { reloading_ = true; }
+  void EndReload();
+
+  // The columns of a separator.
+  void SetTableWidth(int columns) { tableWidth_ = columns; }
 
   const RowStore& SpotStore(int band, int view) const {
     return stores_[static_cast<std::size_t>(band)][static_cast<std::size_t>(view)];
@@ -58,7 +79,11 @@ class SpotTable {
   void SelectBand();
   void SelectView();
   void UpdateDxSpots();
+  void ShowSorted();
   void ClearStars();
+  const RowStore& SelectedStore() const { return SpotStore(rail.SelectedBand(), selectedView_); }
+  SortMoment Now();
+  void Show(const TableRow& row);
   void KeepLimits(int band, int memory);
   void Forget(int band, int view, std::size_t spots);
   bool Selected(int band, int view) const;
@@ -73,6 +98,11 @@ class SpotTable {
   int selectedView_ = kAllSpots;
   bool onShow_ = false;
   bool skimmerNoted_ = false;
+  bool sorting_ = false;  // an order is being chosen
+  bool reversed_ = false;
+  bool reloading_ = false;
+  int tableWidth_ = kDefaultSpotWidth;
+  SortedView sorted_;
   std::uint64_t unseen_ = 0;
   platform::Registration selectingBand_;
   std::array<platform::Registration, 2> selectingView_;

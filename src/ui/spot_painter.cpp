@@ -57,23 +57,12 @@ void SpotPainter::Draw(QPainter& painter, const Row& row, const SpotColours& col
 void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) const {
   const QColor& band = colours.OfBand(row.row.Band());
   painter.fillRect(0, row.top + 1, kBarWidth, rowHeight_ - 2, band);
-  const std::string_view text = row.row.Text();
-  const auto draw = [&](std::string_view part, const QColor& colour, const QFont& font) {
-    if (part.empty()) return;
-    painter.setPen(colour);
-    painter.setFont(font);
-    painter.drawText(ColumnAt(part.data() - text.data()) - row.scrolled, row.top + baseline_,
-                     OneLine(part, kLongest));
-  };
-  const spots::RowParts parts = spots::PartsOf(text);
-  draw(parts.head, colours.dim, font_);
-  draw(parts.spotter, colours.text, font_);
-  draw(parts.frequency, band, font_);
-  draw(parts.mark, colours.dim, font_);
-  draw(parts.call, band, callFont_);
-  draw(parts.comment, colours.text, font_);
-  draw(parts.time, colours.dim, font_);
-  draw(parts.tail, colours.dim, font_);
+  for (const spots::DrawnField& field : spots::Drawn(row.row)) {
+    painter.setPen(colours.OfInk(field.ink, band));
+    painter.setFont(field.ink == spots::Ink::Call ? callFont_ : font_);
+    painter.drawText(ColumnAt(field.place) - row.scrolled, row.top + baseline_,
+                     OneLine(field.text, kLongest));
+  }
 }
 
 void SpotPainter::DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const {

@@ -19,6 +19,7 @@ class SpotSnapshot {
     std::size_t removed = 0;  // from the front
     std::size_t added = 0;    // at the end
     bool allNew = false;      // that is all of them each time
+    bool sameList = false;    // of what is all new, most was there before
 
     bool IsEmpty() const { return removed == 0 && added == 0 && !allNew; }
   };
@@ -47,6 +48,7 @@ class SpotSnapshot {
   Number first_ = 0;
   std::size_t removed_ = 0;  // of those here, how many have left the pane
   bool allNew_ = false;
+  bool anotherList_ = false;
   platform::Registration observing_;
 };
 

@@ -35,7 +35,7 @@ QString NewSince(const spots::TableRow& stars, std::size_t spotsBehind) {
 }
 
 QString SpokenRow(const spots::TableRow& row) {
-  const spots::RowParts parts = spots::PartsOf(row.Text());
+  const spots::RowParts parts = spots::PartsOf(row);
   if (parts.call.empty()) return OneLine(row.Text(), kLongest);
   return QObject::tr("%1, %2, %3, spotter %4")
       .arg(OneLine(parts.frequency, kLongest), Spelled(parts.call), SpokenTime(parts.time),
@@ -43,7 +43,7 @@ QString SpokenRow(const spots::TableRow& row) {
 }
 
 QString SpokenRest(const spots::TableRow& row) {
-  const spots::RowParts parts = spots::PartsOf(row.Text());
+  const spots::RowParts parts = spots::PartsOf(row);
   const std::string_view tail = core::Trim(parts.tail);
   QString rest = OneLine(parts.comment, kLongest);
   if (!tail.empty()) rest += (rest.isEmpty() ? "" : ", ") + OneLine(tail, kLongest);

@@ -25,7 +25,7 @@ void SpotDesk::ReceiveCalls(const Texts& calls, const std::string& kHz) {
 SpotDesk::Texts SpotDesk::CallsOf(const std::deque<spots::TableRow>& rows) {
   Texts calls;
   for (const spots::TableRow& row : rows)
-    calls.emplace_back(row.IsStars() ? "*" : core::Trim(spots::LookUpCalls(row.Text()).call));
+    calls.emplace_back(row.IsStars() ? "*" : spots::LookUpCalls(row).call);
   return calls;
 }
 
