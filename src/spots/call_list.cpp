@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/quoted.h"
+#include "core/text.h"
 
 namespace spots {
 
@@ -14,14 +15,15 @@ void CallList::Read(std::string text) {
   std::string_view rest = text_;
   for (std::uint32_t number = 1; !rest.empty(); ++number) {
     const auto start = static_cast<std::uint32_t>(text_.size() - rest.size());
-    if (!core::TakeLine(rest).empty()) byCall_.push_back({start, number});
+    std::string_view line = core::TakeLine(rest);
+    const std::string_view call = core::ExtractToCharacter(' ', line);
+    if (!call.empty()) byCall_.push_back({start, static_cast<std::uint32_t>(call.size()), number});
   }
   std::stable_sort(byCall_.begin(), byCall_.end(),
                    [this](const Line& a, const Line& b) { return CallAt(a) < CallAt(b); });
 }
 
 std::size_t CallList::FindCall(std::string_view call) const {
-  if (call.empty()) return 0;
   const auto at = std::lower_bound(
       byCall_.begin(), byCall_.end(), call,
       [this](const Line& line, std::string_view key) { return CallAt(line) < key; });
@@ -29,8 +31,7 @@ std::size_t CallList::FindCall(std::string_view call) const {
 }
 
 std::string_view CallList::CallAt(const Line& line) const {
-  const std::string_view rest = std::string_view(text_).substr(line.start);
-  return rest.substr(0, rest.find_first_of(" \r\n"));
+  return std::string_view(text_).substr(line.start, line.length);
 }
 
 }  // namespace spots

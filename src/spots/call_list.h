@@ -13,7 +13,7 @@ namespace spots {
 class CallList {
  public:
   // What stands beyond is not read.
-  static constexpr std::size_t kMostBytes = std::size_t{64} << 20;
+  static constexpr std::size_t kMostBytes = std::size_t{16} << 20;
 
   // In place of what was there before. Lines may end in CR LF or LF.
   void Read(std::string text);
@@ -24,6 +24,7 @@ class CallList {
  private:
   struct Line {
     std::uint32_t start;
+    std::uint32_t length;  // of the call
     std::uint32_t number;
   };
 

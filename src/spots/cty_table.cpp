@@ -1,7 +1,6 @@
 #include "spots/cty_table.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 #include "core/quoted.h"
@@ -12,6 +11,7 @@ namespace {
 
 constexpr std::ptrdiff_t kLeastLines = 300;
 constexpr std::size_t kLongestLine = 255;
+constexpr std::size_t kLongestPrefix = 15;
 
 constexpr std::string_view kMarionPrefix = "ZS8";
 constexpr std::string_view kMarionIsland =
@@ -40,13 +40,6 @@ bool IsCountryLine(std::string_view line) {
   return line.size() <= kLongestLine && core::EndsWith(line, ":");
 }
 
-// By their bytes, as all texts are sorted, with small letters counted as capitals.
-bool LessIgnoringCase(std::string_view a, std::string_view b) {
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return static_cast<unsigned char>(core::UCase(x)) < static_cast<unsigned char>(core::UCase(y));
-  });
-}
-
 std::string Joined(const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text.append(line).append("\r\n");
@@ -57,6 +50,7 @@ std::string Joined(const std::vector<std::string>& lines) {
 
 std::optional<std::string> CtyTable::Read(std::string_view text) {
   Clear();
+  text = text.substr(0, kMostBytes);
   if (std::count(text.begin(), text.end(), '\n') < kLeastLines) return {};
   const bool isComplete = core::InStrIgnoringCase(text, kMarionPrefix) > 0;
   // What stands behind the last line end never counts.
@@ -66,7 +60,8 @@ std::optional<std::string> CtyTable::Read(std::string_view text) {
     if (IsCountryLine(line)) AddLine(core::UCase(line));
   }
   if (!isComplete) AddLine(kMarionIsland);
-  Finish();
+  CutColumns();
+  IndexPrefixes();
   if (isComplete || std::ssize(headerLines_) <= kLeastLines) return {};
   return Joined(headerLines_);
 }
@@ -74,8 +69,7 @@ std::optional<std::string> CtyTable::Read(std::string_view text) {
 void CtyTable::Clear() {
   headerLines_.clear();
   rows_.clear();
-  byPrefix_.clear();
-  byName_.clear();
+  known_.clear();
   for (Columns* columns : {&prefixes_, &names_})
     for (auto& column : *columns) column.clear();
   continentLast_.fill(-1);
@@ -97,7 +91,8 @@ void CtyTable::AddLine(std::string_view line) {
     prefix.erase(0, 1);
     name += " (WAE Country)";
   }
-  if (prefix.empty() || rows_.size() == kMostRows) return;
+  const bool isNone = prefix.empty() || prefix.size() > kLongestPrefix;
+  if (isNone || rows_.size() == kMostRows) return;
   const core::Coordinates position{.latitude = core::Val(fields[kLatitude]),
                                    .longitude = core::Val(fields[kLongitude])};
   headerLines_.emplace_back(line);
@@ -122,53 +117,44 @@ void CtyTable::EnterByContinent(std::string_view continent, std::string prefix, 
   names_[lastColumn_][row] = std::move(name);
 }
 
-void CtyTable::Finish() {
+void CtyTable::CutColumns() {
   std::size_t longest = 0;
   for (const auto& column : prefixes_) longest = std::max(longest, column.size());
   for (Columns* columns : {&prefixes_, &names_})
     for (auto& column : *columns) column.resize(longest);
-  IndexPrefixes();
-  IndexNames();
 }
 
-// Of equal prefixes the first one counts, in both.
+// Of equal prefixes the first row counts, but for the name it is the first one by columns. A
+// country that another one has taken the place of has no name.
 void CtyTable::IndexPrefixes() {
-  byPrefix_.resize(rows_.size());
-  std::iota(byPrefix_.begin(), byPrefix_.end(), std::size_t{0});
-  std::stable_sort(byPrefix_.begin(), byPrefix_.end(), [this](std::size_t a, std::size_t b) {
-    return LessIgnoringCase(rows_[a].Prefix, rows_[b].Prefix);
-  });
-}
-
-void CtyTable::IndexNames() {
+  for (std::size_t row = 0; row < rows_.size(); ++row)
+    known_.try_emplace(rows_[row].Prefix, Known{.row = row, .name = {}});
   for (std::size_t column = 0; column < kContinents; ++column)
-    for (std::size_t row = 0; row < prefixes_[column].size(); ++row)
-      if (!prefixes_[column][row].empty()) byName_.push_back({column, row});
-  std::stable_sort(byName_.begin(), byName_.end(),
-                   [this](Place a, Place b) { return LessIgnoringCase(PrefixAt(a), PrefixAt(b)); });
+    for (std::size_t row = 0; row < prefixes_[column].size(); ++row) {
+      const auto known = known_.find(prefixes_[column][row]);
+      if (known != known_.end() && known->second.name.empty())
+        known->second.name = names_[column][row];
+    }
 }
 
-const CtyTable::Row* CtyTable::Find(std::string_view prefix) const {
-  const auto at = std::lower_bound(byPrefix_.begin(), byPrefix_.end(), prefix,
-                                   [this](std::size_t row, std::string_view key) {
-                                     return LessIgnoringCase(rows_[row].Prefix, key);
-                                   });
-  const bool found = at != byPrefix_.end() && core::SameIgnoringCase(rows_[*at].Prefix, prefix);
-  return found ? &rows_[*at] : nullptr;
+const CtyTable::Known* CtyTable::Find(std::string_view prefix) const {
+  std::array<char, kLongestPrefix> key{};
+  if (prefix.size() > key.size()) return nullptr;
+  std::transform(prefix.begin(), prefix.end(), key.begin(),
+                 [](char byte) { return core::UCase(byte); });
+  const auto known = known_.find(std::string_view(key.data(), prefix.size()));
+  return known == known_.end() ? nullptr : &known->second;
 }
 
 bool CtyTable::FindHeading(std::string_view prefix, Heading& current) const {
-  const Row* row = Find(prefix);
-  current = row != nullptr ? row->heading : Heading{};
-  return row != nullptr;
+  const Known* known = Find(prefix);
+  current = known != nullptr ? rows_[known->row].heading : Heading{};
+  return known != nullptr;
 }
 
 std::string_view CtyTable::CountryName(std::string_view prefix) const {
-  const auto at = std::lower_bound(
-      byName_.begin(), byName_.end(), prefix,
-      [this](Place place, std::string_view key) { return LessIgnoringCase(PrefixAt(place), key); });
-  if (at == byName_.end() || !core::SameIgnoringCase(PrefixAt(*at), prefix)) return {};
-  return names_[at->column][at->row];
+  const Known* known = Find(prefix);
+  return known != nullptr ? std::string_view(known->name) : std::string_view();
 }
 
 }  // namespace spots

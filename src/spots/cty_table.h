@@ -2,10 +2,11 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "spots/bearing.h"
@@ -19,6 +20,8 @@ namespace spots {
 class CtyTable {
  public:
   static constexpr std::size_t kMostRows = 500;
+  // Of a longer text only so much counts.
+  static constexpr std::size_t kMostBytes = std::size_t{8} << 20;
   static constexpr std::size_t kContinents = 6;
   // NA, EU, AF, AS, SA, OC; "AN" stands with SA. All are as long as the longest one, filled up with
   // empty texts.
@@ -32,8 +35,8 @@ class CtyTable {
 
   // Takes the file's text in place of what was read before. A text of fewer than 300 line ends
   // leaves the table empty. Where the file lacks Marion Island, the table gains it and the result
-  // is what the file should hold from now on: the country lines alone. Total, and bounded by
-  // kMostRows; lines may end in CR LF or LF.
+  // is what the file should hold from now on: the country lines alone. Total, and bounded; lines
+  // may end in CR LF or LF.
   std::optional<std::string> Read(std::string_view text);
   void Clear();
   // The headings follow it. There is none at first.
@@ -56,28 +59,31 @@ class CtyTable {
   const std::array<int, kContinents>& ContinentLast() const { return continentLast_; }
 
  private:
-  struct Place {
-    std::size_t column;
-    std::size_t row;
+  struct Known {
+    std::size_t row = 0;
+    std::string name;
+  };
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const {
+      return std::hash<std::string_view>{}(text);
+    }
   };
 
   void AddLine(std::string_view line);
   void EnterByContinent(std::string_view continent, std::string prefix, std::string name);
-  void Finish();
+  void CutColumns();
   void IndexPrefixes();
-  void IndexNames();
-  const Row* Find(std::string_view prefix) const;
-  const std::string& PrefixAt(Place place) const { return prefixes_[place.column][place.row]; }
+  const Known* Find(std::string_view prefix) const;
 
   Home home_;
   std::vector<std::string> headerLines_;
   std::vector<Row> rows_;
-  std::vector<std::size_t> byPrefix_;  // indices of rows_
   Columns prefixes_;
   Columns names_;
-  std::vector<Place> byName_;  // the places of the columns, by their prefix
   std::array<int, kContinents> continentLast_ = {-1, -1, -1, -1, -1, -1};
-  std::size_t lastColumn_ = 0;  // that took a country
+  std::size_t lastColumn_ = 0;                                           // that took a country
+  std::unordered_map<std::string, Known, Hash, std::equal_to<>> known_;  // by prefix
 };
 
 }  // namespace spots

@@ -25,6 +25,7 @@ StateTable::Row RowOf(std::string_view line) {
 }  // namespace
 
 void StateTable::Read(std::string_view text) {
+  text = text.substr(0, kMostBytes);
   core::TakeLine(text);
   std::string_view rest = text;
   if (core::InStr(core::TakeLine(rest), "ALABAMA") == 0) return;

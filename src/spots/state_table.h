@@ -17,6 +17,8 @@ namespace spots {
 class StateTable {
  public:
   static constexpr std::size_t kMostRows = 65;
+  // Of a longer text only so much counts.
+  static constexpr std::size_t kMostBytes = std::size_t{1} << 20;
 
   struct Row {
     std::string code;

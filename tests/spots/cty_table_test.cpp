@@ -239,8 +239,10 @@ TEST_F(CtyTableTest, WhatStandsBehindTheLastLineEndIsNotRead) {
 
 TEST_F(CtyTableTest, LinesThatAreNoCountryAreSkipped) {
   Read({"", ":", "::::::::", "Monaco: 14: 27: EU:", std::string(300, ' ') + Country{}.Line(),
-        Country{}.Line() + " ", Country{.prefix = "*"}.Line()});
+        Country{}.Line() + " ", Country{.prefix = "*"}.Line(),
+        Country{.prefix = "SIXTEENLETTERS16"}.Line()});
   EXPECT_EQ(table.CtyCount(), 310);
+  EXPECT_FALSE(table.HasPrefix("SIXTEENLETTERS16"));
 }
 
 TEST_F(CtyTableTest, NumbersThatAreNoneCountAsZero) {
@@ -262,8 +264,8 @@ TEST_F(CtyTableTest, HoldsAsManyCountriesAsItHasRoomFor) {
 TEST_F(CtyTableTest, FiftyMegabytesAreHarmless) {
   constexpr std::size_t kGiant = 50'000'000;
   for (const char byte : {'\n', ':', 'Z', '\0'}) table.Read(std::string(kGiant, byte));
-  std::string lines;
-  while (lines.size() < kGiant) lines += ":\r\n";
+  std::string lines = ":\r\n";
+  while (lines.size() < kGiant) lines += lines;
   table.Read(lines);
   EXPECT_LE(table.CtyCount(), 0);
 }

@@ -181,7 +181,7 @@ TEST_F(OwnStateFile, EachStateHasAHeadingOfItsOwn) {
 
 TEST_F(OwnStateFile, HeadingsFromAnnArborAreWhereOneExpectsThem) {
   EXPECT_EQ(HeadingOf("OH").CurBearing, "160");
-  EXPECT_EQ(HeadingOf("CA").CurBearing, "270");
+  EXPECT_EQ(HeadingOf("CA").CurBearing, "271");
   EXPECT_EQ(HeadingOf("ME").CurBearing, " 69");
   EXPECT_EQ(HeadingOf("FL").CurBearing, "175");
 }
