@@ -124,7 +124,7 @@ TEST_F(FixFormTest, AddedEntryStandsInTheListTheFileAndCounts) {
   Type(" dl1xx ", "dl", "14");
   form.cmdAdd.Press();
   EXPECT_THAT(Calls(), ElementsAre("DL1XX", "K1ABC"));
-  EXPECT_EQ(File(), "\"K1ABC\",\"K\"\r\nDL1XX               DL       14                00\r\n");
+  EXPECT_EQ(File(), "\"K1ABC\",\"K\"\r\nDL1XX               DL       14                 00\r\n");
   EXPECT_EQ(form.txtAddCall.Text.Get(), "");
   EXPECT_EQ(form.txtAddCty.Text.Get(), "");
   world.Run(FixList::kWriteDelay);

@@ -314,7 +314,7 @@ TEST_F(FixListTest, FlushWritesWhatIsStillDelayed) {
 TEST_F(FixListTest, NewDataIsAppendedAsARow) {
   Have("\"G0AA\",\"G\"");
   list.SaveNewData(*ParseFixLine("K1ABC,K,MA"));
-  EXPECT_EQ(File(), "\"G0AA\",\"G\"\r\nK1ABC               K     MA                     00\r\n");
+  EXPECT_EQ(File(), "\"G0AA\",\"G\"\r\nK1ABC               K     MA                    00\r\n");
   list.SaveNewData(*ParseFixLine("K2*,K"));
   list.ReadFixSpots();
   EXPECT_EQ(list.FixCount(), 3u);
