@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "core/text.h"
 #include "platform/sim/world.h"
+#include "spots/bands.h"
 #include "spots/classic_row.h"
 #include "spots/log_files.h"
 #include "spots/log_line.h"

@@ -8,6 +8,7 @@ namespace {
 using Fault = platform::Files::Fault;
 
 constexpr auto kKey = "save";
+constexpr auto kLogKey = "log";
 
 std::string Reason(Fault fault) {
   if (fault == Fault::Full) return "the disk is full";
@@ -26,6 +27,14 @@ void ShowSaved(Conditions& conditions, Fault fault, std::function<void()> save) 
                     .text = "Settings are not saved: " + Reason(fault) + ".",
                     .button = "Save now",
                     .help = std::move(save)});
+}
+
+void ShowLogged(Conditions& conditions, Fault fault) {
+  if (fault == Fault::None)
+    conditions.Clear(kLogKey);
+  else
+    conditions.Raise(
+        {.key = kLogKey, .text = "Spots are not logged: " + Reason(fault) + ".", .button = {}});
 }
 
 }  // namespace program

@@ -11,4 +11,7 @@ namespace program {
 // that succeeded clears it. `save` tries again.
 void ShowSaved(Conditions& conditions, platform::Files::Fault fault, std::function<void()> save);
 
+// Raises the condition that spots go unlogged, by what became of the last ones.
+void ShowLogged(Conditions& conditions, platform::Files::Fault fault);
+
 }  // namespace program

@@ -54,4 +54,15 @@ TEST_F(SaveConditionTest, ItsButtonSavesWhatIsThere) {
   EXPECT_EQ(Text(), "");
 }
 
+TEST(LogCondition, TellsWhySpotsAreNotLoggedAsLongAsTheyAreNot) {
+  program::Conditions conditions;
+  program::ShowLogged(conditions, platform::Files::Fault::Denied);
+  EXPECT_EQ(conditions.lblText.Caption.Get(),
+            "Spots are not logged: no permission to write there.");
+  program::ShowLogged(conditions, platform::Files::Fault::Full);
+  EXPECT_EQ(conditions.lblText.Caption.Get(), "Spots are not logged: the disk is full.");
+  program::ShowLogged(conditions, platform::Files::Fault::None);
+  EXPECT_FALSE(conditions.lblText.Visible.Get());
+}
+
 }  // namespace
