@@ -16,7 +16,7 @@ constexpr int kFindWidth = 200;
 
 DxPage::DxPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent)
     : QWidget(parent) {
-  spots::SpotTable& table = program.spotPipeline.table;
+  spots::SpotTable& table = program.spotParts.table;
   spots_ = new SpotView({.pane = table.RtbDx,
                          .empty = program.dxTab.lblEmpty,
                          .size = program.textSizes.Size[program::TextSizes::Dx],

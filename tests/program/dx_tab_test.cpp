@@ -15,7 +15,7 @@ class DxTabTest : public testing::Test {
  protected:
   DxTabTest() { desk.HasUsualConfiguration(); }
 
-  SpotTable& Table() { return desk.program->spotPipeline.table; }
+  SpotTable& Table() { return desk.program->spotParts.table; }
   std::string Caption() { return desk.program->views.tab[Views::Dx].Caption.Get(); }
   std::string Empty() { return desk.program->dxTab.lblEmpty.Caption.Get(); }
   void ChooseBand(int band) { Table().rail.optBand.UserSelects(band); }
