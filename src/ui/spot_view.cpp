@@ -81,11 +81,13 @@ void SpotView::Refresh() {
   const SpotSnapshot::Batch batch = rows_.Take();
   if (batch.IsEmpty()) return;
   if (current_ && !rows_.Holds(*current_)) current_.reset();
-  const int stays =
-      verticalScrollBar()->value() - static_cast<int>(batch.removed) * painter_.RowHeight();
+  const int place = verticalScrollBar()->value();
+  const int stays = place - static_cast<int>(batch.removed) * painter_.RowHeight();
   const std::size_t below = newBelow_ + SpotsFrom(rows_.End() - static_cast<Number>(batch.added));
   SetRanges();
-  if (batch.allNew || atEnd) {
+  if (batch.sameList) {
+    verticalScrollBar()->setValue(place);
+  } else if (batch.allNew || atEnd) {
     GoToEnd();
   } else {
     verticalScrollBar()->setValue(std::max(stays, 0));
