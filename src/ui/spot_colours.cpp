@@ -48,6 +48,11 @@ QColor Readable(QColor colour, const QColor& ground, Theme::Kind kind) {
 
 }  // namespace
 
+const QColor& SpotColours::OfInk(spots::Ink ink, int band) const {
+  if (ink == spots::Ink::Dim) return dim;
+  return ink == spots::Ink::Text ? text : OfBand(band);
+}
+
 SpotColours ColoursOf(const core::Settings& settings, const Theme& theme) {
   const bool chosen = IsChosen(settings.ColourDx);
   const QColor ground = chosen ? AsStored(settings.ColourDx) : theme[Token::Ground];

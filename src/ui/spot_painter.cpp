@@ -55,10 +55,9 @@ void SpotPainter::Draw(QPainter& painter, const Row& row, const SpotColours& col
 }
 
 void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) const {
-  const QColor& band = colours.OfBand(row.row.Band());
-  painter.fillRect(0, row.top + 1, kBarWidth, rowHeight_ - 2, band);
+  painter.fillRect(0, row.top + 1, kBarWidth, rowHeight_ - 2, colours.OfBand(row.row.Band()));
   for (const spots::DrawnField& field : spots::Drawn(row.row)) {
-    painter.setPen(colours.OfInk(field.ink, band));
+    painter.setPen(colours.OfInk(field.ink, row.row.Band()));
     painter.setFont(field.ink == spots::Ink::Call ? callFont_ : font_);
     painter.drawText(ColumnAt(field.place) - row.scrolled, row.top + baseline_,
                      OneLine(field.text, kLongest));

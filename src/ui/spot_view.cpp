@@ -81,14 +81,16 @@ void SpotView::Refresh() {
   const SpotSnapshot::Batch batch = rows_.Take();
   if (batch.IsEmpty()) return;
   if (current_ && !rows_.Holds(*current_)) current_.reset();
-  const int stays =
-      verticalScrollBar()->value() - static_cast<int>(batch.removed) * painter_.RowHeight();
+  const int place = verticalScrollBar()->value();
+  const int stays = place - static_cast<int>(batch.removed) * painter_.RowHeight();
   const Number firstAdded = rows_.End() - static_cast<Number>(batch.added);
   const std::size_t below = newBelow_ + SpotsFrom(firstAdded);
   if (batch.allNew) widest_ = 0;
   Measure(firstAdded);
   SetRanges();
-  if (batch.allNew || atEnd) {
+  if (batch.sameList) {
+    verticalScrollBar()->setValue(place);
+  } else if (batch.allNew || atEnd) {
     GoToEnd();
   } else {
     verticalScrollBar()->setValue(std::max(stays, 0));
@@ -106,7 +108,7 @@ std::size_t SpotView::SpotsFrom(Number first) const {
 
 void SpotView::Measure(Number first) {
   for (Number row = first; row < rows_.End(); ++row)
-    if (!rows_.Row(row).IsStars()) widest_ = std::max(widest_, rows_.Row(row).Text().size());
+    if (rows_.Row(row).IsSpot()) widest_ = std::max(widest_, rows_.Row(row).Text().size());
 }
 
 void SpotView::ChangeSize(int pixels) {

@@ -22,7 +22,7 @@ class DxTabTest : public testing::Test {
   void ConnectTo(LinkPhase phase) { desk.program->session.state.Phase.Set(phase); }
   void Spot(const char* row = "DX de W1TST:      14025.0  3Y0J         CW             2100Z") {
     Table().CountUnseen(6);
-    Table().Add(row, 6);
+    Table().Add({row, spots::TableRow::Kind::Other, 6});
   }
 
   Desk desk;

@@ -53,7 +53,7 @@ spots::SpotParts::Needs SpotDesk::Needs() {
           .fetchFixes = [](std::string_view) {},
           .openFixPage = [](std::string_view) {},
           .delayedWriteCfg = [] {},
-          .onFault = [](const std::string&, const std::string&) {}};
+          .onFault = [](std::string_view, std::string_view) {}};
 }
 
 void SpotDesk::ReceiveCalls(const Texts& calls, const std::string& kHz) {

@@ -64,7 +64,7 @@ class SpotDesk : public testing::Test {
   spots::SpotParts::Needs Needs();
 
   platform::sim::World world;
-  platform::Platform platform = world.Platform();
+  platform::Platform platform = world.platform();
   core::Calendar calendar{world.clock};
   core::Settings settings;
   core::ErrorLog errorLog{world.files, world.dialogs, calendar, "/home"};
