@@ -48,6 +48,18 @@ QColor Readable(QColor colour, const QColor& ground, Theme::Kind kind) {
 
 }  // namespace
 
+const QColor& SpotColours::OfInk(spots::Ink ink, int band) const {
+  switch (ink) {
+    case spots::Ink::Band:
+    case spots::Ink::Call:
+      return OfBand(band);
+    case spots::Ink::Text:
+      return text;
+    default:
+      return dim;
+  }
+}
+
 SpotColours ColoursOf(const core::Settings& settings, const Theme& theme) {
   const bool chosen = IsChosen(settings.ColourDx);
   const QColor ground = chosen ? AsStored(settings.ColourDx) : theme[Token::Ground];

@@ -5,6 +5,7 @@
 
 #include "core/settings.h"
 #include "spots/bands.h"
+#include "spots/row_parts.h"
 #include "ui/theme.h"
 
 namespace ui {
@@ -21,6 +22,8 @@ struct SpotColours {
   std::array<QColor, spots::kBands.size()> bands;  // by their index
 
   const QColor& OfBand(int band) const { return bands[static_cast<std::size_t>(band)]; }
+  // Of a field in a row of that band.
+  const QColor& OfInk(spots::Ink ink, int band) const;
 };
 
 // Those of the theme, and what the user chose himself. On a ground that he chose, everything is

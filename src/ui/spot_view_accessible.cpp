@@ -12,7 +12,7 @@ namespace {
 using Number = SpotView::Number;
 
 // One row. It may outlive its row, and says so then.
-class AccessibleRow : public QAccessibleInterface {
+class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   AccessibleRow(SpotView& view, Number row) : view_(view), row_(row) {}
 
@@ -36,6 +36,17 @@ class AccessibleRow : public QAccessibleInterface {
     return kind == QAccessible::Description && !row.IsStars() ? SpokenRest(row) : QString();
   }
   void setText(QAccessible::Text, const QString&) override {}
+
+  // Pressing a row is pressing its call.
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type != QAccessible::ActionInterface) return nullptr;
+    return static_cast<QAccessibleActionInterface*>(this);
+  }
+  QStringList actionNames() const override { return {pressAction()}; }
+  void doAction(const QString& action) override {
+    if (isValid() && action == pressAction()) view_.PressCall(row_, Qt::NoModifier);
+  }
+  QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
   QRect rect() const override {
     const QRect place = view_.PlaceOf(row_);
