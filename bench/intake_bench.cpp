@@ -57,7 +57,7 @@ void Intake(benchmark::State& state) {
   for (auto _ : state) running.Take(stream);
   state.SetItemsProcessed(state.iterations() * kLines);
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(stream.size()));
-  state.counters["spots_shown"] = static_cast<double>(running.program.spotPipeline.SpotsShown);
+  state.counters["spots_shown"] = static_cast<double>(running.program.spotParts.pipeline.SpotsShown);
 }
 BENCHMARK(Intake)->Unit(benchmark::kMillisecond);
 

@@ -73,7 +73,7 @@ class Stretch {
       return events.end() - std::upper_bound(events.begin(), events.end(), limit);
     };
     const double seconds = static_cast<double>(clock_.elapsed()) / 1e3;
-    std::cout << view << ": " << program_.spotPipeline.SpotsShown - spots_ << " spots in "
+    std::cout << view << ": " << program_.spotParts.pipeline.SpotsShown - spots_ << " spots in "
               << seconds << " s, " << events.size() << " events, the longest " << events.back()
               << " ms, " << above(16) << " over 16 ms, " << above(50) << " over 50 ms, "
               << 100 * (ProcessorSeconds() - processor_) / seconds << " % of a core" << std::endl;
@@ -88,7 +88,7 @@ class Stretch {
 
   TimedApplication& application_;
   const Program& program_;
-  std::uint64_t spots_ = program_.spotPipeline.SpotsShown;
+  std::uint64_t spots_ = program_.spotParts.pipeline.SpotsShown;
   double processor_ = ProcessorSeconds();
   QElapsedTimer clock_ = Started();
 };

@@ -106,6 +106,7 @@ bool ProfileReader::ReadSwitch(const Entry& entry) {
   // Nobody stays without spots.
   if (*which == kDxSpots && !yes) outgoing_.SendAsIs("set/dx");
   page_.chkSettings[*which].Value.Set(yes || *which == kDxSpots);
+  page_.Told.set(*which);
   return true;
 }
 

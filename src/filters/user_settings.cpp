@@ -18,6 +18,7 @@ UserSettings::UserSettings() {
 }
 
 void UserSettings::ForgetNode() {
+  Told.reset();
   for (Pair* pair : {&txtMyName, &txtMyQTH, &txtMyLocation, &txtMyEmail, &txtMyHomeNode, &txtMyQRA})
     (*pair)[0].Text.Set({});
 }

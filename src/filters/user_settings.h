@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 
 #include "core/controls.h"
 #include "core/settings.h"
@@ -39,6 +40,7 @@ struct UserSettings {
   using Pair = std::array<core::TextBox, 2>;
 
   std::array<core::Check, 20> chkSettings;
+  std::bitset<20> Told;  // the switches that the node has told of in this session
   Pair txtMyName;
   Pair txtMyQTH;
   Pair txtMyLocation;

@@ -2,6 +2,7 @@
 
 #include "core/password_file.h"
 #include "core/version.h"
+#include "program/save_condition.h"
 
 namespace program {
 namespace {
@@ -20,11 +21,12 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       calendar(platform.clock),
       errorLog(platform.files, platform.dialogs, calendar, folder_),
       chain_(*this),
+      ties_(*this),
       session(platform_, calendar, settings,
               {.chain = chain_,
                .loggers = standIns,
-               .requests = standIns,
-               .clockWork = standIns,
+               .requests = ties_,
+               .clockWork = ties_,
                .tncScript = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
@@ -40,14 +42,16 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .closeMessage = [this] { messageForm.Close(); },
                .ar17Settled = [] {},
                .profileAsked = [this] { profileReader.AskedByLogin(); },
-               .onEnding = [this] { profileReader.Forget(); },
+               .onEnding =
+                   [this] {
+                     profileReader.Forget();
+                     spotParts.Disconnected();
+                   },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed}),
-      spotPipeline(platform_.scheduler, calendar, settings,
-                   {.nodeFacts = [this] { return NodeFacts(); },
-                    .sendSettlingLine = [this] { session.outgoing.Send(""); }}),
+      spotParts(platform_, calendar, settings, errorLog, folder_, NeedsOfSpots()),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
-                    session.keepAlive, standIns, userSettings),
+                    session.keepAlive, ties_, userSettings),
       userInfo(settings, {.password = [this] { return session.outgoing.NodePassword; },
                           .save = [this](const std::string& password) { SaveUserInfo(password); }}),
       offsetForm([this](const std::string& gmtOffset) {
@@ -57,7 +61,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       }),
       views({.winCluster = [this] { return session.state.Kind == session::NodeKind::WinCluster; },
              .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
-      dxTab(views, spotPipeline.table, session.state),
+      dxTab(views, spotParts.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
       startOptions(settings, NeedsOfStartOptions()),
@@ -71,6 +75,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       debuggingTicked_(DebuggingOn.Click.Add([this] { WriteDebugCfg(DebuggingOn.Value.Get()); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
+  session.timers.SetDuty(TimerId::DxQue, [this] { spotParts.Tick(); });
 }
 
 // A link that is up has been through its login: what is ticked now is for the next one.
@@ -87,6 +92,39 @@ StartOptions::Needs Program::NeedsOfStartOptions() {
               }};
 }
 
+spots::SpotParts::Needs Program::NeedsOfSpots() {
+  session::SessionState& state = session.state;
+  return {.receivers = ties_,
+          .countryFilter = standIns,
+          .nodeFacts = [this] { return NodeFacts(); },
+          .slotSwitches = [this] { return SlotSwitches(); },
+          .ar17Probing = [&state] { return state.LoginFinished; },
+          .nodeCall = [&state] { return std::string_view(state.ConnectedNodeCall); },
+          .showDxCommand = [&state] { return std::string_view(state.ShowDxCommand); },
+          .tncMode = [&state] { return state.TncMode; },
+          .multiNode = [this] { return settings.Linking; },
+          .keepsBottomOfBand = [this] { return settings.BobDx; },
+          .RcvdPrompt = [&state](std::string_view line) { return state.RcvdPrompt(line); },
+          .latency = [this] { return session.latency.Last(); },
+          .send = [this](std::string_view text) { session.outgoing.Send(text); },
+          .sendAsIs = [this](std::string_view text) { return session.outgoing.SendAsIs(text); },
+          .holdIntake = [this] { return session.intake.Hold(); },
+          .showRaw = [this](std::string_view line) { session.outgoing.updateText2(line); },
+          .addToRawText = [this](std::string_view line) { session.outgoing.updateText2(line); },
+          .setAutoFetch =
+              [&state](bool wanted) { state.WantMissedSpots = state.FirstConnect = wanted; },
+          .logTrouble = [this](platform::Files::Fault fault) { ShowLogged(conditions, fault); },
+          .tell =
+              [this](std::string_view text) {
+                platform_.dialogs.Tell({.title = "Molva Desk", .text = std::string(text)});
+              },
+          .updateMembers = [this](spots::Membership::List) { standIns.GetLatestVersion(); },
+          .fetchFixes = [this](std::string_view) { spotParts.fixForm.FetchFailed(); },
+          .openFixPage = [](std::string_view) {},
+          .delayedWriteCfg = [this] { DelayedWriteCfg(); },
+          .onFault = errorLog.FaultHandler()};
+}
+
 void Program::ChooseLinking() {
   settings.Linking = MultiNode.Value.Get();
   CaptionSetup();
@@ -99,6 +137,18 @@ spots::NodeFacts Program::NodeFacts() const {
           .Ar17Active = state.ArpcAsked,
           .Ar17Refused = state.Ar17Refused(),
           .SessionUp = state.LoggedIn};
+}
+
+spots::SlotSwitches Program::SlotSwitches() const {
+  const auto state = [this](filters::Switch which) {
+    if (!userSettings.Told[which]) return spots::NodeSwitch::Unknown;
+    return userSettings.chkSettings[which].Value.Get() ? spots::NodeSwitch::On
+                                                       : spots::NodeSwitch::Off;
+  };
+  return {.State = state(filters::kUsState),
+          .Grid = state(filters::kDxGrid),
+          .Cq = state(filters::kCqZone),
+          .Itu = state(filters::kItuZone)};
 }
 
 session::DefaultNode Program::DefaultNode() const {
@@ -128,6 +178,7 @@ void Program::ApplySettings() {
   session.linkText.Tick();
   userInfo.Refresh();
   userSettings.Take(settings);
+  spotParts.TakeSettings();
   appearance.Load();
   textSizes.Load();
   startOptions.Load();

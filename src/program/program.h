@@ -24,10 +24,11 @@
 #include "program/stand_ins.h"
 #include "program/start_options.h"
 #include "program/text_sizes.h"
+#include "program/ties.h"
 #include "program/user_info.h"
 #include "program/views.h"
 #include "session/session.h"
-#include "spots/spot_pipeline.h"
+#include "spots/spot_parts.h"
 
 namespace program {
 
@@ -66,6 +67,8 @@ class Program {
   // Writes the configuration 2 seconds after the last call.
   void DelayedWriteCfg();
 
+  platform::Files& files() const { return platform_.files; }
+
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;
@@ -84,20 +87,21 @@ class Program {
   core::Settings settings;
   core::Endpoints endpoints;
   StandIns standIns;
+  Conditions conditions;
 
  private:
   LineChain chain_;
+  Ties ties_;
   std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
 
  public:
   session::Session session;
-  spots::SpotPipeline spotPipeline;
+  spots::SpotParts spotParts;
   filters::UserSettings userSettings;
   filters::ProfileReader profileReader;
   UserInfo userInfo;
   OffsetForm offsetForm;
   MessageForm messageForm;  // frmMsg
-  Conditions conditions;
   Views views;
   DxTab dxTab;
   Appearance appearance;
@@ -115,7 +119,9 @@ class Program {
   platform::Task<> StartLogger();
   platform::Task<> ReadPassword();
   platform::Task<> PrepareSession();
+  platform::Task<> ReadSpotFiles();
   platform::Task<> EndLoading();
+  platform::Task<> BeginSpotLog();
   platform::Task<> AskWhatIsMissing();
   platform::Task<> AutoStart();
 
@@ -127,9 +133,11 @@ class Program {
   void Quit();
 
   StartOptions::Needs NeedsOfStartOptions();
+  spots::SpotParts::Needs NeedsOfSpots();
   void ChooseLinking();
   void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;
+  spots::SlotSwitches SlotSwitches() const;
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
   void ShowTncCluster();

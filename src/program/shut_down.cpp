@@ -51,6 +51,7 @@ platform::Task<> Program::ShutDown(Close how) {
   session.WinsockOut->Close();
   session.tncLink.MSComm1->Close();
   session.localNetwork.MSComm2->Close();
+  spotParts.Close();
   Quit();
 }
 

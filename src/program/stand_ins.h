@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <set>
 #include <string>
 
 #include "session/local_feed.h"
-#include "session/requests.h"
 #include "session/tnc_retry.h"
+#include "spots/local_reject.h"
 
 namespace program {
 
@@ -19,15 +20,16 @@ class MailSender {
 
 // Takes the place of what this version doesn't have yet, and counts what it was asked for.
 class StandIns : public session::LoggerServer,
-                 public session::LoginRequests,
-                 public session::ClockWork,
                  public session::TncScript,
+                 public spots::CountryFilter,
                  public MailSender {
  public:
   std::map<std::string, int> calls;
   std::set<int> takenPorts;  // on which nothing can listen
   int loggers = 0;           // logging programs that count as connected
   bool mailBusy = false;
+  std::uint64_t announced = 0;  // spots that became announcements
+  std::uint64_t sounds = 0;     // that were put into the queue
 
   bool EnableLogger(int port) override {
     ++calls["EnableLogger"];
@@ -37,13 +39,13 @@ class StandIns : public session::LoggerServer,
   bool MailBusy() const override { return mailBusy; }
   void SendLogger(std::string_view) override {}
   void LoggerRaw(std::string_view) override {}
-  void GetEm() override { ++calls["GetEm"]; }
-  void GetLatestVersion() override { ++calls["GetLatestVersion"]; }
-  void AskSunTimes() override { ++calls["AskSunTimes"]; }
-  void HourlyWork() override { ++calls["HourlyWork"]; }
-  void Sun() override { ++calls["Sun"]; }
-  void DayChange() override { ++calls["DayChange"]; }
-  void EnableLoggingSpots() override { ++calls["EnableLoggingSpots"]; }
+  bool LimitsDxCountries() const override { return false; }
+  bool DxCountryTicked(std::string_view) const override { return true; }
+  void GetLatestVersion() { ++calls["GetLatestVersion"]; }
+  void AskSunTimes() { ++calls["AskSunTimes"]; }
+  void HourlyWork() { ++calls["HourlyWork"]; }
+  void Sun() { ++calls["Sun"]; }
+  void DayChange() { ++calls["DayChange"]; }
   void Connect() override { ++calls["Connect"]; }
   void DisconnectTNC() override { ++calls["DisconnectTNC"]; }
 };

@@ -49,7 +49,9 @@ platform::Task<> Program::StartUp() {
       Step{"StartLogger", &Program::StartLogger},
       Step{"ReadPassword", &Program::ReadPassword},
       Step{"PrepareSession", &Program::PrepareSession},
+      Step{"ReadSpotFiles", &Program::ReadSpotFiles},
       Step{"EndLoading", &Program::EndLoading},
+      Step{"BeginSpotLog", &Program::BeginSpotLog},
       Step{"AskWhatIsMissing", &Program::AskWhatIsMissing},
       Step{"AutoStart", &Program::AutoStart},
   };
@@ -150,9 +152,20 @@ platform::Task<> Program::PrepareSession() {
   co_return;
 }
 
+platform::Task<> Program::ReadSpotFiles() {
+  spotParts.ReadReference();
+  spotParts.ReadLists();
+  co_return;
+}
+
 platform::Task<> Program::EndLoading() {
   Loading = false;
   session.timers.Begin();
+  co_return;
+}
+
+platform::Task<> Program::BeginSpotLog() {
+  spotParts.BeginLog();
   co_return;
 }
 

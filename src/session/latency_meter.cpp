@@ -26,7 +26,8 @@ void LatencyMeter::Latency(std::string_view line) {
   if (!sentAt_ || !state_.RcvdPrompt(line)) return;
   const platform::Milliseconds now = scheduler_.Now();
   const bool soon = now - readAt_.value_or(*sentAt_) < kUsualInterval;
-  Text3.Caption.Set(Seconds(now - *sentAt_, soon ? 2 : 1));
+  last_ = now - *sentAt_;
+  Text3.Caption.Set(Seconds(last_, soon ? 2 : 1));
   readAt_ = now;
   sentAt_.reset();
 }

@@ -18,6 +18,9 @@ class LatencyMeter {
   // The seconds of the last reading: "001.25", or "001.3" if there was no other within 10 seconds.
   core::Label Text3;
 
+  // The last reading; 0 before the first.
+  platform::Milliseconds Last() const { return last_; }
+
   // A timed command has been sent.
   void Begin();
   // A line handler that claims nothing: the next prompt ends the time of the command.
@@ -30,6 +33,7 @@ class LatencyMeter {
   const SessionState& state_;
   std::optional<platform::Milliseconds> sentAt_;
   std::optional<platform::Milliseconds> readAt_;
+  platform::Milliseconds last_{0};
 };
 
 }  // namespace session

@@ -26,6 +26,7 @@ enum class TimerId : std::size_t {
   Minute = 15,
   BareLineEnd = 16,
   AskWho = 21,
+  DxQue = 30,
   AskConfig = 31,
   Updater = 32,
 };

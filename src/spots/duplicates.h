@@ -49,6 +49,8 @@ class Duplicates {
 
   // Sets SpotMinute of the spot, which has its date and time.
   bool IsDupe(Spot& spot);
+  // The normal test alone, for spots that come from the log. They have their SpotMinute.
+  bool IsRepeated(const Spot& spot) const { return recent_.Hold(spot); }
   // Records the spot that was just asked about, or not. False if it is dropped.
   bool Admit(const Spot& spot);
   void RecordDxSpot(const Spot& spot);

@@ -41,6 +41,7 @@ class Writer {
   void Right(Column column, std::string_view text) {
     if (!layout_.Shows(column)) return;
     const std::string_view fitting = text.substr(0, Width(column));
+    row_.replace(Begin(column), Width(column), Width(column), ' ');
     Put(fitting, End(column) - fitting.size());
   }
 

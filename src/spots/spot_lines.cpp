@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "spots/dx_line.h"
 #include "spots/extended_line.h"
 #include "spots/grid_square.h"
 #include "spots/show_dx_line.h"
+#include "spots/spot_date.h"
 #include "spots/spot_line.h"
 
 namespace spots {
@@ -16,10 +18,10 @@ constexpr std::size_t kShortRow = 74;
 }  // namespace
 
 SpotLines::SpotLines(platform::Scheduler& scheduler, core::Calendar& calendar, Spot& spot,
-                     bool& Zv11Seen, Needs needs)
+                     Needs needs)
     : list(scheduler, ListNeeds()),
+      calendar_(calendar),
       spot_(spot),
-      zv11Seen_(Zv11Seen),
       needs_(std::move(needs)),
       settling_(scheduler, needs_.sendEmptyLine),
       clockCheck_(calendar, needs_.readUtcOffset) {}
@@ -33,11 +35,19 @@ SpotList::Needs SpotLines::ListNeeds() {
       .newestFirst = [this] { return !needs_.nodeFacts().IsZelva(); },
       .replayBegins =
           [this] {
-            if (!zv11Seen_) EmptyPlainFields(spot_);
+            if (!Zv11Seen) EmptyPlainFields(spot_);
           },
       .replay = [this](std::string_view row) { Replay(row); },
       .sort = [this] { needs_.sort(); },
   };
+}
+
+bool SpotLines::dx(std::string_view line) {
+  if (Zv11Seen || !line.starts_with(kDxLineStart)) return false;
+  const NodeFacts node = needs_.nodeFacts();
+  if (settling_.Drops(node)) return true;
+  if (ParseDxLine(line, node, needs_.wordFacts(), MomentNow(calendar_), spot_)) Display();
+  return true;
 }
 
 bool SpotLines::ar17(std::string_view line) {
@@ -65,7 +75,7 @@ bool SpotLines::ZV11CarrotCounter(std::string_view line) {
     ReadZV11(line);
   else
     list.ZV11_SpotsOthers(line);
-  zv11Seen_ = true;
+  Zv11Seen = true;
   return true;
 }
 
@@ -94,7 +104,7 @@ void SpotLines::ReadShDx(std::string_view row) {
 }
 
 void SpotLines::Replay(std::string_view row) {
-  if (zv11Seen_ || needs_.nodeFacts().IsZelva())
+  if (Zv11Seen || needs_.nodeFacts().IsZelva())
     ReadZV11(row);
   else if (row.size() > kShortRow)
     ReadShDx(row);
@@ -113,7 +123,7 @@ void SpotLines::Display() {
 }
 
 void SpotLines::Disconnected() {
-  zv11Seen_ = false;
+  Zv11Seen = false;
   list.Disconnected();
   errors.Forget();
 }

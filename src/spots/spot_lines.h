@@ -16,7 +16,7 @@
 
 namespace spots {
 
-// The rows of the chain for extended lines and for lists of spots. What they read goes the way of
+// The rows of the chain for lines of spots and for lists of them. What they read goes the way of
 // every spot.
 class SpotLines {
  public:
@@ -39,15 +39,16 @@ class SpotLines {
     std::function<void()> sort;                       // a list has ended
   };
 
-  // `spot` is the record at work, `Zv11Seen` the mark of a session with extended lines; both
-  // outlive this.
-  SpotLines(platform::Scheduler& scheduler, core::Calendar& calendar, Spot& spot, bool& Zv11Seen,
-            Needs needs);
+  // `spot` is the record at work, which outlives this.
+  SpotLines(platform::Scheduler& scheduler, core::Calendar& calendar, Spot& spot, Needs needs);
 
   SpotErrors errors;
   SpotList list;
 
+  bool Zv11Seen = false;  // the session sends its spots in extended lines: plain ones say no more
+
   // Line handlers; true claims the line.
+  bool dx(std::string_view line);
   bool ar17(std::string_view line);
   bool ZV11CarrotCounter(std::string_view line);
   bool CollectShDxLine(std::string_view line) { return list.CollectShDxLine(line); }
@@ -64,8 +65,8 @@ class SpotLines {
   void Display();
   SpotList::Needs ListNeeds();
 
+  core::Calendar& calendar_;
   Spot& spot_;
-  bool& zv11Seen_;
   Needs needs_;
   Settling settling_;
   ClockCheck clockCheck_;

@@ -3,13 +3,19 @@
 #include <utility>
 
 #include "core/escapes.h"
+#include "session/feed_options.h"
 #include "spots/bands.h"
+#include "spots/bottom_of_band.h"
 #include "spots/classic_row.h"
-#include "spots/dx_line.h"
+#include "spots/county.h"
+#include "spots/expanded_row.h"
 #include "spots/spot_date.h"
 
 namespace spots {
 namespace {
+
+using session::FeedOption;
+using session::Feeds;
 
 constexpr MidnightLimits kMidnight = {.late = 2340, .early = 20};
 
@@ -17,53 +23,124 @@ bool HasCalls(const Spot& spot) { return spot.DxCall.size() >= 2 && spot.Spotter
 
 }  // namespace
 
-SpotPipeline::SpotPipeline(const platform::Scheduler& scheduler, core::Calendar& calendar,
-                           const core::Settings& settings, Needs needs)
-    : table(calendar, settings),
-      calendar_(calendar),
-      needs_(std::move(needs)),
-      settling_(scheduler, needs_.sendSettlingLine) {}
+SpotPipeline::SpotPipeline(Steps steps, Needs needs)
+    : steps_(steps), spot_(steps.spot), needs_(std::move(needs)) {}
 
-bool SpotPipeline::dx(std::string_view line) {
-  if (Zv11Seen || !line.starts_with(kDxLineStart)) return false;
-  const NodeFacts node = needs_.nodeFacts();
-  if (settling_.Drops(node)) return true;
-  if (ParseDxLine(line, node, WordFacts{}, MomentNow(calendar_), spot)) DisplayDx();
-  ClearSpotExtras(spot);
-  return true;
+// A duplicate goes on only while a list runs that was asked for: to those who asked.
+void SpotPipeline::DisplayDx() {
+  if (!IsAccepted()) return;
+  InferMissingDate();
+  if (steps_.duplicates.IsDupe(spot_)) {
+    if (steps_.list.SpotListBusy()) DisplayDxPart2(Mark::Duplicate);
+    return;
+  }
+  if (!steps_.duplicates.Admit(spot_)) return;
+  steps_.log.Write(spot_);
+  if (!spot_.RawLine.empty()) steps_.receivers.ForwardRawToLoggers(spot_.RawLine);
+  DisplayDxPart2(Mark::None);
 }
 
-void SpotPipeline::DisplayDx() {
-  if (spot.Freq == 0) return;
-  if (!HasCalls(spot)) return;
-  spot.LotwMark = " ";
-  InferMissingDate();
-  DisplayDxPart2();
+// Corrects the spot_ between the tests that go by what the node said and those that don't.
+bool SpotPipeline::IsAccepted() {
+  const NodeFacts node = needs_.nodeFacts();
+  const ShownColumns& shown = steps_.display.Shown();
+  if (spot_.Freq == 0) return false;
+  if (!spot_.DxCty.empty()) steps_.rejects.NoteCountryWord();
+  steps_.corrections.FixDxSpot(spot_, node, shown);
+  if (RejectCounty(spot_, steps_.settings)) return false;
+  if (steps_.localReject.LocalRejectSpot(spot_, node, needs_.zv11Seen())) return false;
+  steps_.corrections.FixSpotterFields(spot_, node, shown);
+  if (!HasCalls(spot_)) return false;
+  if (steps_.rejects.RejectDX(spot_)) return false;
+  return steps_.members.MarkSpot(spot_);
 }
 
 void SpotPipeline::InferMissingDate() {
-  if (spot.SpotDate.empty())
-    InferDate(spot.SpotHHMM, MomentNow(calendar_), kMidnight, spot.SpotDate);
+  if (spot_.SpotDate.empty())
+    InferDate(spot_.SpotHHMM, MomentNow(steps_.calendar), kMidnight, spot_.SpotDate);
 }
 
-void SpotPipeline::DisplayDxPart2() {
-  core::RepairEscapes(spot.Comment, ' ' + 1);
-  const RowLayout layout = ArPcScreenSetup({});
-  const std::size_t commentField = ClassicRow(spot, layout, {}, row_);
-  UpdateText5(row_, Packed(layout.shape), commentField);
+void SpotPipeline::DisplayDxPart2(Mark mark) {
+  core::RepairEscapes(spot_.Comment, ' ' + 1);
+  if (spot_.LotwMark.empty()) spot_.LotwMark = " ";
+  MakeLoggerLine();
+  if (steps_.list.SpotListBusy()) FeedListToLoggers();
+  if (mark == Mark::Duplicate) return;
+  MakeRow();
 }
 
-void SpotPipeline::UpdateText5(std::string_view row, std::uint32_t shape,
-                               std::size_t commentField) {
-  const bool skimmer = IsSkimmer(spot);
+LoggerLineOptions SpotPipeline::LineOptions() const {
+  return {.spotterQth = Feeds(steps_.settings, FeedOption::SpotterQth),
+          .dxState = Feeds(steps_.settings, FeedOption::DxState),
+          .membership = steps_.settings.ShLoTW || steps_.settings.SheQSL};
+}
+
+void SpotPipeline::MakeLoggerLine() {
+  longLine_.clear();
+  if (!Reloading && steps_.receivers.TakesLines()) LoggerLongLine(spot_, LineOptions(), longLine_);
+}
+
+void SpotPipeline::FeedListToLoggers() {
+  if (longLine_.empty() || !Feeds(steps_.settings, FeedOption::Spots)) return;
+  if (Feeds(steps_.settings, FeedOption::LiveSpotFormat))
+    return steps_.receivers.FeedLoggers(longLine_, longLine_);
+  LoggerShortLine(spot_, LineOptions(), shortLine_);
+  steps_.receivers.FeedLoggers(shortLine_, longLine_);
+}
+
+void SpotPipeline::MakeRow() {
+  const RowLayout& layout = steps_.display.Layout();
+  if (layout.IsExpanded()) {
+    MakeExpandedRow(layout);
+    return UpdateText5(0);
+  }
+  const ClassicOptions options = {.withoutMark = Feeds(steps_.settings, FeedOption::TabFormat)};
+  UpdateText5(ClassicRow(spot_, layout, options, row_));
+}
+
+void SpotPipeline::MakeExpandedRow(const RowLayout& layout) {
+  const ShownColumns& shown = layout.shape.shown;
+  Heading heading;
+  if (shown.Bearing || shown.Distance) heading = steps_.reference.HeadingOf(spot_);
+  ExpandedRow(
+      spot_, layout,
+      {.bearing = heading.CurBearing,
+       .distance = heading.CurDistance,
+       .countryName = shown.CountryName ? steps_.reference.countries.CountryName(spot_.DxCty)
+                                        : std::string_view()},
+      row_);
+}
+
+void SpotPipeline::UpdateText5(std::size_t commentField) {
+  SpotReceivers& receivers = steps_.receivers;
+  SpotTable& table = steps_.table;
+  const bool skimmer = IsSkimmer(spot_);
   if (skimmer) table.NoteSkimmer();
-  const int band = BandOf(spot.Freq);
+  if (!Reloading) receivers.TellBuddies(spot_, longLine_);
+  if (!skimmer && !needs_.keepsBottomOfBand() && BoBtoAnn(spot_, row_, announcement_)) {
+    if (!steps_.list.ShDxCollecting() && !Reloading)
+      receivers.Announce(announcement_, spot_.Spotter);
+    return;
+  }
+  const int band = BandOf(spot_.Freq);
   if (band == kAllBands) return;
+  const TableRow row(row_, skimmer ? TableRow::Kind::Skimmer : TableRow::Kind::Other, band,
+                     RowSpotOf(spot_, Packed(steps_.display.Layout().shape), commentField));
+  if (receivers.CheckAlarm(spot_, row_)) table.AddAlarm(row);
   table.rail.Increment(BandAt(band).label);
+  if (!Reloading) FeedLoggers();
   table.CountUnseen(band);
-  table.Add({row, skimmer ? TableRow::Kind::Skimmer : TableRow::Kind::Other, band,
-             RowSpotOf(spot, shape, commentField)});
+  table.Add(row);
   ++SpotsShown;
+  if (band == table.rail.SelectedBand() && steps_.list.ShDxDone && !Reloading)
+    receivers.WaveQue("DxAlert");
+}
+
+void SpotPipeline::FeedLoggers() {
+  if (longLine_.empty() || steps_.list.SpotListBusy()) return;
+  if (!Feeds(steps_.settings, FeedOption::Spots)) return;
+  const bool asRow = Feeds(steps_.settings, FeedOption::TabFormat);
+  steps_.receivers.FeedLoggers(asRow ? row_ : longLine_, longLine_);
 }
 
 }  // namespace spots

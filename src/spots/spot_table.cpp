@@ -60,12 +60,22 @@ void SpotTable::CountUnseen(int band) {
 void SpotTable::Add(const TableRow& row) {
   KeepLimits(kAllBands, settings_.SpotMemoryAll);
   KeepLimits(row.Band(), settings_.SpotMemorySingle);
+  Store(row, kAllBands);
+  Store(row, row.Band());
+}
+
+void SpotTable::AddAlarm(const TableRow& row) {
+  rail.Increment(BandAt(kAlarmBand).label);
+  KeepLimits(kAlarmBand, settings_.SpotMemorySingle);
+  Store(row, kAlarmBand);
+}
+
+void SpotTable::Store(const TableRow& row, int band) {
   const bool skimmer = row.RowKind() == TableRow::Kind::Skimmer;
-  for (const int where : {kAllBands, row.Band()})
-    for (const int view : {kAllSpots, skimmer ? kSkimmerSpots : kOtherSpots}) {
-      At(where, view).Append(row);
-      if (Selected(where, view)) Show(row);
-    }
+  for (const int view : {kAllSpots, skimmer ? kSkimmerSpots : kOtherSpots}) {
+    At(band, view).Append(row);
+    if (Selected(band, view)) Show(row);
+  }
 }
 
 void SpotTable::Show(const TableRow& row) {

@@ -50,6 +50,9 @@ class SpotTable {
   // for RunDxQue.
   void Add(const TableRow& row);
 
+  // Stores a row among the alarms, and shows it if these are.
+  void AddAlarm(const TableRow& row);
+
   // The order of the rows, by the number of a sort button. Pressed with the middle button of the
   // mouse it shows them from their end; with the right one no spotter is left out of the order by
   // addresses.
@@ -85,6 +88,7 @@ class SpotTable {
   const RowStore& SelectedStore() const { return SpotStore(rail.SelectedBand(), selectedView_); }
   SortMoment Now();
   void Show(const TableRow& row);
+  void Store(const TableRow& row, int band);
   void KeepLimits(int band, int memory);
   void Forget(int band, int view, std::size_t spots);
   bool Selected(int band, int view) const;

@@ -55,7 +55,7 @@ QLabel* MakeNotice(core::Label& model, Frames& frames, QWidget* parent) {
 
 RejectDialog::RejectDialog(spots::RejectForm& form, spots::RejectLists& lists, Frames& frames,
                            QWidget* parent)
-    : QDialog(parent) {
+    : QDialog(parent), form_(form) {
   setWindowTitle(tr("Reject spots"));
   resize(kUsualSize);
   auto* column = new QVBoxLayout(this);
@@ -76,6 +76,13 @@ RejectDialog::RejectDialog(spots::RejectForm& form, spots::RejectLists& lists, F
   BindLabel(rejected, lists.lblRejected, frames);
   auto* foot = AddCloseButton(column, this);
   foot->insertWidget(0, rejected);
+}
+
+void RejectDialog::Show() {
+  form_.Load();
+  show();
+  raise();
+  activateWindow();
 }
 
 QWidget* RejectDialog::MakeSwitches(spots::RejectForm& form, Frames& frames) {

@@ -49,15 +49,8 @@ QColor Readable(QColor colour, const QColor& ground, Theme::Kind kind) {
 }  // namespace
 
 const QColor& SpotColours::OfInk(spots::Ink ink, int band) const {
-  switch (ink) {
-    case spots::Ink::Band:
-    case spots::Ink::Call:
-      return OfBand(band);
-    case spots::Ink::Text:
-      return text;
-    default:
-      return dim;
-  }
+  if (ink == spots::Ink::Dim) return dim;
+  return ink == spots::Ink::Text ? text : OfBand(band);
 }
 
 SpotColours ColoursOf(const core::Settings& settings, const Theme& theme) {

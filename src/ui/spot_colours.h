@@ -22,7 +22,7 @@ struct SpotColours {
   std::array<QColor, spots::kBands.size()> bands;  // by their index
 
   const QColor& OfBand(int band) const { return bands[static_cast<std::size_t>(band)]; }
-  // Of a field in a row of that band.
+  // That of a field in a row of that band.
   const QColor& OfInk(spots::Ink ink, int band) const;
 };
 

@@ -127,13 +127,13 @@ void SpotView::GoToNewest() {
 std::size_t SpotView::SpotsFrom(Number first) const {
   std::size_t spots = 0;
   for (Number row = first; row < rows_.End(); ++row)
-    if (!rows_.Row(row).IsStars()) ++spots;
+    if (rows_.Row(row).IsSpot()) ++spots;
   return spots;
 }
 
 void SpotView::Measure(Number first) {
   for (Number row = first; row < rows_.End(); ++row)
-    if (!rows_.Row(row).IsStars()) widest_ = std::max(widest_, rows_.Row(row).Text().size());
+    if (rows_.Row(row).IsSpot()) widest_ = std::max(widest_, rows_.Row(row).Text().size());
 }
 
 void SpotView::ChangeSize(int pixels) {

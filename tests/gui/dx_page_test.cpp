@@ -72,7 +72,7 @@ TEST_F(DxPageTest, UpAndDownInTheRailChooseTheBand) {
   Rail().setFocus();
   Press(Qt::Key_Down);
   Run(200ms);
-  EXPECT_EQ(program->spotPipeline.table.rail.SelectedBand(), 1);
+  EXPECT_EQ(program->spotParts.table.rail.SelectedBand(), 1);
   ASSERT_EQ(RowsOnShow(), 2U);
   EXPECT_EQ(Spoken(0), "1 new since 21:00");
   EXPECT_THAT(Spoken(1), testing::HasSubstr("3 B 8 F A"));
@@ -85,7 +85,7 @@ TEST_F(DxPageTest, UpAndDownInTheRailChooseTheBand) {
 TEST_F(DxPageTest, AClickInTheRailChoosesTheBand) {
   QTest::mouseClick(Rail().viewport(), Qt::LeftButton, {},
                     Rail().visualItemRect(Rail().item(k15m)).center());
-  EXPECT_EQ(program->spotPipeline.table.rail.SelectedBand(), k15m);
+  EXPECT_EQ(program->spotParts.table.rail.SelectedBand(), k15m);
 }
 
 TEST_F(DxPageTest, CtrlAndANumberChooseABandInTheOrderOfTheRail) {

@@ -66,11 +66,15 @@ class SpotViewTest : public testing::Test {
     spot.LotwMark = " ";
     spot.Comment = "CW up 2";
     spot.SpotTime = "2116";
+    const spots::RowLayout layout = spots::ArPcScreenSetup({});
     std::string text;
-    spots::ClassicRow(spot, text);
-    return {text, TableRow::Kind::Other, band};
+    const std::size_t commentField = spots::ClassicRow(spot, layout, {}, text);
+    return {text, TableRow::Kind::Other, band,
+            spots::RowSpotOf(spot, spots::Packed(layout.shape), commentField)};
   }
-  static TableRow Stars() { return {spots::Stars(79), TableRow::Kind::Stars, 0, 21 * 60 + 46}; }
+  static TableRow Stars() {
+    return {spots::Stars(79), TableRow::Kind::Stars, 0, {.minute = 21 * 60 + 46}};
+  }
   void Add(int count) {
     for (; count > 0; --count) pane.Append(Row(Call(++last)));
   }
@@ -87,8 +91,7 @@ class SpotViewTest : public testing::Test {
   }
   int RowHeight() { return view.PlaceOf(1).top() - view.PlaceOf(0).top(); }
   std::string CallAt(ui::SpotView::Number row) {
-    const auto call = spots::LookUpCalls(view.Rows().Row(row).Text()).call;
-    return std::string(call.substr(0, call.find(' ')));
+    return std::string(view.Rows().Row(row).DxCall());
   }
   std::string CallUnder(QPoint place) {
     const auto row = view.RowAt(place);

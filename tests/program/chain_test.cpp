@@ -122,7 +122,7 @@ TEST_F(LoginByRowsTest, PasswordIsGivenUntilTheFirstPromptAndNeverBehindIt) {
 TEST_F(LoginByRowsTest, BellsBehindASpotAreNoPartOfIt) {
   Feed("running DXSpider V1.57 build 441\r\n");
   Feed("DX de DL1ABC:    14025.0  3Y0J         CW up 2                        2210Z JN58\a\a\r\n");
-  const auto& rows = program.spotPipeline.table.RtbDx.Rows();
+  const auto& rows = program.spotParts.table.RtbDx.Rows();
   ASSERT_EQ(rows.size(), 1u);
   EXPECT_EQ(rows.front().Text(),
             "DX de DL1ABC:    14025.0  3Y0J         CW up 2                        2210Z");

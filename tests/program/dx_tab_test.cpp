@@ -15,14 +15,14 @@ class DxTabTest : public testing::Test {
  protected:
   DxTabTest() { desk.HasUsualConfiguration(); }
 
-  SpotTable& Table() { return desk.program->spotPipeline.table; }
+  SpotTable& Table() { return desk.program->spotParts.table; }
   std::string Caption() { return desk.program->views.tab[Views::Dx].Caption.Get(); }
   std::string Empty() { return desk.program->dxTab.lblEmpty.Caption.Get(); }
   void ChooseBand(int band) { Table().rail.optBand.UserSelects(band); }
   void ConnectTo(LinkPhase phase) { desk.program->session.state.Phase.Set(phase); }
   void Spot(const char* row = "DX de W1TST:      14025.0  3Y0J         CW             2100Z") {
     Table().CountUnseen(6);
-    Table().Add(row, 6);
+    Table().Add({row, spots::TableRow::Kind::Other, 6});
   }
 
   Desk desk;

@@ -113,7 +113,7 @@ TEST(LoginToARelay, SpotsAreTakenFromFiveSecondsBehindTheLogin) {
   const Script& script = LoginScript("RelayWithoutAName");
   Stage stage(script);
   stage.Play(script.turns);
-  const auto& shown = stage.program->spotPipeline.SpotsShown;
+  const auto& shown = stage.program->spotParts.pipeline.SpotsShown;
   EXPECT_EQ(shown, 0u);
   const std::string spot =
       "DX de K1ABC-#:   14025.0  K2DEF          CW 12 dB  CQ           2101Z\r\n";

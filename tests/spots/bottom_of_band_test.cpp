@@ -23,7 +23,7 @@ Spot SpotOn(double kHz) {
 // What is announced; empty if nothing is.
 std::string Announced(const Spot& spot) {
   std::string row;
-  ClassicRow(spot, row);
+  ClassicRow(spot, spots::ArPcScreenSetup({}), {}, row);
   std::string announcement;
   const bool applies = BoBtoAnn(spot, row, announcement);
   EXPECT_EQ(applies, !announcement.empty());

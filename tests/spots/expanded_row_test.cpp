@@ -42,7 +42,7 @@ TEST(ExpandedRow, FieldsAreCutToTheirColumnsAndShiftNothing) {
 TEST(ExpandedRow, LongCountryReachesToTheLeft) {
   Spot spot = UsualSpot();
   spot.DxCty = "VP8/G-XYZ";
-  EXPECT_EQ(Text(spot, {.DxCty = true}), "DL1ABC          14025.0 2116Z 3Y0J     VP8/G-XYZ");
+  EXPECT_EQ(Text(spot, {.DxCty = true}), "DL1ABC          14025.0 2116Z 3Y0J    VP8/G-XYZ");
 }
 
 TEST(ExpandedRow, CheckedFieldsAreAlignedAsTheirColumnsAre) {

@@ -36,9 +36,9 @@ class HostileLine : public SpotDesk {
     const auto before = pipeline.SpotsShown;
     EXPECT_EQ(Receive(line), line.starts_with("DX de ")) << testing::PrintToString(line);
     if (pipeline.SpotsShown == before) return;
-    EXPECT_NE(spots::BandOf(pipeline.spot.Freq), 0) << testing::PrintToString(line);
-    EXPECT_GE(pipeline.spot.DxCall.size(), 2u) << testing::PrintToString(line);
-    EXPECT_GE(pipeline.spot.Spotter.size(), 3u) << testing::PrintToString(line);
+    EXPECT_NE(spots::BandOf(parts.spot.Freq), 0) << testing::PrintToString(line);
+    EXPECT_GE(parts.spot.DxCall.size(), 2u) << testing::PrintToString(line);
+    EXPECT_GE(parts.spot.Spotter.size(), 3u) << testing::PrintToString(line);
     spots::LookUpCalls(LastRow());
   }
 };
@@ -58,7 +58,7 @@ TEST_F(HostileLine, HugeOneShowsNothingAndLeavesNoTrace) {
   EXPECT_TRUE(Receive(Line{.call = std::string(5'000'000, 'A')}));
   EXPECT_TRUE(Receive("DX de " + std::string(5'000'000, ' ')));
   EXPECT_THAT(CallsInTable(), IsEmpty());
-  EXPECT_LT(pipeline.spot.DxCall.capacity() + pipeline.spot.Spotter.capacity(), 10'000u);
+  EXPECT_LT(parts.spot.DxCall.capacity() + parts.spot.Spotter.capacity(), 10'000u);
 }
 
 TEST_F(HostileLine, CutAtAnyByteIsHarmless) {

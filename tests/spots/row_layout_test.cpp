@@ -68,7 +68,7 @@ TEST(ClassicLayout, HeadStandsInItsColumns) {
 
 TEST(ExpandedLayout, BareOneHasFourFields) {
   const RowLayout layout = ArPcScreenSetup(Expanded({}));
-  EXPECT_EQ(HeaderRow(layout), "Spotter            Freq Time   DX        ");
+  EXPECT_EQ(HeaderRow(layout), "Spotter            Freq Time   DX         ");
   EXPECT_EQ(layout.Start(Column::Freq), 13);
   EXPECT_EQ(layout.Start(Column::Time), 25);
   EXPECT_EQ(layout.Start(Column::DxCall), 31);

@@ -28,16 +28,16 @@ TEST_F(SortBy, ButtonIsMarked) {
 }
 
 TEST_F(SortBy, RowsWaitForTheTimerInASortedView) {
-  ReceiveCalls({"B"});
+  ReceiveCalls({"BB"});
   table.SortBy(kByCall);
-  ReceiveCalls({"C", "A"});
-  EXPECT_THAT(CallsInTable(), ElementsAre("B"));
+  ReceiveCalls({"CC", "AA"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("BB"));
   Tick();
-  EXPECT_THAT(CallsInTable(), ElementsAre("A", "B", "C"));
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA", "BB", "CC"));
 }
 
 TEST_F(SortBy, TimerWithoutNewRowsTellsNobody) {
-  ReceiveCalls({"B"});
+  ReceiveCalls({"BB"});
   table.SortBy(kByCall);
   int told = -1;
   const auto watching = table.RtbDx.Observe([&](const auto&) { ++told; });
@@ -50,7 +50,7 @@ TEST_F(SortBy, NewRowsAreToldAsTheSameList) {
   std::vector<spots::DxPane::Change> told;
   const auto watching =
       table.RtbDx.Observe([&](const spots::DxPane::Change& change) { told.push_back(change); });
-  ReceiveCalls({"A"});
+  ReceiveCalls({"AA"});
   Tick();
   table.SortBy(kTimeOrder);
   ASSERT_EQ(told.size(), 3u);
@@ -59,29 +59,29 @@ TEST_F(SortBy, NewRowsAreToldAsTheSameList) {
 }
 
 TEST_F(SortBy, TimeOrderComesBackWithAllRows) {
-  ReceiveCalls({"B"});
+  ReceiveCalls({"BB"});
   table.SortBy(kByCall);
-  ReceiveCalls({"A"});
+  ReceiveCalls({"AA"});
   table.SortBy(kTimeOrder);
-  EXPECT_THAT(CallsInTable(), ElementsAre("B", "A"));
-  ReceiveCalls({"C"});
-  EXPECT_THAT(CallsInTable(), ElementsAre("B", "A", "C"));
+  EXPECT_THAT(CallsInTable(), ElementsAre("BB", "AA"));
+  ReceiveCalls({"CC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("BB", "AA", "CC"));
 }
 
 TEST_F(SortBy, MiddleButtonReversesTheOrderOfTimes) {
-  ReceiveCalls({"A", "B"});
+  ReceiveCalls({"AA", "BB"});
   table.SortBy(kTimeOrder, Press::Middle);
-  EXPECT_THAT(CallsInTable(), ElementsAre("B", "A"));
-  ReceiveCalls({"C"});
-  EXPECT_THAT(CallsInTable(), ElementsAre("C", "B", "A"));
+  EXPECT_THAT(CallsInTable(), ElementsAre("BB", "AA"));
+  ReceiveCalls({"CC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("CC", "BB", "AA"));
   table.SortBy(kTimeOrder);
-  EXPECT_THAT(CallsInTable(), ElementsAre("A", "B", "C"));
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA", "BB", "CC"));
 }
 
 TEST_F(SortBy, MiddleButtonReversesASortedView) {
-  ReceiveCalls({"A", "C", "B"});
+  ReceiveCalls({"AA", "CC", "BB"});
   table.SortBy(kByCall, Press::Middle);
-  EXPECT_THAT(CallsInTable(), ElementsAre("C", "B", "A"));
+  EXPECT_THAT(CallsInTable(), ElementsAre("CC", "BB", "AA"));
 }
 
 TEST_F(SortBy, ReversedTableLosesItsOldestRowsToo) {
@@ -123,16 +123,16 @@ TEST_F(SortBy, SortedViewForgetsWithTheStore) {
 TEST_F(SortBy, NoSeparatorIsSetInASortedView) {
   table.SortBy(kByCall);
   table.LeaveTab();
-  ReceiveCalls({"A"}, "14025.0");
+  ReceiveCalls({"AA"}, "14025.0");
   EXPECT_THAT(CallsInTable(), IsEmpty());
   EXPECT_EQ(table.TabCaption.Get(), "DX = 1");
-  EXPECT_THAT(CallsInStore(k20, 0), ElementsAre("A"));
+  EXPECT_THAT(CallsInStore(k20, 0), ElementsAre("AA"));
 }
 
 TEST_F(SortBy, LastHourFollowsTheClock) {
-  ReceiveCalls({"A"});  // at 21:16
+  ReceiveCalls({"AA"});  // at 21:16
   table.SortBy(kLastHour);
-  EXPECT_THAT(CallsInTable(), ElementsAre("A", ""));
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA", ""));
   EXPECT_EQ(LastRow(), "Last Hour");
   world.Run(std::chrono::hours(2));
   table.RefreshLastHour();
@@ -152,7 +152,7 @@ TEST_F(SortBy, ReloadDrawsAtItsEndOnly) {
     table.SortBy(button);
     const auto before = CallsInTable();
     table.BeginReload();
-    ReceiveCalls({"A"});
+    ReceiveCalls({"AA"});
     Tick();
     EXPECT_EQ(CallsInTable(), before);
     table.EndReload();

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/sim/world.h"
-#include "spots/spot_pipeline.h"
+#include "spots/spot_parts.h"
 
 // A plain line, in the columns of a DXSpider node.
 struct Line {
@@ -28,7 +28,7 @@ class SpotDesk : public testing::Test {
   using Texts = std::vector<std::string>;
 
   // True if the line was claimed.
-  bool Receive(std::string_view line) { return pipeline.dx(line); }
+  bool Receive(std::string_view line) { return parts.lines.dx(line); }
   bool Receive(const Line& line) { return Receive(line.Text()); }
   // A spot of each call on that frequency.
   void ReceiveCalls(const Texts& calls, const std::string& kHz = "14025.0");
@@ -42,15 +42,37 @@ class SpotDesk : public testing::Test {
   // The last row of the table.
   std::string LastRow() const;
 
+  // What else hears of spots.
+  struct Receivers : spots::SpotReceivers, spots::CountryFilter {
+    bool takesLines = false;
+    bool alarms = false;  // of every spot
+    Texts raw, fed, announced, sounds;
+
+    bool TakesLines() override { return takesLines; }
+    void ForwardRawToLoggers(std::string_view line) override { raw.emplace_back(line); }
+    void FeedLoggers(std::string_view line, std::string_view) override { fed.emplace_back(line); }
+    void TellBuddies(const spots::Spot&, std::string_view) override {}
+    void Announce(std::string_view text, std::string_view) override {
+      announced.emplace_back(text);
+    }
+    bool CheckAlarm(const spots::Spot&, std::string_view) override { return alarms; }
+    void WaveQue(std::string_view name) override { sounds.emplace_back(name); }
+    bool LimitsDxCountries() const override { return false; }
+    bool DxCountryTicked(std::string_view) const override { return true; }
+  };
+
+  spots::SpotParts::Needs Needs();
+
   platform::sim::World world;
+  platform::Platform platform = world.platform();
   core::Calendar calendar{world.clock};
   core::Settings settings;
+  core::ErrorLog errorLog{world.files, world.dialogs, calendar, "/home"};
   spots::NodeFacts node{.Ar17Refused = true, .SessionUp = true};
+  Receivers receivers;
   int settlingLines = 0;
-  spots::SpotPipeline pipeline{
-      world.scheduler,
-      calendar,
-      settings,
-      {.nodeFacts = [this] { return node; }, .sendSettlingLine = [this] { ++settlingLines; }}};
-  spots::SpotTable& table = pipeline.table;
+  Texts sent, rawText, messages;
+  spots::SpotParts parts{platform, calendar, settings, errorLog, "/home", Needs()};
+  spots::SpotTable& table = parts.table;
+  spots::SpotPipeline& pipeline = parts.pipeline;
 };

@@ -45,12 +45,10 @@ class SpotLinesTest : public testing::Test {
   std::vector<Spot> shown;
   int displayed = 0;
   bool records = true;  // what was linked and shown is kept
-  bool zv11Seen = false;
   Spot spot;
   SpotLines lines{world.scheduler,
                   calendar,
                   spot,
-                  zv11Seen,
                   {
                       .nodeFacts = [this] { return node; },
                       .wordFacts = [this]() -> const WordFacts& { return words; },
@@ -82,7 +80,7 @@ TEST_F(SpotLinesTest, OtherLinesAreNotClaimed) {
   for (const std::string_view line :
        {"", "AR17", "ZV11", "ar17^", "zv11^", " AR17^", "AR18^", "DX de DL1ABC:"})
     EXPECT_FALSE(Receive(line)) << line;
-  EXPECT_FALSE(zv11Seen);
+  EXPECT_FALSE(lines.Zv11Seen);
 }
 
 TEST_F(SpotLinesTest, WrongFieldCountsAreClaimedCountedAndNotShown) {
@@ -164,9 +162,9 @@ TEST_F(SpotLinesTest, Zv11SpotIsShownOnceTheListIsDone) {
 
 TEST_F(SpotLinesTest, AnyZv11LineMarksTheSession) {
   EXPECT_TRUE(Receive("ZV11^"));
-  EXPECT_TRUE(zv11Seen);
+  EXPECT_TRUE(lines.Zv11Seen);
   lines.Disconnected();
-  EXPECT_FALSE(zv11Seen);
+  EXPECT_FALSE(lines.Zv11Seen);
 }
 
 TEST_F(SpotLinesTest, OnlyFreshZv11SpotsOfAnOwnNodeAreLinkedAndCheckTheClock) {

@@ -28,7 +28,7 @@ TEST_F(SpotPipeline, PlainLineIsClaimedAndShown) {
 }
 
 TEST_F(SpotPipeline, PlainLinesAreNotClaimedOnceExtendedOnesCome) {
-  pipeline.Zv11Seen = true;
+  parts.lines.Zv11Seen = true;
   EXPECT_FALSE(Receive(Line{}));
   EXPECT_THAT(CallsInTable(), IsEmpty());
 }
@@ -88,24 +88,24 @@ TEST_F(SpotPipeline, EscapeOfABlankOrAControlCharacterEndsTheDecoding) {
 TEST_F(SpotPipeline, MissingDateIsInferredFromTheTime) {
   world.clock.Set(std::chrono::sys_days{2026y / 11 / 21} + 19min);
   Receive(Line{});
-  pipeline.spot.SpotDate.clear();
-  pipeline.spot.SpotHHMM = 2341;
+  parts.spot.SpotDate.clear();
+  parts.spot.SpotHHMM = 2341;
   pipeline.DisplayDx();
-  EXPECT_EQ(pipeline.spot.SpotDate, "20-Nov-2026");
-  pipeline.spot.SpotDate.clear();
-  pipeline.spot.SpotHHMM = 2340;
+  EXPECT_EQ(parts.spot.SpotDate, "20-Nov-2026");
+  parts.spot.SpotDate.clear();
+  parts.spot.SpotHHMM = 2340;
   pipeline.DisplayDx();
-  EXPECT_EQ(pipeline.spot.SpotDate, "21-Nov-2026");
-  pipeline.spot.SpotDate = "01-Jan-2020";
+  EXPECT_EQ(parts.spot.SpotDate, "21-Nov-2026");
+  parts.spot.SpotDate = "01-Jan-2020";
   pipeline.DisplayDx();
-  EXPECT_EQ(pipeline.spot.SpotDate, "01-Jan-2020");
+  EXPECT_EQ(parts.spot.SpotDate, "01-Jan-2020");
 }
 
 TEST_F(SpotPipeline, AnnotationsAreEmptyBehindEveryLine) {
   Receive({.comment = "CW up 2                     54", .tail = " JN58"});
-  EXPECT_EQ(pipeline.spot.DxCty, "");
-  EXPECT_EQ(pipeline.spot.OrigCty, "");
-  EXPECT_EQ(pipeline.spot.Comment, "CW up 2");
+  EXPECT_EQ(parts.spot.DxCty, "");
+  EXPECT_EQ(parts.spot.OrigCty, "");
+  EXPECT_EQ(parts.spot.Comment, "CW up 2");
 }
 
 TEST_F(SpotPipeline, SpotsOfSkimmersAndOthersComeInTheOrderOfTheirLines) {

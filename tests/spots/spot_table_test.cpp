@@ -122,6 +122,18 @@ TEST_F(SpotTable, TickingBothSourcesShowsAllSpots) {
   EXPECT_THAT(CallsInTable(), ElementsAre("O20", "S20"));
 }
 
+TEST_F(SpotTable, SeparatorIsAsWideAsTheTable) {
+  table.SetTableWidth(45);
+  Receive(Line{});
+  EXPECT_EQ(table.RtbDx.Rows().front().Text(), std::string(45, '*'));
+}
+
+TEST_F(SpotTable, MarkOfASkimmerInACommentMakesNoSkimmer) {
+  Receive({.call = "O20", .comment = "heard by DL1ABC-#"});
+  EXPECT_THAT(CallsInStore(kAllBands, 2), ElementsAre("O20"));
+  EXPECT_THAT(CallsInStore(kAllBands, 1), IsEmpty());
+}
+
 TEST_F(SpotTable, ObserverIsToldOfEachRowAndOfANewBand) {
   table.EnterTab();
   std::vector<std::size_t> added;
