@@ -139,9 +139,8 @@ void BindList(QListWidget* widget, core::ListBox& model, Frames& frames) {
   BindCommon(widget, model, frames);
   // Not with the next frame: the user's next act goes to the items that the rules have left.
   auto* watch = new Watch(widget);
-  watch->observing = model.Observe([widget, &model](const core::ListBox::Change& change) {
-    Follow(*widget, model, change);
-  });
+  watch->observing = model.Observe(
+      [widget, &model](const core::ListBox::Change& change) { Follow(*widget, model, change); });
   auto* selection = new Watch(widget);
   selection->observing = model.Selected.Observe([widget](int place) { Select(*widget, place); });
   QObject::connect(widget, &QListWidget::currentRowChanged, widget, [&model](int place) {

@@ -20,8 +20,8 @@ using Choice = spots::DisplayChoice;
 
 constexpr int kWidthOfField = 56;
 
-constexpr std::array kDxStation = {Choice::kDxCty, Choice::kCountryName, Choice::kDxState,
-                                   Choice::kDxCq,  Choice::kDxItu,       Choice::kDxGrid,
+constexpr std::array kDxStation = {Choice::kDxCty,  Choice::kCountryName, Choice::kDxState,
+                                   Choice::kDxCq,   Choice::kDxItu,       Choice::kDxGrid,
                                    Choice::kBearing};
 constexpr std::array kSpotter = {Choice::kOrigCty,  Choice::kOrigState, Choice::kOrigCq,
                                  Choice::kOrigItu,  Choice::kOrigGrid,  Choice::kNode,

@@ -15,9 +15,11 @@ void DropPanel::Drop(const QPushButton* button) {
   adjustSize();
   const QPoint under = button->mapToGlobal(QPoint(0, button->height() + 2));
   const QRect room = button->screen()->availableGeometry();
-  move(std::clamp(under.x(), room.left(), std::max(room.left(), room.right() - width())), under.y());
+  move(std::clamp(under.x(), room.left(), std::max(room.left(), room.right() - width())),
+       under.y());
   show();
-  if (QWidget* first = nextInFocusChain(); isAncestorOf(first)) first->setFocus(Qt::PopupFocusReason);
+  if (QWidget* first = nextInFocusChain(); isAncestorOf(first))
+    first->setFocus(Qt::PopupFocusReason);
 }
 
 }  // namespace ui

@@ -45,15 +45,16 @@ void FixRows::Renew() {
 
 int FixRows::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
-int FixRows::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColumns; }
+int FixRows::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumns;
+}
 
 QVariant FixRows::data(const QModelIndex& index, int role) const {
   const spots::FixEntry* entry = form_.EntryOf(index.row());
   if (entry == nullptr) return {};
   const int column = index.column();
   if (role == Qt::DisplayRole) return TextAt(form_, *entry, column);
-  const bool red =
-      column == kApplied || (IsField(column) && IsChanged(*entry, FieldAt(column)));
+  const bool red = column == kApplied || (IsField(column) && IsChanged(*entry, FieldAt(column)));
   if (role == Qt::ForegroundRole && red) return theme_.Get()[Token::Bad];
   return {};
 }

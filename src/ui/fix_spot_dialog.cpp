@@ -95,7 +95,8 @@ QWidget* FixSpotDialog::MakeRows(Frames& frames, LiveTheme& theme) {
   const auto changed = [this](const auto&) { item_->Changed(); };
   BindProperty<Theme>(view_, theme, frames, [this](const Theme&) { view_->viewport()->update(); });
   BindProperty<std::vector<std::string>>(view_, model_.form.cboCall.Options, frames, changed);
-  BindProperty<int>(view_, model_.form.cboCall.Selected, frames, [this](int row) { SelectRow(row); });
+  BindProperty<int>(view_, model_.form.cboCall.Selected, frames,
+                    [this](int row) { SelectRow(row); });
   changing_ = model_.list.Changed.Add([this] { item_->Changed(); });
   connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& now) {
@@ -169,9 +170,10 @@ QLayout* FixSpotDialog::MakeLists(Frames& frames) {
     row->addWidget(button);
   }
   BindOptions(group, model_.form.optFixSpot, frames);
-  row->addWidget(MakeButton(tr("Web Update of the corrections"), model_.form.cmdWebUpdate, frames,
-                            this));
-  row->addWidget(MakeButton(tr("Help on the list from the web"), model_.form.cmdHelp, frames, this));
+  row->addWidget(
+      MakeButton(tr("Web Update of the corrections"), model_.form.cmdWebUpdate, frames, this));
+  row->addWidget(
+      MakeButton(tr("Help on the list from the web"), model_.form.cmdHelp, frames, this));
   row->addStretch();
   const auto add = [&](const QString& caption, const QString& name, void (FixSpotDialog::*act)()) {
     auto* button = new QPushButton(caption, this);

@@ -51,7 +51,8 @@ std::optional<KeptPlace::Found> KeptPlace::FirstLeft(const SpotSnapshot& now) co
   if (inSight_.empty()) return std::nullopt;
   if (const auto top = Find(inSight_.front(), now)) return Found{*top, 0};
   for (std::size_t place = 1; place < inSight_.size(); ++place)
-    if (const auto row = FindSame(inSight_[place], now)) return Found{*row, static_cast<int>(place)};
+    if (const auto row = FindSame(inSight_[place], now))
+      return Found{*row, static_cast<int>(place)};
   return std::nullopt;
 }
 

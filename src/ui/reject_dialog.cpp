@@ -30,8 +30,7 @@ constexpr std::array<ListWords, spots::RejectLists::kKinds> kWords = {{
     {QT_TR_NOOP("Words in comments"), QT_TR_NOOP("word in comments"), QT_TR_NOOP("pirate")},
 }};
 
-QPushButton* MakeButton(const QString& name, core::Button& model, Frames& frames,
-                        QWidget* parent) {
+QPushButton* MakeButton(const QString& name, core::Button& model, Frames& frames, QWidget* parent) {
   auto* button = new QPushButton(parent);
   button->setAutoDefault(false);
   button->setAccessibleName(name);

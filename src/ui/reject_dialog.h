@@ -12,8 +12,7 @@ namespace ui {
 class RejectDialog : public QDialog {
  public:
   // All outlive it.
-  RejectDialog(spots::RejectForm& form, spots::RejectLists& lists, Frames& frames,
-               QWidget* parent);
+  RejectDialog(spots::RejectForm& form, spots::RejectLists& lists, Frames& frames, QWidget* parent);
 
   // Opens it with the switches as they are.
   void Show();

@@ -146,8 +146,7 @@ class SpotHead : public QAbstractButton {
   void mouseReleaseEvent(QMouseEvent* event) override {
     if (event->button() == Qt::LeftButton) return QAbstractButton::mouseReleaseEvent(event);
     const bool here = rect().contains(event->position().toPoint());
-    const bool counts =
-        event->button() == Qt::MiddleButton || event->button() == Qt::RightButton;
+    const bool counts = event->button() == Qt::MiddleButton || event->button() == Qt::RightButton;
     if (here && counts) Do(PressOf(event->button()));
   }
   void contextMenuEvent(QContextMenuEvent* event) override { event->accept(); }

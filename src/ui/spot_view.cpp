@@ -38,8 +38,8 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
             [this] {
               if (isVisible()) item_->Changed();
             }),
-      heads_(new SpotHeads(model.table, model.display, painter_, [this] { return Colours(); },
-                           this)),
+      heads_(new SpotHeads(
+          model.table, model.display, painter_, [this] { return Colours(); }, this)),
       below_(new QPushButton(this)) {
   MakeSpotViewsAccessible();  // before Qt asks who speaks for it
   setAccessibleName(tr("Spots"));
@@ -107,9 +107,9 @@ void SpotView::Renew(const KeptPlace& place, bool toNewest) {
   if (toNewest)
     verticalScrollBar()->setValue(0);
   else if (left)
-    verticalScrollBar()->setValue(
-        (static_cast<int>(left->row - rows_.First()) - left->place) * painter_.RowHeight() +
-        within);
+    verticalScrollBar()->setValue((static_cast<int>(left->row - rows_.First()) - left->place) *
+                                      painter_.RowHeight() +
+                                  within);
   viewport()->repaint();
 }
 
@@ -385,8 +385,7 @@ void SpotView::PressCall(Number row, Qt::KeyboardModifiers keys) {
 }
 
 void SpotView::Do(const spots::Click& click) {
-  if (!click.call.empty())
-    QApplication::clipboard()->setText(OneLine(click.call, kLongestRow));
+  if (!click.call.empty()) QApplication::clipboard()->setText(OneLine(click.call, kLongestRow));
   if (click.act != spots::Click::Act::None && model_.click) model_.click(click);
 }
 

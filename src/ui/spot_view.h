@@ -10,10 +10,10 @@
 #include "spots/display_choice.h"
 #include "spots/spot_table.h"
 #include "ui/frames.h"
+#include "ui/kept_place.h"
 #include "ui/searchable.h"
 #include "ui/spot_heads.h"
 #include "ui/spot_painter.h"
-#include "ui/kept_place.h"
 #include "ui/spot_snapshot.h"
 #include "ui/theme.h"
 
@@ -78,8 +78,8 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   // Where the finger went down.
   struct Pressed {
     Number row;
-    int column;     // from 1
-    bool chooses;   // more rows: it is no click
+    int column;    // from 1
+    bool chooses;  // more rows: it is no click
   };
 
   void Refresh();
