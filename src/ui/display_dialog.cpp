@@ -20,14 +20,27 @@ using Choice = spots::DisplayChoice;
 
 constexpr int kWidthOfField = 56;
 
-constexpr std::array kDxStation = {Choice::kDxCty,  Choice::kCountryName, Choice::kDxState,
-                                   Choice::kDxCq,   Choice::kDxItu,       Choice::kDxGrid,
-                                   Choice::kBearing};
+constexpr std::array kDxStation = {Choice::kDxCty,   Choice::kCountryName, Choice::kDxState,
+                                   Choice::kDxCq,    Choice::kDxItu,       Choice::kDxGrid,
+                                   Choice::kBearing, Choice::kDistance,    Choice::kKilometres};
 constexpr std::array kSpotter = {Choice::kOrigCty,  Choice::kOrigState, Choice::kOrigCq,
                                  Choice::kOrigItu,  Choice::kOrigGrid,  Choice::kNode,
                                  Choice::kSpotterIp};
-constexpr std::array kRow = {Choice::kComments, Choice::kWide,       Choice::kDate,
-                             Choice::kDistance, Choice::kKilometres, Choice::kDontUse};
+constexpr std::array kRow = {Choice::kComments, Choice::kWide, Choice::kDate, Choice::kDontUse};
+
+// Where the caption alone says too little to the ear.
+QString NameOf(Choice::Check check) {
+  switch (check) {
+    case Choice::kKilometres:
+      return DisplayDialog::tr("Distance in km");
+    case Choice::kNode:
+      return DisplayDialog::tr("Node of the spotter");
+    case Choice::kWide:
+      return DisplayDialog::tr("Wide comments");
+    default:
+      return {};
+  }
+}
 
 }  // namespace
 
@@ -93,7 +106,7 @@ QVBoxLayout* DisplayDialog::MakeGroup(const QString& heading, std::span<const Ch
   group->addWidget(title);
   for (const Check each : checks) {
     auto* box = new QCheckBox(this);
-    if (each == Choice::kKilometres) box->setAccessibleName(tr("Distance in km"));
+    box->setAccessibleName(NameOf(each));
     BindCheck(box, model_.chkAr17[each], frames);
     group->addWidget(box);
   }

@@ -19,6 +19,7 @@ constexpr int kLeastFindWidth = 110;
 constexpr int kQueryWidth = 250;
 constexpr int kLeastQueryWidth = 110;
 constexpr int kBetweenGroups = 8;
+constexpr int kBeforeTheGap = 100;  // of the room that is left, for fields
 
 QPushButton* MakeButton(const QString& caption, const QString& name, QWidget* parent) {
   auto* button = new QPushButton(caption, parent);
@@ -120,7 +121,7 @@ void DxPage::AddMembership(FoldRow* strip, spots::Membership& model, Frames& fra
   auto* answer = new QLabel(strip);
   answer->setAccessibleName(tr("Answer"));
   BindLabel(answer, model.lblLotw, frames);
-  strip->Controls()->addWidget(query, 2);
+  strip->Controls()->addWidget(query, kBeforeTheGap);
   strip->Controls()->addWidget(answer);
 }
 
@@ -135,7 +136,7 @@ void DxPage::AddFind(FoldRow* strip) {
   find_->setMaximumWidth(kFindWidth);
   find_->setPlaceholderText(tr("Find in table  (Ctrl+F)"));
   find_->setAccessibleName(tr("Find in table"));
-  strip->Controls()->addWidget(find_, 2);
+  strip->Controls()->addWidget(find_, kBeforeTheGap);
 }
 
 void DxPage::OpenFind() {

@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
 #include <array>
 
 #include "platform/qt/qt_text.h"
@@ -72,8 +71,11 @@ FixSpotDialog::FixSpotDialog(Model model, Frames& frames, LiveTheme& theme, QWid
   BindLabel(result, model.form.lblResult, frames);
   auto* fixes = new QLabel(this);
   fixes->setProperty("dim", true);
-  fixes->setAccessibleName(tr("Spots corrected"));
-  BindLabel(fixes, model.list.lblFixes, frames);
+  fixes->setTextFormat(Qt::PlainText);
+  BindProperty<std::string>(fixes, model.list.lblFixes.Caption, frames,
+                            [fixes](const std::string& count) {
+                              fixes->setText(tr("Spots corrected: %1").arg(TextOf(count)));
+                            });
   QHBoxLayout* foot = AddCloseButton(column, this);
   foot->insertWidget(0, result);
   foot->insertWidget(1, fixes);
@@ -86,6 +88,7 @@ QWidget* FixSpotDialog::MakeRows(Frames& frames, LiveTheme& theme) {
   view_->setModel(rows_);
   view_->setAccessibleName(tr("Corrections"));
   view_->setFont(FixedFont());
+  view_->setProperty("framed", true);
   view_->setRootIsDecorated(false);
   view_->setIndentation(0);
   view_->setUniformRowHeights(true);
@@ -107,15 +110,13 @@ QWidget* FixSpotDialog::MakeRows(Frames& frames, LiveTheme& theme) {
 }
 
 void FixSpotDialog::Renew() {
-  const QSignalBlocker silent(view_->selectionModel());
   rows_->Renew();
   SelectRow(model_.form.cboCall.Selected.Get());
 }
 
 void FixSpotDialog::SelectRow(int row) {
-  const QModelIndex index = rows_->index(row, 0);
-  if (index == view_->currentIndex()) return;
-  view_->setCurrentIndex(index);
+  if (row < 0 || !view_->selectionModel()->isRowSelected(row))
+    view_->setCurrentIndex(rows_->index(row, 0));
 }
 
 QLayout* FixSpotDialog::MakeEntry(Frames& frames) {

@@ -11,6 +11,8 @@ namespace ui {
 // A row of controls that stays one line high: the buttons that have no room stand in a menu of the
 // button "More" at its end.
 class FoldRow : public QWidget {
+  Q_OBJECT
+
  public:
   explicit FoldRow(QWidget* parent);
 

@@ -2,11 +2,11 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QShortcut>
 #include <array>
 
 #include "ui/bind.h"
@@ -29,6 +29,21 @@ constexpr std::array<ListWords, spots::RejectLists::kKinds> kWords = {{
     {QT_TR_NOOP("Spotters and nodes"), QT_TR_NOOP("spotter or node"), QT_TR_NOOP("W1TST")},
     {QT_TR_NOOP("Words in comments"), QT_TR_NOOP("word in comments"), QT_TR_NOOP("pirate")},
 }};
+
+// Its Delete key does what the button does.
+class EntryList : public QListWidget {
+ public:
+  EntryList(core::Button& remove, QWidget* parent) : QListWidget(parent), remove_(remove) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Delete) return remove_.Press();
+    QListWidget::keyPressEvent(event);
+  }
+
+ private:
+  core::Button& remove_;
+};
 
 QPushButton* MakeButton(const QString& name, core::Button& model, Frames& frames, QWidget* parent) {
   auto* button = new QPushButton(parent);
@@ -110,7 +125,7 @@ QWidget* RejectDialog::MakeList(spots::RejectLists::Kind kind, spots::RejectForm
   auto* group = new QWidget(this);
   auto* heading = new QLabel(tr(words.heading), group);
   heading->setProperty("heading", true);
-  auto* list = new QListWidget(group);
+  auto* list = new EntryList(form.cmdDelete[kind], group);
   list->setAccessibleName(tr("Rejected: %1").arg(tr(words.heading)));
   list->setFont(FixedFont());
   BindList(list, lists.lstReject[kind], frames);
@@ -120,9 +135,6 @@ QWidget* RejectDialog::MakeList(spots::RejectLists::Kind kind, spots::RejectForm
   BindTextBox(field, form.txtReject[kind], frames);
   auto* add = MakeButton(tr("Add %1").arg(entry), form.cmdAdd[kind], frames, group);
   auto* remove = MakeButton(tr("Delete %1").arg(entry), form.cmdDelete[kind], frames, group);
-  auto* key = new QShortcut(QKeySequence::Delete, list);
-  key->setContext(Qt::WidgetShortcut);
-  connect(key, &QShortcut::activated, remove, &QPushButton::click);
   auto* grid = new QGridLayout(group);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(8);

@@ -45,9 +45,10 @@ constexpr std::array kNames = {Name{0, QT_TR_NOOP("Sort by frequency")},
 struct Plain {
   Column column;
   const char* caption;
+  bool atEnd;
 };
-constexpr std::array kPlain = {Plain{Column::Comment, QT_TR_NOOP("Comment")},
-                               Plain{Column::Day, QT_TR_NOOP("Day")}};
+constexpr std::array kPlain = {Plain{Column::Comment, QT_TR_NOOP("Comment"), false},
+                               Plain{Column::Day, QT_TR_NOOP("Day"), true}};
 
 QString NameOf(int button) {
   const auto* found = std::find_if(kNames.begin(), kNames.end(),
@@ -92,14 +93,17 @@ class SpotHead : public QAbstractButton {
   // With the arrow of the order in force.
   QString Caption() const {
     if (!IsActive()) return text();
-    return text() + (IsReversed() ? QStringLiteral(" ↑") : QStringLiteral(" ↓"));
+    const QString arrow = IsReversed() ? QStringLiteral("↑") : QStringLiteral("↓");
+    const QString airy = text() + QLatin1Char(' ') + arrow;
+    const bool fits = WidthOf(airy) <= heads_.painter_.ColumnAt(model_.width);
+    return fits ? airy : text() + arrow;
   }
   QFont Font() const {
     QFont font = InterfaceFont();
     if (IsActive()) font.setWeight(QFont::DemiBold);
     return font;
   }
-  int Width() const { return QFontMetrics(Font()).horizontalAdvance(Caption()); }
+  int Width() const { return WidthOf(Caption()); }
 
   void Renew() {
     setChecked(IsActive());
@@ -152,6 +156,7 @@ class SpotHead : public QAbstractButton {
   void contextMenuEvent(QContextMenuEvent* event) override { event->accept(); }
 
  private:
+  int WidthOf(const QString& words) const { return QFontMetrics(Font()).horizontalAdvance(words); }
   void Do(Press press) { heads_.Press(model_.button, press); }
 
   spots::SortButton model_;
@@ -202,7 +207,7 @@ void SpotHeads::Place(int scrolled) {
     const int left = head->model().atEnd ? std::max(std::min(start, end - width), free) : start;
     const int right = std::max(end, left + width);
     head->setGeometry(left, 0, right - left, height() - 1);
-    free = right + kBetween;
+    free = (head->model().atEnd ? right : left + width) + kBetween;
     if (head->IsActive()) head->raise();
   }
   update();
@@ -231,9 +236,13 @@ void SpotHeads::paintEvent(QPaintEvent*) {
   for (const Plain& plain : kPlain) {
     const spots::RowLayout& layout = display_.Layout();
     if (!layout.Shows(plain.column)) continue;
-    const int left = painter_.ColumnAt(layout.Start(plain.column) - 1) - scrolled_;
-    painter.drawText(QRect(left, 0, width(), height() - 1), Qt::AlignLeft | Qt::AlignVCenter,
-                     tr(plain.caption));
+    const QString caption = tr(plain.caption);
+    const int start = layout.Start(plain.column) - 1;
+    const int end = painter_.ColumnAt(start + layout.Width(plain.column));
+    const int left = plain.atEnd ? end - painter.fontMetrics().horizontalAdvance(caption)
+                                 : painter_.ColumnAt(start);
+    painter.drawText(QRect(left - scrolled_, 0, width(), height() - 1),
+                     Qt::AlignLeft | Qt::AlignVCenter, caption);
   }
 }
 

@@ -70,6 +70,8 @@ QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
 QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
 QTreeView { background: {ground}; color: {text}; border: none; outline: none; }
+QTreeView[framed="true"] { border: 1px solid {line}; border-radius: 4px; }
+QTreeView[framed="true"]:focus { border-color: {accent}; }
 QTreeView::item { height: 24px; padding-left: 8px; border: none; }
 QTreeView::item:selected { background: {selection}; color: {text}; }
 QHeaderView::section { background: {panel}; color: {dim}; border: none;
@@ -77,6 +79,7 @@ QHeaderView::section { background: {panel}; color: {dim}; border: none;
 QListWidget { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
               outline: none; }
 QListWidget:focus { border-color: {accent}; }
+QDialog QListWidget::item { padding: 2px 4px; }
 QListWidget::item:selected { background: {selection}; color: {text}; }
 QFrame#DropPanel { background: {panel}; border: 1px solid {line}; border-radius: 4px; }
 QMenu { background: {panel}; color: {text}; border: 1px solid {line}; padding: 4px; }
