@@ -3,7 +3,7 @@
 # What the program is built with.
 BUILD_PACKAGES=(ccache cmake g++ lld ninja-build qt6-base-dev qt6-serialport-dev)
 # What it runs with, and what shows it where there is no display.
-RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono imagemagick xvfb)
+RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono hamradio-files imagemagick xvfb)
 # What its tests need besides.
 TEST_PACKAGES=(dbus-daemon googletest libgmock-dev libgtest-dev)
 # What the benchmarks are built with.

@@ -53,6 +53,9 @@ class Program {
     std::uint32_t seed = 0;      // of everything that is picked at random
   };
 
+  // The country file that the system has, from its package of files for radio amateurs.
+  static constexpr const char* kCountryFile = "/usr/share/hamradio-files/cty.dat";
+
   // The platform outlives the program. `folder` is the program's folder.
   Program(const platform::Platform& platform, std::string folder, Needs needs);
 
@@ -115,6 +118,7 @@ class Program {
   platform::Task<> PrepareFolder();
   platform::Task<> ReadDebugCfg();
   platform::Task<> BringDataFiles();
+  void BringCountryFile();
   platform::Task<> ReadCfg();
   platform::Task<> StartLogger();
   platform::Task<> ReadPassword();

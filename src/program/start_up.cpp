@@ -4,6 +4,7 @@
 #include "core/password_file.h"
 #include "core/quoted.h"
 #include "core/text.h"
+#include "program/data_files.h"
 #include "program/program.h"
 #include "program/save_condition.h"
 
@@ -21,6 +22,7 @@ struct DataFile {
 constexpr std::array kDataFiles = {
     DataFile{"endpoints.cfg",
              "\"MOLVA-1\",\"\"\r\n\"Node List\",\"\"\r\n\"Data\",\"\"\r\n\"Version\",\"\"\r\n"},
+    DataFile{"state.dat", kStateFile},
 };
 
 constexpr int kLastPort = 65535;
@@ -99,8 +101,14 @@ platform::Task<> Program::BringDataFiles() {
   for (const DataFile& file : kDataFiles)
     if (!platform_.files.Exists(Path(file.name)))
       platform_.files.Replace(Path(file.name), file.content);
+  if (!platform_.files.Exists(Path("cty.dat"))) BringCountryFile();
   endpoints = core::ReadEndpoints(platform_.files, folder_);
   co_return;
+}
+
+void Program::BringCountryFile() {
+  const auto countries = platform_.files.Read(kCountryFile);
+  if (!countries.bytes.empty()) platform_.files.Replace(Path("cty.dat"), countries.bytes);
 }
 
 platform::Task<> Program::ReadCfg() {

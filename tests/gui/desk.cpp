@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+#include "spots/cty_text.h"
+
 namespace gui {
 namespace {
 
@@ -24,6 +26,7 @@ void Desk::Open(const std::vector<std::string>& more) {
   for (const std::string& line : more) configuration += line + "\r\n";
   world.files.folders.insert(kFolder);
   world.files.content[std::string(kFolder) + "/molva.cfg"] = configuration;
+  world.files.content[program::Program::kCountryFile] = CtyText({});
   program = std::make_unique<program::Program>(
       world.platform(), kFolder,
       program::Program::Needs{.quit = [this] { hasQuit = true; }, .seed = 1});

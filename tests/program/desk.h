@@ -7,11 +7,14 @@
 #include "practice_node/node.h"
 #include "practice_node/options.h"
 #include "program/program.h"
+#include "spots/cty_text.h"
 
 // The whole program in the simulated world, with the practice node listening where its default is.
 class Desk {
  public:
   static constexpr const char* kFolder = "/home/op/molva";
+
+  Desk() { world.files.content[program::Program::kCountryFile] = CtyText({}); }
 
   platform::sim::World world;
   int quits = 0;

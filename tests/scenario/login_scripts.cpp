@@ -24,7 +24,8 @@ Script ArCluster() {
                 prompt},
                {"SET/EMAIL anna@example.org", "SH/FILTER", "SH/SETTINGS"}},
               {{prompt}, {"SET/DX_ARPC ON"}},
-              {{"DX ArPc enabled for K1TST-2\r\n" + prompt}, {"KeepAlive Rx 5  V2.4315"}},
+              {{"DX ArPc enabled for K1TST-2\r\n" + prompt},
+               {"KeepAlive Rx 5  V2.4315", "sh/dx/100 where (freq>1800 and freq<21000000)", ""}},
           },
       .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE ARC)",
                  .txtNode = "***Connected to: N0NODE",
@@ -34,7 +35,7 @@ Script ArCluster() {
                            "FirstPromptDone", "Ar17Active", "DuelArmed", "RequestedSettings"},
                  .loginText = {" ", " Welcome to the N0NODE AR-Cluster node", " ", " ",
                                " Hello Anna (K1TST-2)"},
-                 .asked = {{"AskSunTimes", 1}, {"GetEm", 1}}},
+                 .asked = {{"AskSunTimes", 1}}},
       .keepAlive = "KeepAlive Rx 5  V2.4315"};
 }
 
@@ -65,7 +66,7 @@ Script Spider157() {
                     "  Type of User: U\r\n"
                     "  Req DX Spots: Yes\r\n"},
                    {" ", "set/prompt %C de %M %D %T 2.4315  dxspider >", "set/lang en", "set/molva",
-                    "sh/filter", "SET/PAGE 9999"}},
+                    "sh/filter", "SET/PAGE 9999", "sh/mydx/100", ""}},
                   {{std::string(kSpiderPrompt) + kOwnSpiderPrompt + "Invalid command\r\n" +
                     kOwnSpiderPrompt},
                    {}},
@@ -79,7 +80,7 @@ Script Spider157() {
                      .loginText = {" ", "  password", " :", " Hello K1TST-2, this is N0NODE",
                                    " running DXSpider V1.57 build 441",
                                    " Cluster: 1 nodes, 1 local / 1 total users  Uptime: 2d 3h 5m"},
-                     .asked = {{"AskSunTimes", 1}, {"GetEm", 1}}},
+                     .asked = {{"AskSunTimes", 1}}},
           .keepAlive = ""};
 }
 
@@ -107,7 +108,7 @@ Script Spider155() {
                 kSpiderPrompt},
                {"set/home N0HOME", "set/dx", " ", "unset/echo",
                 "set/prompt %C de %M %D %T 2.4315  dxspider >", "set/molva", "sh/filter",
-                "SET/PAGE 9999", "set/name ANNA"}},
+                "SET/PAGE 9999", "set/name ANNA", "sh/dx/100", ""}},
               {{std::string("set/home N0HOME\r\n") + kSpiderPrompt + "set/dx\r\n" + kSpiderPrompt +
                 " \r\n" + kSpiderPrompt + "unset/echo\r\nEchoing disabled\r\n" + kSpiderPrompt +
                 kOwnSpiderPrompt + "Invalid command\r\n" + kOwnSpiderPrompt},
@@ -121,7 +122,7 @@ Script Spider155() {
                            "Ar17Refused", "DuelArmed"},
                  .loginText = {" ", " Hello Anna, this is N0NODE",
                                " running DXSpider V1.55 build 231 on linux", " Echoing disabled"},
-                 .asked = {{"AskSunTimes", 1}, {"GetEm", 1}}},
+                 .asked = {{"AskSunTimes", 1}}},
       .keepAlive = ""};
 }
 
@@ -137,7 +138,7 @@ Script Clx() {
                     "Use SET/NAME <your name>, please.\r\n"
                     "please enter ur location using SET/LOCATION and SET/QTH\r\n"
                     "k1tst-2 de n0node 20-Nov-2026 2101Z clx >\r\n"},
-                   {"set/name anna", "set/location 42 17 n 83 44 w"}},
+                   {"set/name anna", "set/location 42 17 n 83 44 w", "sh/dx/100", ""}},
               },
           .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE CLX)",
                      .txtNode = "***Connected to: N0NODE",
@@ -147,7 +148,7 @@ Script Clx() {
                                "Ar17Refused", "DuelArmed"},
                      .loginText = {" Welcome to N0NODE running CLX 5.20", " ",
                                    "  de k1tst-2 n0node 20-Nov-2026"},
-                     .asked = {{"AskSunTimes", 1}, {"GetEm", 1}}},
+                     .asked = {{"AskSunTimes", 1}}},
           .keepAlive = ""};
 }
 
@@ -158,7 +159,7 @@ Script DxNet() {
                   {{"Bienvenue / Welcome\r\nYour callsign:"}, {"K1TST-2"}},
                   {{"\r\nHello Anna, the software of N0NODE is DxNet.\r\n"
                     "K1TST-2 de N0NODE 2101Z DxNet>\r\n"},
-                   {"set/page 0"}},
+                   {"set/page 0", "sh/dx/100", ""}},
                   {{"<CR> Continue, <A> Abort\r\n"}, {" ", "SET/PAGE 0"}},
               },
           .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE DxNet)",
@@ -169,7 +170,7 @@ Script DxNet() {
                                "Ar17Refused", "DuelArmed"},
                      .loginText = {" Bienvenue / Welcome", " ",
                                    " Hello Anna, the software of N0NODE is DxNet."},
-                     .asked = {{"AskSunTimes", 1}, {"GetEm", 1}}},
+                     .asked = {{"AskSunTimes", 1}}},
           .keepAlive = ""};
 }
 
@@ -184,7 +185,7 @@ Script WinCluster() {
               {{"\r\nWelcome Anna\r\n"
                 "K1TST-2 de N0NODE 20-Nov-2026 2101Z WinCluster>\r\n"
                 "password: please\r\n"},
-               {}},
+               {"sh/dx/100", ""}},
           },
       .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE WinCluster)",
                  .txtNode = "***Connected to: N0NODE",
@@ -192,38 +193,39 @@ Script WinCluster() {
                  .lblStatus = "",
                  .flags = {"IsWinCluster", "LoggedIn", "LoginTextDone", "Ar17Refused", "DuelArmed"},
                  .loginText = {" N0NODE on WinCluster", " ", " Welcome Anna"},
-                 .asked = {{"GetEm", 1}}},
+                 .asked = {}},
       .keepAlive = ""};
 }
 
 // Asks for its password in a line of its own.
 Script Zelva() {
   const std::string prompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z   ZLV >\r\n";
-  return {.name = "Zelva",
-          .password = "secret",
-          .turns =
-              {
-                  {{"Please enter your call: "}, {"K1TST-2"}},
-                  {{"\r\nWelcome to N0NODE, a Zelva Cluster\r\npassword:\r\n"}, {"secret"}},
-                  {{prompt}, {"SH/SETTINGS"}},
-                  {{"       Callsign: K1TST-2\r\n"
-                    "        Locator: EN82\r\n"
-                    "       Location: 42 17 N 83 44 W\r\n"
-                    "       Req Echo: No\r\n"
-                    "   Req DX Spots: Yes\r\n"
-                    "   Type of User: U\r\n" +
-                    prompt},
-                   {" ", "sh/filter", "set/name ANNA", "KeepAlive Rx 5  V2.4315"}},
-              },
-          .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE Zelva Cluster)",
-                     .txtNode = "***Connected to: N0NODE",
-                     .showDx = "sh/mydx",
-                     .lblStatus = "Node is Zelva Cluster",
-                     .flags = {"IsZelva", "LoggedIn", "LoginTextDone", "LoginFinished", "SunDone",
-                               "Ar17Refused", "DuelArmed", "RequestedSettings", "NodeSentPassword"},
-                     .loginText = {" ", " Welcome to N0NODE, a Zelva Cluster", " password:"},
-                     .asked = {{"AskSunTimes", 1}, {"GetEm", 1}}},
-          .keepAlive = "KeepAlive Rx 5  V2.4315"};
+  return {
+      .name = "Zelva",
+      .password = "secret",
+      .turns =
+          {
+              {{"Please enter your call: "}, {"K1TST-2"}},
+              {{"\r\nWelcome to N0NODE, a Zelva Cluster\r\npassword:\r\n"}, {"secret"}},
+              {{prompt}, {"SH/SETTINGS"}},
+              {{"       Callsign: K1TST-2\r\n"
+                "        Locator: EN82\r\n"
+                "       Location: 42 17 N 83 44 W\r\n"
+                "       Req Echo: No\r\n"
+                "   Req DX Spots: Yes\r\n"
+                "   Type of User: U\r\n" +
+                prompt},
+               {" ", "sh/filter", "set/name ANNA", "KeepAlive Rx 5  V2.4315", "sh/mydx/100", ""}},
+          },
+      .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE Zelva Cluster)",
+                 .txtNode = "***Connected to: N0NODE",
+                 .showDx = "sh/mydx",
+                 .lblStatus = "Node is Zelva Cluster",
+                 .flags = {"IsZelva", "LoggedIn", "LoginTextDone", "LoginFinished", "SunDone",
+                           "Ar17Refused", "DuelArmed", "RequestedSettings", "NodeSentPassword"},
+                 .loginText = {" ", " Welcome to N0NODE, a Zelva Cluster", " password:"},
+                 .asked = {{"AskSunTimes", 1}}},
+      .keepAlive = "KeepAlive Rx 5  V2.4315"};
 }
 
 Script Skimmer() {
@@ -246,7 +248,7 @@ Script Skimmer() {
                  .flags = {"IsSkimmer", "LoggedIn", "LoginTextDone", "Ar17Refused", "DuelArmed"},
                  .loginText = {" Welcome to the Skimmer Server telnet port of N0NODE", " ",
                                " Hello K1TST-2, here is CW Skimmer"},
-                 .asked = {{"GetEm", 1}}},
+                 .asked = {}},
       .keepAlive = ""};
 }
 

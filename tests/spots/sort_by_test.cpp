@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <map>
+
 #include "spot_desk.h"
 #include "spots/row_layout.h"
 
@@ -148,11 +150,12 @@ TEST_F(SortBy, ButtonPressedWhileOneIsBeingMarkedCountsForNothing) {
 }
 
 TEST_F(SortBy, ReloadDrawsAtItsEndOnly) {
-  for (const int button : {kTimeOrder, kByCall}) {
+  const std::map<int, std::string> spots = {{kTimeOrder, "AA"}, {kByCall, "BB"}};
+  for (const auto& [button, call] : spots) {
     table.SortBy(button);
     const auto before = CallsInTable();
     table.BeginReload();
-    ReceiveCalls({"AA"});
+    ReceiveCalls({call});
     Tick();
     EXPECT_EQ(CallsInTable(), before);
     table.EndReload();
