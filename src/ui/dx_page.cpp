@@ -87,7 +87,9 @@ void DxPage::AddOrder(FoldRow* strip, const QString& caption, int button, spots:
     widget->setChecked(table.optSortBy.Get() == button);
   };
   BindProperty<int>(widget, table.optSortBy, frames, show);
-  connect(widget, &QPushButton::clicked, this, [button, show, &table] {
+  // However it was turned: by a click, or by a screen reader.
+  connect(widget, &QPushButton::toggled, this, [button, show, &table](bool on) {
+    if (on == (table.optSortBy.Get() == button)) return;
     table.SortBy(button);
     show(button);
   });

@@ -82,7 +82,6 @@ class SpotHead : public QAbstractButton {
                    .arg(accessibleName()));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
-    setCheckable(true);
     connect(this, &QAbstractButton::clicked, this, [this] { Do(Press::Left); });
   }
 
@@ -106,8 +105,8 @@ class SpotHead : public QAbstractButton {
   int Width() const { return WidthOf(Caption()); }
 
   void Renew() {
-    setChecked(IsActive());
     QStringList says;
+    if (IsActive()) says << SpotHeads::tr("in force");
     if (model_.button == spots::kLastHour) says << SpotHeads::tr(kLastHourSays);
     if (IsReversed()) says << SpotHeads::tr("from the end");
     setAccessibleDescription(says.join(QStringLiteral(", ")));
@@ -126,9 +125,6 @@ class SpotHead : public QAbstractButton {
     painter.setPen(colours.accent);
     painter.drawRect(rect().adjusted(0, 2, -1, -3));
   }
-  // What is checked is the table's order, whatever was pressed.
-  void nextCheckState() override {}
-
   void keyPressEvent(QKeyEvent* event) override {
     if (Presses(event->key())) return Do(PressOf(event->modifiers()));
     switch (event->key()) {

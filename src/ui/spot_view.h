@@ -47,6 +47,7 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* parent);
 
   const SpotSnapshot& Rows() const { return rows_; }
+  QWidget* Heads() const { return heads_; }
   // The one that the keys start from; it is among those chosen. None at first.
   std::optional<Number> Current() const { return current_; }
   bool IsChosen(Number row) const;

@@ -70,6 +70,7 @@ class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInter
   Number row_;
 };
 
+// The rows from the top, and behind them the heads of their columns.
 class AccessibleView : public QAccessibleWidget {
  public:
   explicit AccessibleView(SpotView& view) : QAccessibleWidget(&view, QAccessible::List) {}
@@ -78,16 +79,18 @@ class AccessibleView : public QAccessibleWidget {
       QAccessible::deleteAccessibleInterface(id);
   }
 
-  int childCount() const override { return static_cast<int>(View().Rows().Rows().size()); }
+  int childCount() const override { return RowCount() + 1; }
   QAccessibleInterface* child(int index) const override {
-    if (index < 0 || index >= childCount()) return nullptr;
-    return Row(View().Rows().First() + index);
+    if (index < 0 || index > RowCount()) return nullptr;
+    return index == RowCount() ? Heads() : Row(View().Rows().First() + index);
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
+    if (child->object() == View().Heads()) return RowCount();
     const auto* row = dynamic_cast<const AccessibleRow*>(child);
     return row != nullptr && row->isValid() ? row->Index() : -1;
   }
   QAccessibleInterface* childAt(int x, int y) const override {
+    if (Heads()->rect().contains(x, y)) return Heads();
     const auto row = View().RowAt(View().viewport()->mapFromGlobal(QPoint(x, y)));
     return row ? Row(*row) : nullptr;
   }
@@ -97,6 +100,10 @@ class AccessibleView : public QAccessibleWidget {
 
  private:
   SpotView& View() const { return *static_cast<SpotView*>(widget()); }
+  int RowCount() const { return static_cast<int>(View().Rows().Rows().size()); }
+  QAccessibleInterface* Heads() const {
+    return QAccessible::queryAccessibleInterface(View().Heads());
+  }
 
   // Made when it is asked for, and kept until its row has gone.
   QAccessibleInterface* Row(Number row) const {

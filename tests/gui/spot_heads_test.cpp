@@ -43,10 +43,10 @@ TEST_F(SpotHeadsTest, TheMiddleButtonShowsTheRowsFromTheirEnd) {
   Three();
   Click("Sort by DX call", Qt::MiddleButton);
   EXPECT_THAT(Calls(), ElementsAre("K3CCC", "K2BBB", "K1AAA"));
-  EXPECT_EQ(Head("Sort by DX call").accessibleDescription(), "from the end");
+  EXPECT_EQ(Head("Sort by DX call").accessibleDescription(), "in force, from the end");
   Click("Sort by DX call");
   EXPECT_THAT(Calls(), ElementsAre("K1AAA", "K2BBB", "K3CCC"));
-  EXPECT_EQ(Head("Sort by DX call").accessibleDescription(), "");
+  EXPECT_EQ(Head("Sort by DX call").accessibleDescription(), "in force");
 }
 
 TEST_F(SpotHeadsTest, TheRightButtonLeavesNoSpotterOutOfTheOrderByAddresses) {
@@ -95,13 +95,12 @@ TEST_F(SpotHeadsTest, KeysGoFromHeadToHeadAndPressThem) {
   EXPECT_TRUE(view.hasFocus());
 }
 
-TEST_F(SpotHeadsTest, TheOrderInForceIsCheckedAndHalfBoldWithAnArrow) {
-  EXPECT_TRUE(Head("Sort by time").isChecked());
-  EXPECT_FALSE(Head("Sort by DX call").isChecked());
+TEST_F(SpotHeadsTest, TheOrderInForceIsHalfBoldWithAnArrowAndSaysSo) {
+  EXPECT_EQ(Head("Sort by time").accessibleDescription(), "in force");
+  EXPECT_EQ(Head("Sort by DX call").accessibleDescription(), "");
   const QImage plain = Head("Sort by DX call").grab().toImage();
   Click("Sort by DX call");
-  EXPECT_TRUE(Head("Sort by DX call").isChecked());
-  EXPECT_FALSE(Head("Sort by time").isChecked());
+  EXPECT_EQ(Head("Sort by time").accessibleDescription(), "");
   const QImage sorted = Head("Sort by DX call").grab().toImage();
   EXPECT_NE(sorted, plain);
   Click("Sort by DX call", Qt::MiddleButton);
@@ -139,6 +138,20 @@ TEST_F(SpotHeadsTest, EveryHeadOfEveryColumnHasANameOfItsOwn) {
     EXPECT_TRUE(names.insert(head->accessibleName()).second);
   }
   EXPECT_EQ(names.size(), 18U);
+}
+
+TEST_F(SpotHeadsTest, AScreenReaderFindsThemBehindTheRowsAndPressesThem) {
+  Three();
+  QAccessibleInterface& heads = *Accessible().child(3);
+  EXPECT_EQ(Accessible().indexOfChild(&heads), 3);
+  const QPoint middle = Head("Sort by DX call").mapToGlobal(QPoint(3, 3));
+  EXPECT_EQ(Accessible().childAt(middle.x(), middle.y()), &heads);
+  QAccessibleInterface* call = heads.childAt(middle.x(), middle.y());
+  ASSERT_NE(call, nullptr);
+  EXPECT_EQ(call->text(QAccessible::Name), "Sort by DX call");
+  EXPECT_EQ(call->role(), QAccessible::PushButton);
+  EXPECT_TRUE(
+      call->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
 }
 
 // The reader of a sorted view.

@@ -34,6 +34,8 @@ TEST_F(SpotStripTest, ChoosesTheOrderAndShowsWhichIsInForce) {
   EXPECT_FALSE(Button("Time order").isChecked());
   Click("Last hour");
   EXPECT_TRUE(Button("Last hour").isChecked()) << "it is no switch";
+  Button("Time order").toggle();
+  EXPECT_EQ(Parts().table.optSortBy.Get(), spots::kTimeOrder) << "as a screen reader does it";
 }
 
 TEST_F(SpotStripTest, GetsTheSpotsOfABand) {
@@ -105,7 +107,7 @@ TEST_F(SpotStripTest, CtrlClickOnACallAsksForItsSunTimes) {
   Press(Qt::Key_End);
   Press(Qt::Key_Return, Qt::ControlModifier);
   Run(200ms);
-  EXPECT_THAT(node.Heard(), Contains("sh/sun 3Y0J"));
+  EXPECT_THAT(node.Heard(), Contains("SH/SUN 3Y0J"));
 }
 
 }  // namespace
