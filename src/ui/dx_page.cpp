@@ -17,7 +17,7 @@ namespace {
 constexpr int kFindWidth = 200;
 constexpr int kLeastFindWidth = 110;
 constexpr int kQueryWidth = 250;
-constexpr int kLeastQueryWidth = 110;
+constexpr int kLeastQueryWidth = 180;
 constexpr int kBetweenGroups = 8;
 constexpr int kBeforeTheGap = 100;  // of the room that is left, for fields
 

@@ -45,7 +45,7 @@ constexpr std::array kNames = {Name{0, QT_TR_NOOP("Sort by frequency")},
 struct Plain {
   Column column;
   const char* caption;
-  bool atEnd;
+  bool centred;
 };
 constexpr std::array kPlain = {Plain{Column::Comment, QT_TR_NOOP("Comment"), false},
                                Plain{Column::Day, QT_TR_NOOP("Day"), true}};
@@ -94,7 +94,7 @@ class SpotHead : public QAbstractButton {
     if (!IsActive()) return text();
     const QString arrow = IsReversed() ? QStringLiteral("↑") : QStringLiteral("↓");
     const QString airy = text() + QLatin1Char(' ') + arrow;
-    const bool fits = WidthOf(airy) <= heads_.painter_.ColumnAt(model_.width);
+    const bool fits = WidthOf(airy) <= heads_.painter_.WidthOf(model_.width);
     return fits ? airy : text() + arrow;
   }
   QFont Font() const {
@@ -233,10 +233,11 @@ void SpotHeads::paintEvent(QPaintEvent*) {
     const spots::RowLayout& layout = display_.Layout();
     if (!layout.Shows(plain.column)) continue;
     const QString caption = tr(plain.caption);
-    const int start = layout.Start(plain.column) - 1;
-    const int end = painter_.ColumnAt(start + layout.Width(plain.column));
-    const int left = plain.atEnd ? end - painter.fontMetrics().horizontalAdvance(caption)
-                                 : painter_.ColumnAt(start);
+    int left = painter_.ColumnAt(layout.Start(plain.column) - 1);
+    if (plain.centred)
+      left += (painter_.WidthOf(layout.Width(plain.column)) -
+               painter.fontMetrics().horizontalAdvance(caption)) /
+              2;
     painter.drawText(QRect(left - scrolled_, 0, width(), height() - 1),
                      Qt::AlignLeft | Qt::AlignVCenter, caption);
   }

@@ -18,6 +18,8 @@ class SpotPainter {
   int RowHeight() const { return rowHeight_; }
   // How many pixels the columns before it take, counted from 0.
   int ColumnAt(core::Position column) const;
+  // How many pixels that many columns take.
+  int WidthOf(core::Position columns) const { return ColumnAt(columns) - ColumnAt(0); }
   // The column at that many pixels, counted from 1; less before the first.
   int ColumnOf(int pixels) const;
 

@@ -135,7 +135,7 @@ TEST_F(SpotDialogsTest, TheSpotLogsNumbersCountWhileTheyAreTyped) {
   EXPECT_EQ(program->settings.SpotMemorySingle, 55);
 }
 
-TEST_F(SpotDialogsTest, StopIsThereWhileAReloadRuns) {
+TEST_F(SpotDialogsTest, StopHasNothingToDoWithoutAReload) {
   QDialog& dialog = Opened("Spot log", "Dx Spot Log File ");
   EXPECT_FALSE(Named<QPushButton>(dialog, "Stop the reload")->isEnabled());
   EXPECT_TRUE(Named<QPushButton>(dialog, "Reload the spot log")->isEnabled());
