@@ -4,13 +4,10 @@
 
 #include "core/text.h"
 #include "platform/sim/world.h"
-#include "spots/bands.h"
-#include "spots/classic_row.h"
+#include "program/program.h"
 #include "spots/log_files.h"
 #include "spots/log_line.h"
 #include "spots/spot_log.h"
-#include "spots/spot_reload.h"
-#include "spots/spot_table.h"
 
 namespace {
 
@@ -59,35 +56,23 @@ void FillLog(platform::sim::SimFiles& files, int today) {
   }
 }
 
-// The log of a week into rows and stores; the duplicate test finds none.
+// The log of a week through the duplicate test into rows and stores.
 void LogReload(benchmark::State& state) {
   platform::sim::World world;
-  core::Calendar calendar(world.clock);
-  core::Settings settings;
-  settings.ReloadHours = kDays * 24;
-  settings.SpotMemoryAll = settings.SpotMemorySingle = 2000;
-  FillLog(world.files, calendar.Date2Julian());
-  spots::SpotTable table(calendar, settings);
-  std::string row;
-  spots::SpotReload reload(world.scheduler, world.files, calendar, settings, kFolder,
-                           {.closeLog = [] {},
-                            .holdIntake = [] { return platform::Registration(); },
-                            .showRaw = [](std::string_view) {},
-                            .isDupe = [](const spots::Spot&) { return false; },
-                            .record = [](const spots::Spot&) {},
-                            .rejectCounty = [](const spots::Spot&) { return false; },
-                            .show =
-                                [&](spots::Spot& spot) {
-                                  spots::ClassicRow(spot, row);
-                                  table.Add(row, spots::BandOf(spot.Freq));
-                                },
-                            .redraw = [] {}},
-                           [](std::string_view, std::string_view) {});
+  program::Program program(world.platform(), kFolder, {.quit = [] {}, .seed = 1});
+  program.Start();
+  world.Run(std::chrono::seconds{1});
+  program.settings.ReloadHours = kDays * 24;
+  program.settings.SpotMemoryAll = program.settings.SpotMemorySingle = 2000;
+  FillLog(world.files, program.calendar.Date2Julian());
+  spots::SpotReload& reload = program.spotParts.reload;
   for (auto _ : state) {
     reload.ReloadSpots();
     world.RunUntil([&] { return !reload.Reloading.Get(); });
   }
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(reload.SpotsRead.Get()));
+  state.counters["spots_shown"] = static_cast<double>(program.spotParts.pipeline.SpotsShown) /
+                                  static_cast<double>(state.iterations());
 }
 BENCHMARK(LogReload)->Unit(benchmark::kMillisecond);
 

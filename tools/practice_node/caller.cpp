@@ -123,12 +123,12 @@ SpotStyle Caller::Style() const {
           .lowerCaseSpotter = dialect.lowerCase,
           .zone = dialect.zoneInSpots,
           .listCall = dialect.listCall,
-          .grid = dialect.slots && first,
-          .state = dialect.slots && second,
-          .itu = dialect.slots && profile_->Has(Toggle::ItuZone),
-          .cq = dialect.slots && profile_->Has(Toggle::CqZone),
-          .country = !dialect.slots && first,
-          .qth = !dialect.slots && second};
+          .grid = dialect.timeSlots && first,
+          .state = dialect.timeSlots && second,
+          .itu = dialect.timeSlots && profile_->Has(Toggle::ItuZone),
+          .cq = dialect.timeSlots && profile_->Has(Toggle::CqZone),
+          .country = !dialect.timeSlots && first,
+          .qth = !dialect.timeSlots && second};
 }
 
 bool Caller::Wants(const Spot& spot) const {

@@ -113,7 +113,7 @@ constexpr std::array<Dialect, kKinds> kDialects = {{
         .replaced = "%C has logged in once more, this instance is disconnected",
         .stationLabel = "User         : ",
         .fields = kSpiderFields,
-        .slots = true,
+        .timeSlots = true,
         .dashInRanges = false,
         .bells = true,
     },

@@ -51,7 +51,7 @@ struct Dialect {
   std::array<FieldWords, kFields> fields;
   bool lowerCase = false;      // writes calls so
   Shape shape = Shape::Plain;  // of spots
-  bool slots = false;          // beside the time of a spot there is room for a word each
+  bool timeSlots = false;      // beside the time of a spot there is room for a word each
   bool dashInRanges = true;    // takes "3500-4000", not "3500/4000" alone
   bool zoneInSpots = false;    // spot lines end in the zone of the DX station
   bool bells = false;          // rings two at the end of a spot, for those who want it

@@ -201,15 +201,14 @@ struct Zv11Form {
   std::string_view last;
 };
 
-constexpr std::array<Zv11Form, 8> kZv11Forms = {{
+constexpr std::array<Zv11Form, 7> kZv11Forms = {{
     {88, 0, true, ""},
     {92, 0, true, "1"},
     {94, 20, true, ""},
     {96, 20, false, ""},
     {97, 19, false, ""},
     {98, 18, false, ""},
-    {99, 15, false, ""},
-    {100, 14, false, ""},
+    {100, 15, false, ""},
 }};
 
 std::string Zv11Line(const Spot& spot, const SpotStyle& style) {

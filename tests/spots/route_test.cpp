@@ -1,0 +1,218 @@
+#include <gmock/gmock.h>
+
+#include "cty_text.h"
+#include "spot_desk.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using spots::kAlarmBand;
+using spots::RejectLists;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+constexpr auto kLog = "/home/2026/dx-20-Nov-2026.txt";
+constexpr int k20 = 6;
+
+// A spot meets every step on its way, with their files and their switches.
+class Route : public SpotDesk {
+ protected:
+  Route() {
+    settings.LogDxSpots = true;
+    node.kind = session::NodeKind::Spider;
+    table.EnterTab();
+    parts.lines.list.ShDxDone = true;
+  }
+
+  void Apply(const std::vector<spots::DisplayChoice::Check>& checks, bool expanded) {
+    parts.display.optFormat.UserSelects(expanded ? spots::DisplayChoice::kExpanded
+                                                 : spots::DisplayChoice::kClassic);
+    for (const auto check : checks) parts.display.chkAr17[check].UserSets(true);
+    parts.display.cmdApply.Press();
+  }
+  std::string Log() {
+    parts.log.Close();
+    return world.files.content[kLog];
+  }
+  void Fix(const std::string& entry) {
+    world.files.content["/home/fixspots.dat"] = entry;
+    parts.ReadLists();
+  }
+};
+
+TEST_F(Route, AcceptedSpotGoesToTheTableTheLogAndTheLoggers) {
+  receivers.takesLines = true;
+  settings.SendToLog = 1 << 1;
+  Receive(Line{});
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+  EXPECT_THAT(Log(), HasSubstr("2116,14025.0,3Y0J,DL1ABC,"));
+  EXPECT_THAT(receivers.fed, ElementsAre(HasSubstr("14025.0  3Y0J")));
+  EXPECT_THAT(receivers.sounds, ElementsAre());  // another band is on show: all of them
+}
+
+TEST_F(Route, SpotOnTheSelectedBandIsHeard) {
+  table.rail.optBand.UserSelects(k20);
+  Receive(Line{});
+  EXPECT_THAT(receivers.sounds, ElementsAre("DxAlert"));
+}
+
+TEST_F(Route, NothingIsHeardUntilTheStartListIsDone) {
+  parts.lines.list.ShDxDone = false;
+  table.rail.optBand.UserSelects(k20);
+  Receive(Line{});
+  EXPECT_THAT(receivers.sounds, IsEmpty());
+}
+
+TEST_F(Route, CorrectionComesBeforeTheRejection) {
+  Apply({spots::DisplayChoice::kDxCty}, false);
+  Fix("\"3Y0J\",\"3Y/B\",\"\",\"\",\"\",\"\",\"00\"\r\n");
+  settings.RejSpots = settings.RejectInvalidCountry = true;
+  parts.rejectLists.NoteCountryWord();
+  Receive(Line{});
+  Receive({.call = "K1ABC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+}
+
+TEST_F(Route, RejectedSpotIsNeitherLoggedNorCountedNorFed) {
+  receivers.takesLines = true;
+  settings.SendToLog = 1 << 1;
+  settings.RejSpots = true;
+  parts.rejectLists.Add(RejectLists::kDx, "3Y*");
+  Receive(Line{});
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  EXPECT_THAT(Log(), Not(HasSubstr("3Y0J")));
+  EXPECT_THAT(receivers.fed, IsEmpty());
+  EXPECT_EQ(table.rail.lblTotal[k20].Caption.Get(), "0");
+}
+
+TEST_F(Route, DuplicateIsDroppedAndNotLogged) {
+  Receive(Line{});
+  Receive(Line{});
+  EXPECT_THAT(CallsInTable(), SizeIs(1));
+  const std::string log = Log();
+  EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 1);
+}
+
+TEST_F(Route, DuplicateIsFedToLoggersWhileAListThatWasAskedForRuns) {
+  receivers.takesLines = true;
+  settings.SendToLog = 1 << 1;
+  Receive(Line{});
+  parts.lines.list.AskedForSpots();
+  Receive(Line{});
+  EXPECT_THAT(CallsInTable(), SizeIs(1));
+  ASSERT_THAT(receivers.fed, SizeIs(2));
+  EXPECT_THAT(receivers.fed[1], HasSubstr("<DL1ABC>"));
+}
+
+TEST_F(Route, ListReachesLoggersAsLiveLinesIfTheyWantThemSo) {
+  receivers.takesLines = true;
+  settings.SendToLog = 1 << 1 | 1 << 12;
+  parts.lines.list.AskedForSpots();
+  Receive(Line{});
+  EXPECT_THAT(receivers.fed, ElementsAre(HasSubstr("DX de DL1ABC:")));
+}
+
+TEST_F(Route, MembersOnlyDropsTheOthersBeforeTheyAreRemembered) {
+  std::string list = "LOTW\r\n";
+  for (int i = 0; i < 1100; ++i) list += "3Y0J          \r\n";
+  world.files.content["/home/lotw.txt"] = list;
+  settings.ShLoTW = settings.RejectNotLoTWeQSL = true;
+  parts.TakeSettings();
+  parts.ReadLists();
+  Receive(Line{});
+  Receive({.call = "K1ABC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+  EXPECT_THAT(LastRow(), HasSubstr(" +3Y0J"));
+  EXPECT_THAT(Log(), Not(HasSubstr("K1ABC")));
+}
+
+TEST_F(Route, AlarmIsKeptAmongTheAlarmsToo) {
+  receivers.alarms = true;
+  Receive(Line{});
+  EXPECT_THAT(CallsInStore(kAlarmBand, 0), Contains("3Y0J"));
+  EXPECT_THAT(CallsInStore(k20, 0), Contains("3Y0J"));
+  EXPECT_EQ(table.rail.lblTotal[0].Caption.Get(), "1");
+}
+
+TEST_F(Route, BottomOfABandIsAnnouncedUnlessItIsToStayASpot) {
+  Receive({.kHz = "14000.0"});
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  EXPECT_THAT(receivers.announced, ElementsAre(HasSubstr("BoB Dx< DL1ABC:")));
+  settings.BobDx = true;
+  Receive({.kHz = "14000.0", .call = "K1ABC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("K1ABC"));
+}
+
+TEST_F(Route, SkimmerOnTheBottomOfABandStaysASpot) {
+  Receive({.spotter = "DL1ABC-#", .kHz = "14000.0"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+  EXPECT_THAT(receivers.announced, IsEmpty());
+}
+
+TEST_F(Route, BetweenTheBandsASpotIsLoggedAndReachesNobodyElse) {
+  receivers.takesLines = receivers.alarms = true;
+  settings.SendToLog = 1 << 1;
+  Receive({.kHz = "472.5"});
+  Receive({.kHz = "17999.9", .call = "K1ABC"});
+  EXPECT_THAT(Log(), HasSubstr("472.5,3Y0J"));
+  EXPECT_THAT(Log(), HasSubstr("17999.9,K1ABC"));
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  EXPECT_THAT(CallsInStore(kAlarmBand, 0), IsEmpty());
+  EXPECT_THAT(receivers.fed, IsEmpty());
+}
+
+TEST_F(Route, ExpandedRowHasHeadingAndCountry) {
+  settings.MyLocation = "42 17 N 83 44 W";
+  settings.MyCall = "K1TST";
+  world.files.content["/home/cty.dat"] = CtyText({Country{}.Line()});
+  parts.reference.Read();
+  Apply({spots::DisplayChoice::kBearing, spots::DisplayChoice::kDistance,
+         spots::DisplayChoice::kCountryName, spots::DisplayChoice::kComments},
+        true);
+  Fix("\"GD4ABC\",\"GD\",\"\",\"\",\"\",\"\",\"00\"\r\n");
+  Apply({spots::DisplayChoice::kDxCty}, true);
+  Receive({.call = "GD4ABC"});
+  EXPECT_THAT(LastRow(), HasSubstr("ISLE OF MAN: CW up 2"));
+  EXPECT_THAT(LastRow(), testing::ContainsRegex(" 4[0-9] "));
+}
+
+TEST_F(Route, PercentTwentyTwoOfANodeIsAQuoteInTheTable) {
+  Receive({.comment = "%22up%22 2 %2C"});
+  EXPECT_THAT(LastRow(), HasSubstr("\"up\" 2 ,"));
+}
+
+TEST_F(Route, LogComesBackAfterARestart) {
+  Receive({.comment = "a, \"b\" ^"});
+  Receive({.spotter = "DL1ABC-#", .call = "K1ABC", .comment = "CW 12 dB"});
+  parts.Close();
+  spots::SpotParts again(platform, calendar, settings, errorLog, "/home", Needs());
+  settings.LoadLogFileOnStartup = true;
+  again.BeginLog();
+  world.Run(1s);
+  EXPECT_THAT(CallsOf(again.table.RtbDx.Rows()), ElementsAre("3Y0J", "K1ABC"));
+  EXPECT_THAT(std::string(again.table.RtbDx.Rows().front().Text()), HasSubstr("a, \"b\" ^"));
+  EXPECT_EQ(again.table.RtbDx.Rows().back().RowKind(), spots::TableRow::Kind::Skimmer);
+  EXPECT_THAT(receivers.sounds, IsEmpty());
+}
+
+TEST_F(Route, SortedViewFollowsTenTimesASecond) {
+  table.SortBy(2);
+  Receive({.call = "ZZ1ZZ"});
+  Receive({.call = "AA1AA"});
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  parts.Tick();
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA1AA", "ZZ1ZZ"));
+}
+
+TEST_F(Route, EndOfTheSessionForgetsWhatTheNodeSends) {
+  parts.lines.ZV11CarrotCounter("ZV11^1");
+  EXPECT_FALSE(Receive(Line{}));
+  parts.Disconnected();
+  EXPECT_TRUE(Receive(Line{}));
+}
+
+}  // namespace
