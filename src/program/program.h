@@ -70,6 +70,8 @@ class Program {
   // Writes the configuration 2 seconds after the last call.
   void DelayedWriteCfg();
 
+  platform::Files& files() const { return platform_.files; }
+
   bool Loading = true;
   bool Primary = true;  // no other running copy has this folder
   core::Property<std::string> title;

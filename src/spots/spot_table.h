@@ -58,6 +58,7 @@ class SpotTable {
   // addresses.
   enum class Press { Left, Middle, Right };
   void SortBy(int button, Press press = Press::Left);
+  bool Reversed() const { return reversed_; }  // they are shown from their end
   // Takes what waits into the sorted view. To be called 10 times a second.
   void RunDxQue();
   // Brings the summary of the last hour up to the present minute.

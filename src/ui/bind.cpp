@@ -1,5 +1,6 @@
 #include "ui/bind.h"
 
+#include <QSignalBlocker>
 #include <QStyle>
 
 #include "platform/qt/qt_text.h"
@@ -64,6 +65,21 @@ void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
   });
 }
 
+// The widget's choice is the model's: what it would choose by itself tells nobody.
+void Select(QListWidget& widget, int place) {
+  const QSignalBlocker silent(widget);
+  widget.setCurrentRow(place);
+}
+
+void Follow(QListWidget& widget, const core::ListBox& model, const core::ListBox::Change& change) {
+  const QSignalBlocker silent(widget);
+  const auto at = static_cast<int>(change.at);
+  for (std::size_t i = 0; i < change.removed; ++i) delete widget.takeItem(at);
+  for (std::size_t i = change.added; i > 0; --i)
+    widget.insertItem(at, OneLine(model.Items()[change.at + i - 1], kLongestLabel));
+  widget.setCurrentRow(model.Selected.Get());
+}
+
 }  // namespace
 
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
@@ -111,11 +127,37 @@ void BindChoice(QComboBox* widget, core::Choice& model, Frames& frames) {
                    [&model](int option) { model.UserSelects(option); });
 }
 
+void BindOptions(QButtonGroup* widgets, core::Choice& model, Frames& frames) {
+  BindProperty<int>(widgets, model.Selected, frames, [widgets](int selected) {
+    if (QAbstractButton* button = widgets->button(selected)) button->setChecked(true);
+  });
+  QObject::connect(widgets, &QButtonGroup::idClicked, widgets,
+                   [&model](int option) { model.UserSelects(option); });
+}
+
+void BindList(QListWidget* widget, core::ListBox& model, Frames& frames) {
+  BindCommon(widget, model, frames);
+  // Not with the next frame: the user's next act goes to the items that the rules have left.
+  auto* watch = new Watch(widget);
+  watch->observing = model.Observe(
+      [widget, &model](const core::ListBox::Change& change) { Follow(*widget, model, change); });
+  auto* selection = new Watch(widget);
+  selection->observing = model.Selected.Observe([widget](int place) { Select(*widget, place); });
+  QObject::connect(widget, &QListWidget::currentRowChanged, widget, [&model](int place) {
+    if (place != model.Selected.Get()) model.UserSelects(place);
+  });
+}
+
 void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel, Frames& frames) {
   BindProperty<bool>(widget, open, frames, [widget](bool on) { widget->setVisible(on); });
   QObject::connect(widget, &QDialog::rejected, widget, [&open, &cancel] {
     if (open.Get()) cancel.Press();
   });
+}
+
+void BindDialog(QDialog* widget, core::Property<bool>& open, Frames& frames) {
+  BindProperty<bool>(widget, open, frames, [widget](bool on) { widget->setVisible(on); });
+  QObject::connect(widget, &QDialog::rejected, widget, [&open] { open.Set(false); });
 }
 
 void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames) {

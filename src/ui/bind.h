@@ -1,14 +1,17 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <functional>
 
 #include "core/controls.h"
+#include "core/list_box.h"
 #include "ui/frames.h"
 
 // One function for each kind of widget: it shows a control model and hands the user's acts to it.
@@ -23,9 +26,15 @@ void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames);
 // The same for a box whose words are its own, where the model's caption says something else.
 void BindTick(QCheckBox* widget, core::Check& model, Frames& frames);
 void BindChoice(QComboBox* widget, core::Choice& model, Frames& frames);
+// The same for buttons of which one is chosen. Their ids are the places of the options.
+void BindOptions(QButtonGroup* widgets, core::Choice& model, Frames& frames);
+void BindList(QListWidget* widget, core::ListBox& model, Frames& frames);
 void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames);
 // A dialog that is on show while the model says so. The user's own closing presses `cancel`.
 void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel, Frames& frames);
+
+// The same for one that holds nothing back: closing it is all there is to do.
+void BindDialog(QDialog* widget, core::Property<bool>& open, Frames& frames);
 
 // Runs `show` with the next frame after the property has changed, as long as the owner lives.
 template <class T>

@@ -2,30 +2,47 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/get_spots_panel.h"
+#include "ui/member_panel.h"
 
 namespace ui {
 namespace {
 
 constexpr int kFindWidth = 200;
+constexpr int kLeastFindWidth = 110;
+constexpr int kQueryWidth = 250;
+constexpr int kLeastQueryWidth = 180;
+constexpr int kBetweenGroups = 8;
+constexpr int kBeforeTheGap = 100;  // of the room that is left, for fields
+
+QPushButton* MakeButton(const QString& caption, const QString& name, QWidget* parent) {
+  auto* button = new QPushButton(caption, parent);
+  button->setAccessibleName(name);
+  return button;
+}
 
 }  // namespace
 
-DxPage::DxPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent)
+DxPage::DxPage(Models models, Acts acts, Frames& frames, LiveTheme& theme, QWidget* parent)
     : QWidget(parent) {
-  spots::SpotTable& table = program.spotParts.table;
-  spots_ = new SpotView({.pane = table.RtbDx,
-                         .empty = program.dxTab.lblEmpty,
-                         .size = program.textSizes.Size[program::TextSizes::Dx],
-                         .settings = program.settings},
+  spots_ = new SpotView({.table = models.table,
+                         .display = models.display,
+                         .empty = models.empty,
+                         .size = models.size,
+                         .settings = models.settings,
+                         .click = acts.click,
+                         .clickChoice = acts.clickChoice},
                         frames, theme, this);
-  auto* rail = new BandRailView(table.rail, program.settings, frames, theme, this);
+  auto* rail = new BandRailView(models.table.rail, models.settings, frames, theme, this);
   auto* column = new QVBoxLayout;
   column->setSpacing(0);
-  column->addWidget(MakeStrip(table, frames));
+  column->addWidget(MakeStrip(models, acts, frames));
   column->addWidget(spots_, 1);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
@@ -35,30 +52,93 @@ DxPage::DxPage(program::Program& program, Frames& frames, LiveTheme& theme, QWid
   setFocusProxy(spots_);
 }
 
-QWidget* DxPage::MakeStrip(spots::SpotTable& table, Frames& frames) {
-  auto* strip = new QWidget(this);
-  auto* row = new QHBoxLayout(strip);
-  row->setContentsMargins(12, 6, 12, 6);
-  row->setSpacing(16);
+FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frames) {
+  auto* strip = new FoldRow(this);
+  AddOrder(strip, tr("Time order"), spots::kTimeOrder, models.table, frames);
+  AddOrder(strip, tr("Last hour"), spots::kLastHour, models.table, frames);
+  strip->Controls()->addSpacing(kBetweenGroups);
+  AddSources(strip, models.table, frames);
+  strip->Controls()->addSpacing(kBetweenGroups);
+  AddMembership(strip, models.membership, frames);
+  strip->Controls()->addStretch(1);
+  AddFind(strip);
+  auto* get = MakeButton(tr("Get spots"), tr("Get spots…"), strip);
+  new GetSpotsPanel(models.requests, frames, get);
+  strip->Controls()->addWidget(get);
+  const auto add = [&](const QString& caption, const QString& name, std::function<void()> act) {
+    QPushButton* button = MakeButton(caption, name, strip);
+    connect(button, &QPushButton::clicked, this, [act = std::move(act)] {
+      if (act) act();
+    });
+    strip->AddFolding(button);
+  };
+  add(tr("Columns"), tr("Columns of the spots"), acts.columns);
+  add(tr("Spot log"), tr("Spot log"), acts.spotLog);
+  add(tr("Rejects"), tr("Spots to reject"), acts.rejects);
+  add(tr("Corrections"), tr("Corrections of spots"), acts.corrections);
+  return strip;
+}
+
+void DxPage::AddOrder(FoldRow* strip, const QString& caption, int button, spots::SpotTable& table,
+                      Frames& frames) {
+  QPushButton* widget = MakeButton(caption, caption, strip);
+  widget->setCheckable(true);
+  const auto show = [widget, button, &table](const int&) {
+    widget->setChecked(table.optSortBy.Get() == button);
+  };
+  BindProperty<int>(widget, table.optSortBy, frames, show);
+  // However it was turned: by a click, or by a screen reader.
+  connect(widget, &QPushButton::toggled, this, [button, show, &table](bool on) {
+    if (on == (table.optSortBy.Get() == button)) return;
+    table.SortBy(button);
+    show(button);
+  });
+  strip->Controls()->addWidget(widget);
+}
+
+void DxPage::AddSources(FoldRow* strip, spots::SpotTable& table, Frames& frames) {
   const std::array names = {tr("Show spots that are no Skimmer's"), tr("Show Skimmer spots")};
   for (std::size_t i = 0; i < names.size(); ++i) {
     auto* check = new QCheckBox(strip);
     check->setAccessibleName(names[i]);
     BindCheck(check, table.chkShSkm[i], frames);
-    row->addWidget(check);
+    strip->Controls()->addWidget(check);
   }
-  row->addStretch();
+}
+
+void DxPage::AddMembership(FoldRow* strip, spots::Membership& model, Frames& frames) {
+  auto* lists = MakeButton(tr("LoTW/eQSL"), tr("LoTW and eQSL users…"), strip);
+  new MemberPanel(model, frames, lists);
+  strip->Controls()->addWidget(lists);
+  auto* query = new QLineEdit(strip);
+  query->setMinimumWidth(kLeastQueryWidth);
+  query->setMaximumWidth(kQueryWidth);
+  query->setAccessibleName(tr("Call to look for among LoTW and eQSL users"));
+  BindTextBox(query, model.txtLotw, frames);
+  // Holds the answer too.
+  BindProperty<std::string>(query, model.txtLotw.Hint, frames, [query](const std::string& hint) {
+    query->setPlaceholderText(platform::qt::TextOf(hint));
+    query->setAccessibleDescription(platform::qt::TextOf(hint));
+  });
+  auto* answer = new QLabel(strip);
+  answer->setAccessibleName(tr("Answer"));
+  BindLabel(answer, model.lblLotw, frames);
+  strip->Controls()->addWidget(query, kBeforeTheGap);
+  strip->Controls()->addWidget(answer);
+}
+
+void DxPage::AddFind(FoldRow* strip) {
   const auto tell = [this](bool found) {
     find_->setProperty("bad", !found);
     find_->style()->polish(find_);
     find_->setAccessibleDescription(found ? QString() : tr("not found"));
   };
   find_ = new FindField(*spots_, tell, strip);
-  find_->setFixedWidth(kFindWidth);
+  find_->setMinimumWidth(kLeastFindWidth);
+  find_->setMaximumWidth(kFindWidth);
   find_->setPlaceholderText(tr("Find in table  (Ctrl+F)"));
   find_->setAccessibleName(tr("Find in table"));
-  row->addWidget(find_);
-  return strip;
+  strip->Controls()->addWidget(find_, kBeforeTheGap);
 }
 
 void DxPage::OpenFind() {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
-#include "program/program.h"
+#include "spots/membership.h"
+#include "spots/spot_requests.h"
 #include "ui/band_rail_view.h"
 #include "ui/find_field.h"
+#include "ui/fold_row.h"
 #include "ui/frames.h"
 #include "ui/spot_view.h"
 #include "ui/theme.h"
@@ -15,13 +18,38 @@ namespace ui {
 // is that of the table.
 class DxPage : public QWidget {
  public:
-  DxPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent);
+  struct Models {
+    spots::SpotTable& table;
+    spots::DisplayChoice& display;
+    spots::Membership& membership;
+    spots::SpotRequests& requests;
+    core::Label& empty;
+    core::Property<int>& size;  // of the table's text, in pixels
+    const core::Settings& settings;
+  };
+  // What the user may ask for here and others do.
+  struct Acts {
+    std::function<void(const spots::Click&)> click;
+    std::function<spots::ClickKeys()> clickChoice;  // as SpotView takes it
+    std::function<void()> columns;                  // these open dialogs
+    std::function<void()> spotLog;
+    std::function<void()> rejects;
+    std::function<void()> corrections;
+  };
+
+  // All that they refer to outlives the page.
+  DxPage(Models models, Acts acts, Frames& frames, LiveTheme& theme, QWidget* parent);
 
   // Puts the user where he can type what he looks for.
   void OpenFind();
 
  private:
-  QWidget* MakeStrip(spots::SpotTable& table, Frames& frames);
+  FoldRow* MakeStrip(const Models& models, const Acts& acts, Frames& frames);
+  void AddOrder(FoldRow* strip, const QString& caption, int button, spots::SpotTable& table,
+                Frames& frames);
+  void AddSources(FoldRow* strip, spots::SpotTable& table, Frames& frames);
+  void AddMembership(FoldRow* strip, spots::Membership& model, Frames& frames);
+  void AddFind(FoldRow* strip);
 
   SpotView* spots_;
   FindField* find_;

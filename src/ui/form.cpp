@@ -1,7 +1,6 @@
 #include "ui/form.h"
 
 #include <QAccessible>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -11,6 +10,18 @@ namespace ui {
 namespace {
 
 QString SpokenName(QString label) { return label.remove(QLatin1Char('&')); }
+
+QHBoxLayout* MakeCloseButton(QDialog* dialog) {
+  auto* close = new QPushButton(QObject::tr("Close"), dialog);
+  close->setAccessibleName(close->text());
+  close->setAutoDefault(false);
+  QObject::connect(close, &QPushButton::clicked, dialog, &QDialog::reject);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(8);
+  row->addStretch();
+  row->addWidget(close);
+  return row;
+}
 
 }  // namespace
 
@@ -59,6 +70,18 @@ void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, 
     row->addWidget(button);
   }
   form->addRow(row);
+}
+
+QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog) {
+  QHBoxLayout* row = MakeCloseButton(dialog);
+  form->addRow(row);
+  return row;
+}
+
+QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog) {
+  QHBoxLayout* row = MakeCloseButton(dialog);
+  column->addLayout(row);
+  return row;
 }
 
 }  // namespace ui

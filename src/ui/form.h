@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDialog>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLineEdit>
 
 #include "core/controls.h"
@@ -18,6 +20,11 @@ void AddProblem(QFormLayout* form, core::Label& model, Frames& frames);
 
 // Adds the buttons in their order, at the right; Return presses the first.
 void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, Frames& frames);
+
+// Adds the foot of a dialog in which every act holds at once: a button that closes it, at the
+// right. Return does not press it.
+QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog);
+QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog);
 
 // The layout of a dialog, with the spacing of all.
 QFormLayout* MakeForm(QWidget* dialog);

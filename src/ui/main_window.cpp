@@ -12,10 +12,12 @@
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
 #include "ui/conditions_bar.h"
+#include "ui/fix_spot_dialog.h"
 #include "ui/login_view.h"
 #include "ui/message_dialog.h"
 #include "ui/offset_dialog.h"
 #include "ui/settings_page.h"
+#include "ui/spots_dialog.h"
 #include "ui/status_line.h"
 #include "ui/touch_watch.h"
 #include "ui/user_info_dialog.h"
@@ -51,16 +53,19 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
       tabs_(new ViewTabs(program.views, frames, this)),
       pages_(new QStackedWidget(this)),
       splitter_(new QSplitter(Qt::Vertical, this)),
-      dx_(new DxPage(program, frames, theme, this)),
+      dx_(MakeDxPage(frames, theme)),
       loginMessage_(new LoginView(program.session.loginText.rtbLoginMsg, program.session.loginLinks,
                                   frames, this)),
       raw_(new TextPageView(program.session.outgoing.Text2, frames, this)),
       findInLogin_(new FindBar(loginMessage_, *loginMessage_, tr("login message"))),
       findInRaw_(new FindBar(raw_, *raw_, tr("raw view"))),
-      commandRow_(new CommandRow(program.session, frames, this)) {
+      commandRow_(new CommandRow(program.session, frames, this)),
+      columns_(new DisplayDialog(program.spotParts.display, frames, this)),
+      rejects_(new RejectDialog(program.spotParts.rejectForm, program.spotParts.rejectLists, frames,
+                                this)) {
   AddPages(frames);
   Lay(frames, theme);
-  AddDialogs(frames);
+  AddDialogs(frames, theme);
   AddKeys();
   new TouchWatch(this, frames);
   BindProperty<std::string>(this, program.title, frames, [this](const std::string& title) {
@@ -134,10 +139,36 @@ void MainWindow::AddPages(Frames& frames) {
   size(loginMessage_, program::TextSizes::LoginMsg);
 }
 
-void MainWindow::AddDialogs(Frames& frames) {
+DxPage* MainWindow::MakeDxPage(Frames& frames, LiveTheme& theme) {
+  spots::SpotParts& parts = program_.spotParts;
+  return new DxPage({.table = parts.table,
+                     .display = parts.display,
+                     .membership = parts.membership,
+                     .requests = parts.requests,
+                     .empty = program_.dxTab.lblEmpty,
+                     .size = program_.textSizes.Size[program::TextSizes::Dx],
+                     .settings = program_.settings},
+                    {.click = [this](const spots::Click& click) { Do(click); },
+                     .clickChoice = {},
+                     .columns = [this] { columns_->Show(); },
+                     .spotLog = [&parts] { parts.spotsForm.Show(); },
+                     .rejects = [this] { rejects_->Show(); },
+                     .corrections = [&parts] { parts.fixForm.Show(); }},
+                    frames, theme, this);
+}
+
+void MainWindow::Do(const spots::Click& click) {
+  if (click.act == spots::Click::Act::Node) program_.session.outgoing.Send(click.text);
+}
+
+void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
+  spots::SpotParts& parts = program_.spotParts;
   new UserInfoDialog(program_.userInfo, frames, this);
   new OffsetDialog(program_.offsetForm, frames, this);
   new MessageDialog(program_.messageForm, frames, this);
+  new SpotsDialog(parts.spotsForm, frames, this);
+  new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},
+                    frames, theme, this);
 }
 
 void MainWindow::Lay(Frames& frames, LiveTheme& theme) {

@@ -6,12 +6,14 @@
 
 #include "program/program.h"
 #include "ui/command_row.h"
+#include "ui/display_dialog.h"
 #include "ui/dx_page.h"
 #include "ui/find_bar.h"
 #include "ui/frames.h"
 #include "ui/key_list.h"
 #include "ui/keys.h"
 #include "ui/link_bar.h"
+#include "ui/reject_dialog.h"
 #include "ui/text_page_view.h"
 #include "ui/theme.h"
 #include "ui/view_tabs.h"
@@ -32,7 +34,9 @@ class MainWindow : public QMainWindow {
 
  private:
   void AddPages(Frames& frames);
-  void AddDialogs(Frames& frames);
+  DxPage* MakeDxPage(Frames& frames, LiveTheme& theme);
+  void AddDialogs(Frames& frames, LiveTheme& theme);
+  void Do(const spots::Click& click);
   void Lay(Frames& frames, LiveTheme& theme);
   void AddKeys();
   void Do(const Key& key);
@@ -55,6 +59,8 @@ class MainWindow : public QMainWindow {
   FindBar* findInLogin_;
   FindBar* findInRaw_;
   CommandRow* commandRow_;
+  DisplayDialog* columns_;
+  RejectDialog* rejects_;
   KeyList* keyList_ = nullptr;             // once it was asked for
   program::FormPlace placed_{.left = -1};  // as last applied or stored
   platform::Registration placing_;

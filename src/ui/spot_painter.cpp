@@ -1,11 +1,9 @@
 #include "ui/spot_painter.h"
 
 #include <QFontMetricsF>
-#include <QObject>
-#include <array>
+#include <algorithm>
 #include <cmath>
 
-#include "spots/row_parts.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
 #include "ui/spot_words.h"
@@ -17,20 +15,28 @@ constexpr int kRoom = 5;  // of a row, besides the height of its font
 constexpr int kBarWidth = 3;
 constexpr int kLeft = 8;  // of the first column
 constexpr int kRuleMargin = 14;
-constexpr core::Position kLongest = 200;
+constexpr core::Position kLongest = 300;
+constexpr QChar kEllipsis(0x2026);
 
-struct Head {
-  const char* text;
-  core::Position column;  // where it begins, or ends
-  bool atEnd;
-  bool sorts;
-};
+// The columns from a field to the next one of its row.
+int RoomOf(const spots::DrawnField& field, const spots::DrawnRow& row) {
+  int end = kLongest;
+  for (const spots::DrawnField& other : row)
+    if (other.place > field.place) end = std::min(end, other.place);
+  return end - field.place;
+}
 
-// Over the columns of the classic row.
-constexpr std::array kHeads = {
-    Head{QT_TR_NOOP("Spotter"), 6, false, false}, Head{QT_TR_NOOP("Freq"), 24, true, false},
-    Head{QT_TR_NOOP("DX"), 26, false, false}, Head{QT_TR_NOOP("Comment"), 39, false, false},
-    Head{QT_TR_NOOP("UTC ↓"), 75, true, true}};
+bool IsCut(const spots::DrawnField& field, std::string_view whole) {
+  return field.text.data() == whole.data() && field.text.size() < whole.size();
+}
+
+// A call that is longer than its column says so.
+QString TextOf(const spots::DrawnField& field, const spots::TableRow& row) {
+  QString text = OneLine(field.text, kLongest);
+  if (IsCut(field, row.DxCall()) || IsCut(field, row.Spotter()))
+    text.replace(text.size() - 1, 1, kEllipsis);
+  return text;
+}
 
 }  // namespace
 
@@ -46,6 +52,10 @@ int SpotPainter::ColumnAt(core::Position column) const {
   return kLeft + static_cast<int>(std::lround(static_cast<double>(column) * characterWidth_));
 }
 
+int SpotPainter::ColumnOf(int pixels) const {
+  return static_cast<int>(std::floor((pixels - kLeft) / characterWidth_)) + 1;
+}
+
 void SpotPainter::Draw(QPainter& painter, const Row& row, const SpotColours& colours) const {
   if (row.selected) painter.fillRect(0, row.top, row.width, rowHeight_, colours.selection);
   if (row.row.IsStars())
@@ -55,13 +65,25 @@ void SpotPainter::Draw(QPainter& painter, const Row& row, const SpotColours& col
 }
 
 void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) const {
-  painter.fillRect(0, row.top + 1, kBarWidth, rowHeight_ - 2, colours.OfBand(row.row.Band()));
-  for (const spots::DrawnField& field : spots::Drawn(row.row)) {
-    painter.setPen(colours.OfInk(field.ink, row.row.Band()));
-    painter.setFont(field.ink == spots::Ink::Call ? callFont_ : font_);
+  const int band = row.row.Band();
+  if (row.row.IsSpot())
+    painter.fillRect(0, row.top + 1, kBarWidth, rowHeight_ - 2, colours.OfBand(band));
+  const spots::DrawnRow drawn = spots::Drawn(row.row);
+  for (const spots::DrawnField& field : drawn) {
+    const QFont& font = field.ink == spots::Ink::Call ? callFont_ : font_;
+    painter.setPen(colours.OfInk(field.ink, band));
+    painter.setFont(font);
     painter.drawText(ColumnAt(field.place) - row.scrolled, row.top + baseline_,
-                     OneLine(field.text, kLongest));
+                     Fitting(TextOf(field, row.row), font, RoomOf(field, drawn)));
   }
+}
+
+// Characters of a foreign script may be wider than a column.
+QString SpotPainter::Fitting(const QString& text, const QFont& font, int room) const {
+  const auto isPlain = [](QChar character) { return character.unicode() < 0x80; };
+  if (text.size() <= room && std::all_of(text.begin(), text.end(), isPlain)) return text;
+  const auto pixels = static_cast<int>(std::ceil(room * characterWidth_));
+  return QFontMetrics(font).elidedText(text, Qt::ElideRight, pixels);
 }
 
 void SpotPainter::DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const {
@@ -75,20 +97,6 @@ void SpotPainter::DrawStars(QPainter& painter, const Row& row, const SpotColours
   const int middle = row.top + rowHeight_ / 2;
   painter.drawLine(kRuleMargin, middle, place.left(), middle);
   painter.drawLine(place.right(), middle, row.width - kRuleMargin, middle);
-}
-
-void SpotPainter::DrawHeads(QPainter& painter, int height, int scrolled,
-                            const SpotColours& colours) const {
-  for (const Head& head : kHeads) {
-    QFont font = InterfaceFont();
-    if (head.sorts) font.setWeight(QFont::DemiBold);
-    painter.setFont(font);
-    painter.setPen(head.sorts ? colours.text : colours.dim);
-    const QString text = QObject::tr(head.text);
-    const int width = painter.fontMetrics().horizontalAdvance(text);
-    const int left = ColumnAt(head.column) - (head.atEnd ? width : 0) - scrolled;
-    painter.drawText(QRect(left, 0, width + 1, height), Qt::AlignLeft | Qt::AlignVCenter, text);
-  }
 }
 
 }  // namespace ui

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "core/text.h"
+#include "spots/row_parts.h"
 #include "spots/table_row.h"
 #include "ui/spot_colours.h"
 
@@ -17,6 +18,10 @@ class SpotPainter {
   int RowHeight() const { return rowHeight_; }
   // How many pixels the columns before it take, counted from 0.
   int ColumnAt(core::Position column) const;
+  // How many pixels that many columns take.
+  int WidthOf(core::Position columns) const { return ColumnAt(columns) - ColumnAt(0); }
+  // The column at that many pixels, counted from 1; less before the first.
+  int ColumnOf(int pixels) const;
 
   struct Row {
     const spots::TableRow& row;
@@ -28,12 +33,10 @@ class SpotPainter {
   };
   void Draw(QPainter& painter, const Row& row, const SpotColours& colours) const;
 
-  // The heads of the columns; `height` pixels high.
-  void DrawHeads(QPainter& painter, int height, int scrolled, const SpotColours& colours) const;
-
  private:
   void DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) const;
   void DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const;
+  QString Fitting(const QString& text, const QFont& font, int room) const;
 
   QFont font_;
   QFont callFont_;

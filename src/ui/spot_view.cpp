@@ -3,10 +3,14 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 
+#include "platform/qt/qt_text.h"
+#include "spots/row_layout.h"
 #include "ui/bind.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
@@ -15,31 +19,14 @@
 namespace ui {
 namespace {
 
-constexpr int kHeadHeight = 27;
 constexpr int kFromEdge = 8;
 constexpr core::Position kLongestRow = 300;
+
+bool IsReturn(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 
 QString TextOf(const spots::TableRow& row) { return OneLine(row.Text(), kLongestRow); }
 
 }  // namespace
-
-// The heads of the columns, over the rows.
-class SpotView::Heads : public QWidget {
- public:
-  explicit Heads(SpotView& view) : QWidget(&view), view_(view) {}
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    const SpotColours colours = view_.Colours();
-    QPainter painter(this);
-    painter.fillRect(rect(), colours.ground);
-    view_.painter_.DrawHeads(painter, height(), view_.horizontalScrollBar()->value(), colours);
-    painter.fillRect(0, height() - 1, width(), 1, colours.line);
-  }
-
- private:
-  SpotView& view_;
-};
 
 SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* parent)
     : QAbstractScrollArea(parent),
@@ -47,18 +34,20 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
       theme_(theme),
       painter_(model.size.Get()),
       item_(frames.Add([this] { Refresh(); })),
-      rows_(model.pane,
+      rows_(model.table.RtbDx,
             [this] {
               if (isVisible()) item_->Changed();
             }),
-      heads_(new Heads(*this)),
+      heads_(new SpotHeads(
+          model.table, model.display, painter_, [this] { return Colours(); }, this)),
       below_(new QPushButton(this)) {
   MakeSpotViewsAccessible();  // before Qt asks who speaks for it
   setAccessibleName(tr("Spots"));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
-  setViewportMargins(0, kHeadHeight, 0, 0);
+  setViewportMargins(0, SpotHeads::kHeight, 0, 0);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  viewport()->setToolTip(platform::qt::TextOf(spots::kTableToolTip));
   below_->setObjectName(QStringLiteral("Below"));
   below_->setFocusPolicy(Qt::NoFocus);
   below_->hide();
@@ -77,21 +66,28 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
 void SpotView::Refresh() {
   // Under a finger that is down nothing moves.
   if (!isVisible() || pressed_) return;
-  const bool atEnd = AtEnd();
+  const KeptPlace place(rows_, FirstInSight(), RowsInSight() + 1, current_, anchor_);
+  const bool atNewest = NewestOnTop() ? verticalScrollBar()->value() == 0 : AtEnd();
   const SpotSnapshot::Batch batch = rows_.Take();
   if (batch.IsEmpty()) return;
+  if (batch.sameList) {
+    Renew(place, atNewest);
+  } else {
+    Follow(batch, atNewest || batch.allNew);
+  }
+}
+
+void SpotView::Follow(const SpotSnapshot::Batch& batch, bool toNewest) {
   if (current_ && !rows_.Holds(*current_)) current_.reset();
-  const int place = verticalScrollBar()->value();
-  const int stays = place - static_cast<int>(batch.removed) * painter_.RowHeight();
+  const int stays =
+      verticalScrollBar()->value() - static_cast<int>(batch.removed) * painter_.RowHeight();
   const Number firstAdded = rows_.End() - static_cast<Number>(batch.added);
   const std::size_t below = newBelow_ + SpotsFrom(firstAdded);
   if (batch.allNew) widest_ = 0;
   Measure(firstAdded);
   SetRanges();
-  if (batch.sameList) {
-    verticalScrollBar()->setValue(place);
-  } else if (batch.allNew || atEnd) {
-    GoToEnd();
+  if (toNewest) {
+    GoToNewest();
   } else {
     verticalScrollBar()->setValue(std::max(stays, 0));
     CountBelow(below);
@@ -99,10 +95,39 @@ void SpotView::Refresh() {
   viewport()->update();
 }
 
+// What the user looks at stays where it is. It is drawn at once, so that his next press finds it.
+void SpotView::Renew(const KeptPlace& place, bool toNewest) {
+  current_ = place.Current(rows_);
+  if (current_) anchor_ = place.Anchor(rows_).value_or(*current_);
+  Measure(rows_.First());
+  const int within = verticalScrollBar()->value() % painter_.RowHeight();
+  SetRanges();
+  CountBelow(0);
+  const auto left = place.FirstLeft(rows_);
+  if (toNewest)
+    verticalScrollBar()->setValue(0);
+  else if (left)
+    verticalScrollBar()->setValue((static_cast<int>(left->row - rows_.First()) - left->place) *
+                                      painter_.RowHeight() +
+                                  within);
+  viewport()->repaint();
+}
+
+// Where the reader is who waits for new rows: in time order at its end, in any other at the top.
+bool SpotView::NewestOnTop() const {
+  return model_.table.Reversed() || model_.table.optSortBy.Get() != spots::kTimeOrder;
+}
+
+void SpotView::GoToNewest() {
+  if (!NewestOnTop()) return GoToEnd();
+  verticalScrollBar()->setValue(0);
+  CountBelow(0);
+}
+
 std::size_t SpotView::SpotsFrom(Number first) const {
   std::size_t spots = 0;
   for (Number row = first; row < rows_.End(); ++row)
-    if (!rows_.Row(row).IsStars()) ++spots;
+    if (rows_.Row(row).IsSpot()) ++spots;
   return spots;
 }
 
@@ -117,9 +142,10 @@ void SpotView::ChangeSize(int pixels) {
   painter_ = SpotPainter(pixels);
   SetRanges();
   verticalScrollBar()->setValue(static_cast<int>(first - rows_.First()) * painter_.RowHeight());
-  if (atEnd) GoToEnd();
-  heads_->update();
+  if (atEnd && !NewestOnTop()) GoToEnd();
+  heads_->Renew();
   viewport()->update();
+  model_.table.SetPaneRows(RowsInSight());
 }
 
 void SpotView::SetRanges() {
@@ -229,15 +255,16 @@ void SpotView::showEvent(QShowEvent* event) {
 void SpotView::resizeEvent(QResizeEvent* event) {
   const bool atEnd = AtEnd();
   QAbstractScrollArea::resizeEvent(event);
-  heads_->setGeometry(0, 0, width(), kHeadHeight);
+  heads_->setGeometry(0, 0, width(), SpotHeads::kHeight);
   SetRanges();
-  if (atEnd) GoToEnd();
+  if (atEnd && !NewestOnTop()) GoToEnd();
   PlaceBelow();
+  model_.table.SetPaneRows(RowsInSight());
 }
 
 void SpotView::scrollContentsBy(int dx, int) {
   if (AtEnd()) CountBelow(0);
-  if (dx != 0) heads_->update();
+  if (dx != 0) heads_->Place(horizontalScrollBar()->value());
   viewport()->update();
 }
 
@@ -256,6 +283,7 @@ void SpotView::focusOutEvent(QFocusEvent* event) {
 
 void SpotView::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) return Copy();
+  if (IsReturn(event->key()) && current_) return PressCall(*current_, event->modifiers());
   const bool choosing = event->modifiers().testFlag(Qt::ShiftModifier);
   const Number last = rows_.End() - 1;
   const Number from = current_.value_or(FirstInSight());
@@ -316,20 +344,60 @@ void SpotView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const auto row = RowAt(event->position().toPoint());
   if (!row) return;
-  pressed_ = true;
-  Choose(*row, event->modifiers().testFlag(Qt::ShiftModifier));
+  const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
+  pressed_ = {.row = *row, .column = ColumnAt(event->position().toPoint()), .chooses = extends};
+  Choose(*row, extends);
 }
 
 void SpotView::mouseMoveEvent(QMouseEvent* event) {
   const auto row = RowAt(event->position().toPoint());
-  if (pressed_ && row) Choose(*row, true);
+  if (!pressed_ || !row || *row == current_) return;
+  pressed_->chooses = true;
+  Choose(*row, true);
 }
 
-void SpotView::mouseReleaseEvent(QMouseEvent*) { Release(); }
+void SpotView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !pressed_) return;
+  const bool clicks = !pressed_->chooses && RowAt(event->position().toPoint()) == pressed_->row;
+  if (clicks) Do(ClickAt(pressed_->row, pressed_->column, event->modifiers()));
+  Release();
+}
 
 void SpotView::Release() {
-  pressed_ = false;
+  pressed_.reset();
   item_->Changed();
+}
+
+int SpotView::ColumnAt(QPoint place) const {
+  return painter_.ColumnOf(place.x() + horizontalScrollBar()->value());
+}
+
+spots::Click SpotView::ClickAt(Number row, int column, Qt::KeyboardModifiers keys) const {
+  spots::ClickKeys click = model_.clickChoice ? model_.clickChoice() : spots::ClickKeys();
+  click.ctrl = keys.testFlag(Qt::ControlModifier);
+  click.alt = keys.testFlag(Qt::AltModifier);
+  return spots::ClickOn(rows_.Row(row), column, click);
+}
+
+void SpotView::PressCall(Number row, Qt::KeyboardModifiers keys) {
+  const spots::RowLayout layout = spots::ArPcScreenSetup(rows_.Row(row).Shape());
+  Do(ClickAt(row, layout.Start(spots::Column::DxCall), keys));
+}
+
+void SpotView::Do(const spots::Click& click) {
+  if (!click.call.empty()) QApplication::clipboard()->setText(OneLine(click.call, kLongestRow));
+  if (click.act != spots::Click::Act::None && model_.click) model_.click(click);
+}
+
+// Only where a click does something.
+bool SpotView::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
+  const QPoint place = static_cast<QHelpEvent*>(event)->pos();
+  const auto row = RowAt(place);
+  if (row && ClickAt(*row, ColumnAt(place), {}).act != spots::Click::Act::None)
+    return QAbstractScrollArea::viewportEvent(event);
+  QToolTip::hideText();
+  return true;
 }
 
 bool SpotView::Find(const QString& text, Way way) {

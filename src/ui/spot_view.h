@@ -2,19 +2,29 @@
 
 #include <QAbstractScrollArea>
 #include <QPushButton>
+#include <functional>
 #include <optional>
 
 #include "core/settings.h"
+#include "spots/clicks.h"
+#include "spots/display_choice.h"
+#include "spots/spot_table.h"
 #include "ui/frames.h"
+#include "ui/kept_place.h"
 #include "ui/searchable.h"
+#include "ui/spot_heads.h"
 #include "ui/spot_painter.h"
 #include "ui/spot_snapshot.h"
 #include "ui/theme.h"
 
 namespace ui {
 
-// The table of spots. It follows the end if the reader is there, and otherwise stays where he reads
-// and counts what came below. It costs what is in sight, however many rows there are.
+// The table of spots. It follows the newest rows if the reader is there, and otherwise stays where
+// he reads and counts what came below; in an order of its own the row that he reads stays where it
+// is. It costs what is in sight, however many rows there are.
+//
+// A click on a call does what the keys held say, and so does Return for the call of the current
+// row. It is done on the button's release, if the pointer is still on the row that it pressed.
 class SpotView : public QAbstractScrollArea, public Searchable {
   Q_OBJECT
 
@@ -22,16 +32,22 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   using Number = SpotSnapshot::Number;
 
   struct Model {
-    spots::DxPane& pane;
+    spots::SpotTable& table;
+    spots::DisplayChoice& display;
     core::Label& empty;         // what stands there while there are no rows
     core::Property<int>& size;  // of the text, in pixels
     const core::Settings& settings;
+    // What is to be done for a click; its call is in the clipboard by then.
+    std::function<void(const spots::Click&)> click;
+    // What the operator has chosen of clicks; the keys held come to it.
+    std::function<spots::ClickKeys()> clickChoice;
   };
 
-  // All three outlive the view.
+  // All that they refer to outlives the view.
   SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* parent);
 
   const SpotSnapshot& Rows() const { return rows_; }
+  QWidget* Heads() const { return heads_; }
   // The one that the keys start from; it is among those chosen. None at first.
   std::optional<Number> Current() const { return current_; }
   bool IsChosen(Number row) const;
@@ -41,11 +57,14 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   QRect PlaceOf(Number row) const;
   // The row at that place of the picture that the user looks at.
   std::optional<Number> RowAt(QPoint place) const;
+  // The user's act on the call of a row that is here.
+  void PressCall(Number row, Qt::KeyboardModifiers keys);
 
   bool Find(const QString& text, Way way) override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
@@ -57,9 +76,18 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  class Heads;
+  // Where the finger went down.
+  struct Pressed {
+    Number row;
+    int column;    // from 1
+    bool chooses;  // more rows: it is no click
+  };
 
   void Refresh();
+  void Follow(const SpotSnapshot::Batch& batch, bool toNewest);
+  void Renew(const KeptPlace& place, bool toNewest);
+  bool NewestOnTop() const;
+  void GoToNewest();
   std::size_t SpotsFrom(Number first) const;
   void PaintRows(QPainter& painter, const SpotColours& colours);
   void ChangeSize(int pixels);
@@ -72,6 +100,9 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   void Go(Number to, bool choosing);
   void Choose(Number row, bool extending);
   void BringInSight(Number row);
+  int ColumnAt(QPoint place) const;
+  spots::Click ClickAt(Number row, int column, Qt::KeyboardModifiers keys) const;
+  void Do(const spots::Click& click);
   void Release();
   void Copy() const;
   Number FirstInSight() const;
@@ -83,13 +114,13 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   SpotPainter painter_;
   std::shared_ptr<Frames::Item> item_;
   SpotSnapshot rows_;
-  Heads* heads_;
+  SpotHeads* heads_;
   QPushButton* below_;
   std::size_t newBelow_ = 0;
   std::size_t widest_ = 0;  // row there was since all were new, in characters
   std::optional<Number> current_;
   Number anchor_ = 0;  // where choosing began
-  bool pressed_ = false;
+  std::optional<Pressed> pressed_;
   // What the user looks at: which row stands at the top of the picture, and where it begins.
   Number paintedFirst_ = 0;
   int paintedTop_ = 0;

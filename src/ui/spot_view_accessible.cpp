@@ -12,7 +12,7 @@ namespace {
 using Number = SpotView::Number;
 
 // One row. It may outlive its row, and says so then.
-class AccessibleRow : public QAccessibleInterface {
+class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   AccessibleRow(SpotView& view, Number row) : view_(view), row_(row) {}
 
@@ -37,6 +37,17 @@ class AccessibleRow : public QAccessibleInterface {
   }
   void setText(QAccessible::Text, const QString&) override {}
 
+  // Pressing a row is pressing its call.
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type != QAccessible::ActionInterface) return nullptr;
+    return static_cast<QAccessibleActionInterface*>(this);
+  }
+  QStringList actionNames() const override { return {pressAction()}; }
+  void doAction(const QString& action) override {
+    if (isValid() && action == pressAction()) view_.PressCall(row_, Qt::NoModifier);
+  }
+  QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
   QRect rect() const override {
     const QRect place = view_.PlaceOf(row_);
     return {view_.viewport()->mapToGlobal(place.topLeft()), place.size()};
@@ -59,6 +70,7 @@ class AccessibleRow : public QAccessibleInterface {
   Number row_;
 };
 
+// The rows from the top, and behind them the heads of their columns.
 class AccessibleView : public QAccessibleWidget {
  public:
   explicit AccessibleView(SpotView& view) : QAccessibleWidget(&view, QAccessible::List) {}
@@ -67,16 +79,18 @@ class AccessibleView : public QAccessibleWidget {
       QAccessible::deleteAccessibleInterface(id);
   }
 
-  int childCount() const override { return static_cast<int>(View().Rows().Rows().size()); }
+  int childCount() const override { return RowCount() + 1; }
   QAccessibleInterface* child(int index) const override {
-    if (index < 0 || index >= childCount()) return nullptr;
-    return Row(View().Rows().First() + index);
+    if (index < 0 || index > RowCount()) return nullptr;
+    return index == RowCount() ? Heads() : Row(View().Rows().First() + index);
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
+    if (child->object() == View().Heads()) return RowCount();
     const auto* row = dynamic_cast<const AccessibleRow*>(child);
     return row != nullptr && row->isValid() ? row->Index() : -1;
   }
   QAccessibleInterface* childAt(int x, int y) const override {
+    if (Heads()->rect().contains(x, y)) return Heads();
     const auto row = View().RowAt(View().viewport()->mapFromGlobal(QPoint(x, y)));
     return row ? Row(*row) : nullptr;
   }
@@ -86,6 +100,10 @@ class AccessibleView : public QAccessibleWidget {
 
  private:
   SpotView& View() const { return *static_cast<SpotView*>(widget()); }
+  int RowCount() const { return static_cast<int>(View().Rows().Rows().size()); }
+  QAccessibleInterface* Heads() const {
+    return QAccessible::queryAccessibleInterface(View().Heads());
+  }
 
   // Made when it is asked for, and kept until its row has gone.
   QAccessibleInterface* Row(Number row) const {

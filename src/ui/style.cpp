@@ -45,14 +45,15 @@ QLabel[tint="good"] { color: {good}; }
 QLabel[tint="accent"] { color: {accent}; }
 QLabel[heading="true"] { font-weight: 600; }
 QDialog { background: {panel}; }
-QCheckBox { color: {text}; spacing: 8px; }
+QCheckBox, QRadioButton { color: {text}; spacing: 8px; }
+QCheckBox:disabled, QRadioButton:disabled { color: {dim}; }
 QPushButton { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
               padding: 5px 12px; }
 QPushButton:hover { border-color: {dim}; }
 QPushButton:focus { border-color: {accent}; }
 QPushButton:pressed { background: {selection}; }
 QPushButton:disabled { color: {dim}; background: {panel}; }
-QPushButton[primary="true"] { color: {accent}; border-color: {accent}; font-weight: 600; }
+QPushButton[primary="true"], QPushButton:checked { color: {accent}; border-color: {accent}; font-weight: 600; }
 QLineEdit { background: {ground}; border: 1px solid {line}; border-radius: 4px;
             padding: 5px 8px; selection-background-color: {selection};
             selection-color: {text}; }
@@ -69,10 +70,21 @@ QTabBar::tab:selected { background: {ground}; border-bottom-color: {accent}; }
 QTabBar::tab:focus { background: {selection}; }
 QTabBar::tab:disabled { color: {dim}; }
 QTreeView { background: {ground}; color: {text}; border: none; outline: none; }
+QTreeView[framed="true"] { border: 1px solid {line}; border-radius: 4px; }
+QTreeView[framed="true"]:focus { border-color: {accent}; }
 QTreeView::item { height: 24px; padding-left: 8px; border: none; }
 QTreeView::item:selected { background: {selection}; color: {text}; }
 QHeaderView::section { background: {panel}; color: {dim}; border: none;
                        border-bottom: 1px solid {line}; padding: 6px 8px; }
+QListWidget { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px;
+              outline: none; }
+QListWidget:focus { border-color: {accent}; }
+QDialog QListWidget::item { padding: 2px 4px; }
+QListWidget::item:selected { background: {selection}; color: {text}; }
+QFrame#DropPanel { background: {panel}; border: 1px solid {line}; border-radius: 4px; }
+QMenu { background: {panel}; color: {text}; border: 1px solid {line}; padding: 4px; }
+QMenu::item { padding: 5px 16px; border-radius: 4px; }
+QMenu::item:selected { background: {selection}; }
 QListWidget#BandRail { background: {panel}; border: none; border-right: 1px solid {line};
                       outline: none; padding-top: 6px; }
 QPushButton#Below { background: {panel}; color: {accent}; border-color: {accent}; }

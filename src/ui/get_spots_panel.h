@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "spots/spot_requests.h"
+#include "ui/drop_panel.h"
+#include "ui/frames.h"
+
+namespace ui {
+
+// Asks the node for spots: of a band, of a call, or for those that were missed.
+class GetSpotsPanel : public DropPanel {
+ public:
+  // The requests outlive it.
+  GetSpotsPanel(spots::SpotRequests& requests, Frames& frames, QPushButton* button);
+
+ private:
+  void FillBands();
+  void GetSpots();
+  void GetMissed();
+
+  spots::SpotRequests& requests_;
+  QComboBox* band_;
+  QLineEdit* call_;
+};
+
+}  // namespace ui

@@ -1,0 +1,89 @@
+#include "ui/spots_dialog.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "platform/qt/qt_text.h"
+#include "ui/bind.h"
+#include "ui/form.h"
+
+namespace ui {
+namespace {
+
+using platform::qt::TextOf;
+
+constexpr int kWidth = 420;
+constexpr int kNumberWidth = 72;
+
+}  // namespace
+
+SpotsDialog::SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* parent)
+    : QDialog(parent) {
+  setWindowTitle(QLatin1String(spots::SpotsForm::kTitle));
+  setMinimumWidth(kWidth);
+  QFormLayout* form = MakeForm(this);
+  form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+  AddCheck(form, model.chkSave, frames);
+  AddCheck(form, model.chkDelete, frames);
+  AddNumber(form, model.Text1, frames);
+  AddCheck(form, model.chkLoad, frames);
+  AddNumber(form, model.txtReloadNr, frames);
+  AddReload(form, model, frames);
+  AddMemory(form, model, frames);
+  AddCheck(form, model.chkShowNrs, frames);
+  AddCloseButton(form, this);
+  BindDialog(this, model.Open, frames);
+}
+
+void SpotsDialog::AddCheck(QFormLayout* form, core::Check& model, Frames& frames) {
+  auto* box = new QCheckBox(this);
+  BindCheck(box, model, frames);
+  form->addRow(box);
+}
+
+void SpotsDialog::AddNumber(QFormLayout* form, core::TextBox& model, Frames& frames) {
+  AddField(form, TextOf(model.Caption.Get()), model, frames)->setFixedWidth(kNumberWidth);
+}
+
+void SpotsDialog::AddMemory(QFormLayout* form, spots::SpotsForm& model, Frames& frames) {
+  const std::array says = {tr("all bands together"), tr("each band")};
+  auto* heading = new QLabel(this);
+  heading->setProperty("heading", true);
+  BindLabel(heading, model.lblMemory, frames);
+  form->addRow(heading);
+  for (std::size_t i = 0; i < says.size(); ++i) {
+    core::TextBox& box = model.txtMemory[i];
+    auto* field = new QLineEdit(this);
+    field->setFixedWidth(kNumberWidth);
+    field->setAccessibleName(tr("Max spots displayed, %1").arg(says[i]));
+    BindTextBox(field, box, frames);
+    form->addRow(tr("%1, %2").arg(TextOf(box.Caption.Get()), says[i]), field);
+  }
+}
+
+void SpotsDialog::AddReload(QFormLayout* form, spots::SpotsForm& model, Frames& frames) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(8);
+  const auto add = [&](const QString& name, core::Button& button) {
+    auto* widget = new QPushButton(this);
+    widget->setAutoDefault(false);
+    widget->setAccessibleName(name);
+    BindButton(widget, button, frames);
+    row->addWidget(widget);
+  };
+  add(tr("Reload the spot log"), model.cmdReload);
+  add(tr("Stop the reload"), model.cmdStop);
+  auto* count = new QLabel(this);
+  count->setProperty("dim", true);
+  count->setAccessibleName(tr("Spots read"));
+  BindLabel(count, model.lblCount, frames);
+  auto* unit = new QLabel(tr("spots read"), this);
+  unit->setProperty("dim", true);
+  row->addWidget(count);
+  row->addWidget(unit);
+  row->addStretch();
+  form->addRow(row);
+}
+
+}  // namespace ui

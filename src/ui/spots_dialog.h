@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QDialog>
+#include <QFormLayout>
+
+#include "spots/spots_form.h"
+#include "ui/frames.h"
+
+namespace ui {
+
+// frmSpots. Shows itself while its model is open, and holds nothing up.
+class SpotsDialog : public QDialog {
+ public:
+  SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* parent);
+
+ private:
+  void AddCheck(QFormLayout* form, core::Check& model, Frames& frames);
+  void AddNumber(QFormLayout* form, core::TextBox& model, Frames& frames);
+  void AddMemory(QFormLayout* form, spots::SpotsForm& model, Frames& frames);
+  void AddReload(QFormLayout* form, spots::SpotsForm& model, Frames& frames);
+};
+
+}  // namespace ui
