@@ -37,6 +37,11 @@ std::size_t RowStore::RemoveRows(std::size_t rows) {
   return spots;
 }
 
+void RowStore::Clear() {
+  rows_.clear();
+  characters_ = 0;
+}
+
 void RowStore::ClearStars() {
   std::erase_if(rows_, [this](const TableRow& row) {
     if (row.IsStars()) characters_ -= SizeOf(row);

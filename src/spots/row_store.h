@@ -24,6 +24,7 @@ class RowStore {
 
   // Takes the separators out.
   void ClearStars();
+  void Clear();
 
  private:
   std::size_t RemoveRows(std::size_t rows);

@@ -5,6 +5,7 @@
 #include "core/location.h"
 #include "spots/county.h"
 #include "spots/log_files.h"
+#include "spots/spot_date.h"
 
 namespace spots {
 
@@ -191,6 +192,8 @@ void SpotParts::FollowReload(bool reloading) {
 
 void SpotParts::Tick() {
   table.RunDxQue();
+  const int minute = MomentNow(calendar_).minutes;
+  if (std::exchange(minute_, minute) != minute) table.RefreshLastHour();
   duplicates.UpdateSkimmerDupeDisplay();
 }
 

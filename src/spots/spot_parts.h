@@ -125,6 +125,7 @@ class SpotParts {
   void TakeDisplay();
   void FollowReload(bool reloading);
 
+  int minute_ = -1;  // of the last tick, of the day
   platform::Registration displayed_;
   platform::Registration reloading_;
   platform::Registration counting_;

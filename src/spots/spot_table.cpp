@@ -70,6 +70,12 @@ void SpotTable::AddAlarm(const TableRow& row) {
   Store(row, kAlarmBand);
 }
 
+void SpotTable::ClearSpots() {
+  for (auto& views : stores_)
+    for (RowStore& store : views) store.Clear();
+  UpdateDxSpots();
+}
+
 void SpotTable::Store(const TableRow& row, int band) {
   const bool skimmer = row.RowKind() == TableRow::Kind::Skimmer;
   for (const int view : {kAllSpots, skimmer ? kSkimmerSpots : kOtherSpots}) {

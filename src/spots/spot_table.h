@@ -53,6 +53,9 @@ class SpotTable {
   // Stores a row among the alarms, and shows it if these are.
   void AddAlarm(const TableRow& row);
 
+  // Empties all stores: the rows go, what has been counted stays.
+  void ClearSpots();
+
   // The order of the rows, by the number of a sort button. Pressed with the middle button of the
   // mouse it shows them from their end; with the right one no spotter is left out of the order by
   // addresses.

@@ -61,9 +61,13 @@ FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frame
   strip->Controls()->addSpacing(kBetweenGroups);
   AddMembership(strip, models.membership, frames);
   strip->Controls()->addStretch(1);
+  auto* rows = new QLabel(strip);
+  rows->setAccessibleName(tr("Rows in this view"));
+  BindLabel(rows, models.numbers.txtrtb2, frames);
+  strip->Controls()->addWidget(rows);
   AddFind(strip);
   auto* get = MakeButton(tr("Get spots"), tr("Get spots…"), strip);
-  new GetSpotsPanel(models.requests, frames, get);
+  new GetSpotsPanel(models.requests, models.table, frames, get);
   strip->Controls()->addWidget(get);
   const auto add = [&](const QString& caption, const QString& name, std::function<void()> act) {
     QPushButton* button = MakeButton(caption, name, strip);

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "spots/membership.h"
+#include "spots/spot_numbers.h"
 #include "spots/spot_requests.h"
 #include "ui/band_rail_view.h"
 #include "ui/find_field.h"
@@ -23,6 +24,7 @@ class DxPage : public QWidget {
     spots::DisplayChoice& display;
     spots::Membership& membership;
     spots::SpotRequests& requests;
+    spots::SpotNumbers& numbers;
     core::Label& empty;
     core::Property<int>& size;  // of the table's text, in pixels
     const core::Settings& settings;

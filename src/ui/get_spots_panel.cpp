@@ -20,7 +20,8 @@ QString CallHint(bool usable) {
 
 }  // namespace
 
-GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, Frames& frames, QPushButton* button)
+GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, spots::SpotTable& table, Frames& frames,
+                             QPushButton* button)
     : DropPanel(button, tr("Get spots from the node")),
       requests_(requests),
       band_(new QComboBox(this)),
@@ -33,10 +34,12 @@ GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, Frames& frames, QPus
   count->setAccessibleName(tr("How many missed spots to get, 0 to 100"));
   count->setFixedWidth(kFieldWidth);
   BindTextBox(count, requests.txtGetNr, frames);
-  auto* get = new QPushButton(tr("Get spots"), this);
+  auto* get = new QPushButton(tr("Get Spots"), this);
   get->setAccessibleName(tr("Get the spots of this band or call"));
   auto* missed = new QPushButton(tr("Missed"), this);
   missed->setAccessibleName(tr("Get the missed spots"));
+  auto* clear = new QPushButton(tr("Clear Spots"), this);
+  clear->setAccessibleName(tr("Clear all spots from the table"));
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 16, 16, 16);
   grid->setSpacing(8);
@@ -48,8 +51,13 @@ GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, Frames& frames, QPus
   grid->addWidget(new QLabel(tr("Count"), this), 2, 0);
   grid->addWidget(count, 2, 1);
   grid->addWidget(missed, 2, 2);
+  grid->addWidget(clear, 3, 2);
   connect(get, &QPushButton::clicked, this, [this] { GetSpots(); });
   connect(call_, &QLineEdit::returnPressed, this, [this] { GetSpots(); });
+  connect(clear, &QPushButton::clicked, this, [this, &table] {
+    close();
+    table.ClearSpots();
+  });
   connect(missed, &QPushButton::clicked, this, [this] { GetMissed(); });
   connect(band_, &QComboBox::currentIndexChanged, this, [this](int band) {
     call_->setEnabled(band == spots::kAllBands);

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "spots/spot_requests.h"
+#include "spots/spot_table.h"
 #include "ui/drop_panel.h"
 #include "ui/frames.h"
 
@@ -12,8 +13,9 @@ namespace ui {
 // Asks the node for spots: of a band, of a call, or for those that were missed.
 class GetSpotsPanel : public DropPanel {
  public:
-  // The requests outlive it.
-  GetSpotsPanel(spots::SpotRequests& requests, Frames& frames, QPushButton* button);
+  // Requests and table outlive it.
+  GetSpotsPanel(spots::SpotRequests& requests, spots::SpotTable& table, Frames& frames,
+                QPushButton* button);
 
  private:
   void FillBands();

@@ -145,6 +145,7 @@ DxPage* MainWindow::MakeDxPage(Frames& frames, LiveTheme& theme) {
                      .display = parts.display,
                      .membership = parts.membership,
                      .requests = parts.requests,
+                     .numbers = parts.numbers,
                      .empty = program_.dxTab.lblEmpty,
                      .size = program_.textSizes.Size[program::TextSizes::Dx],
                      .settings = program_.settings},

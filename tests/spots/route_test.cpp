@@ -208,6 +208,26 @@ TEST_F(Route, SortedViewFollowsTenTimesASecond) {
   EXPECT_THAT(CallsInTable(), ElementsAre("AA1AA", "ZZ1ZZ"));
 }
 
+TEST_F(Route, ClearedSpotsLeaveEveryStoreAndTheTable) {
+  Receive(Line{});
+  table.ClearSpots();
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  EXPECT_THAT(CallsInStore(k20, 0), IsEmpty());
+  EXPECT_EQ(table.SpotStore(0, 0).Characters(), 0u);
+  Receive({.call = "K1ABC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("K1ABC"));
+}
+
+TEST_F(Route, LastHourLosesWhatHasBecomeOldWithoutNewSpots) {
+  Receive({.time = "2059"});
+  table.SortBy(spots::kLastHour);
+  for (int minutes = 0; minutes < 90; ++minutes) {
+    world.Run(1min);
+    parts.Tick();
+  }
+  EXPECT_THAT(CallsInTable(), Not(Contains("3Y0J")));
+}
+
 TEST_F(Route, EndOfTheSessionForgetsWhatTheNodeSends) {
   parts.lines.ZV11CarrotCounter("ZV11^1");
   EXPECT_FALSE(Receive(Line{}));
