@@ -136,10 +136,10 @@ void BandRailView::ShowCounts() {
         unseen.Visible.Get() ? tr("%1 unseen, ").arg(TextOf(unseen.Caption.Get())) : QString();
     const QString spoken =
         tr("%1, %2%3 in all").arg(name, unseenText, TextOf(model_.lblTotal[place].Caption.Get()));
-    if (item(band)->data(Qt::AccessibleTextRole) != spoken)
-      item(band)->setData(Qt::AccessibleTextRole, spoken);
+    if (item(band)->data(Qt::AccessibleTextRole) == spoken) continue;
+    item(band)->setData(Qt::AccessibleTextRole, spoken);
+    update(indexFromItem(item(band)));
   }
-  viewport()->update();
 }
 
 }  // namespace ui

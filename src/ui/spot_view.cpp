@@ -85,6 +85,8 @@ void SpotView::Follow(const SpotSnapshot::Batch& batch, bool toNewest) {
   const std::size_t below = newBelow_ + SpotsFrom(firstAdded);
   if (batch.allNew) widest_ = 0;
   Measure(firstAdded);
+  const bool anew = batch.allNew || batch.added == rows_.Rows().size();
+  following_ = !anew;
   SetRanges();
   if (toNewest) {
     GoToNewest();
@@ -92,7 +94,25 @@ void SpotView::Follow(const SpotSnapshot::Batch& batch, bool toNewest) {
     verticalScrollBar()->setValue(std::max(stays, 0));
     CountBelow(below);
   }
-  viewport()->update();
+  following_ = false;
+  if (anew)
+    viewport()->update();
+  else
+    MoveDrawn(firstAdded);
+}
+
+// What is drawn already moves, and only what is new is drawn: in a flood most of a frame is text
+// that stands there. A separator counts what is behind it.
+void SpotView::MoveDrawn(Number firstAdded) {
+  const int moved = PlaceOf(drawnFirst_).top() - drawnTop_;
+  if (hasFocus() || std::abs(moved) >= viewport()->height()) return viewport()->update();
+  drawnTop_ += moved;
+  if (moved != 0) viewport()->scroll(0, moved);
+  for (Number row = FirstInSight(); row < rows_.End(); ++row) {
+    const QRect place = PlaceOf(row);
+    if (place.top() > viewport()->height()) break;
+    if (row >= firstAdded || rows_.Row(row).IsStars()) viewport()->update(place);
+  }
 }
 
 // What the user looks at stays where it is. It is drawn at once, so that his next press finds it.
@@ -213,7 +233,7 @@ std::size_t SpotView::SpotsBehind(Number stars) const {
 
 SpotColours SpotView::Colours() const { return ColoursOf(model_.settings, theme_.Get()); }
 
-void SpotView::paintEvent(QPaintEvent*) {
+void SpotView::paintEvent(QPaintEvent* event) {
   const SpotColours colours = Colours();
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), colours.ground);
@@ -223,18 +243,19 @@ void SpotView::paintEvent(QPaintEvent*) {
     painter.drawText(viewport()->rect(), Qt::AlignCenter,
                      OneLine(model_.empty.Caption.Get(), kLongestRow));
   }
-  PaintRows(painter, colours);
+  PaintRows(painter, event->region(), colours);
   if (!hasFocus()) return;
   painter.setPen(colours.accent);
   painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
-void SpotView::PaintRows(QPainter& painter, const SpotColours& colours) {
-  paintedFirst_ = FirstInSight();
-  paintedTop_ = PlaceOf(paintedFirst_).top();
+void SpotView::PaintRows(QPainter& painter, const QRegion& region, const SpotColours& colours) {
+  paintedFirst_ = drawnFirst_ = FirstInSight();
+  paintedTop_ = drawnTop_ = PlaceOf(paintedFirst_).top();
   for (Number row = paintedFirst_; row < rows_.End(); ++row) {
     const QRect place = PlaceOf(row);
     if (place.top() > viewport()->height()) break;
+    if (!region.intersects(place)) continue;
     const spots::TableRow& content = rows_.Row(row);
     painter_.Draw(painter,
                   {.row = content,
@@ -265,7 +286,7 @@ void SpotView::resizeEvent(QResizeEvent* event) {
 void SpotView::scrollContentsBy(int dx, int) {
   if (AtEnd()) CountBelow(0);
   if (dx != 0) heads_->Place(horizontalScrollBar()->value());
-  viewport()->update();
+  if (!following_ || dx != 0) viewport()->update();
 }
 
 void SpotView::focusInEvent(QFocusEvent* event) {

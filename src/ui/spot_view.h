@@ -89,7 +89,8 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   bool NewestOnTop() const;
   void GoToNewest();
   std::size_t SpotsFrom(Number first) const;
-  void PaintRows(QPainter& painter, const SpotColours& colours);
+  void PaintRows(QPainter& painter, const QRegion& region, const SpotColours& colours);
+  void MoveDrawn(Number firstAdded);
   void ChangeSize(int pixels);
   void Measure(Number first);
   void SetRanges();
@@ -124,6 +125,10 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   // What the user looks at: which row stands at the top of the picture, and where it begins.
   Number paintedFirst_ = 0;
   int paintedTop_ = 0;
+  // The same of what is drawn, which comes on the screen with the next frame.
+  Number drawnFirst_ = 0;
+  int drawnTop_ = 0;
+  bool following_ = false;  // new rows have come: what is drawn can be moved
 };
 
 }  // namespace ui

@@ -147,6 +147,23 @@ TEST_F(SpotViewTest, ASeparatorIsADashedRuleThatCountsWhatIsBehindIt) {
   EXPECT_NE(Picture().copy(place), one.copy(place)) << "it says how many";
 }
 
+TEST_F(SpotViewTest, WhatHasMovedLooksAsIfItWereDrawnAnew) {
+  const auto onScreen = [this] { return view.screen()->grabWindow(view.winId()).toImage(); };
+  Add(100);
+  Run();
+  for (int batch = 0; batch < 12; ++batch) {
+    if (batch == 3) pane.Append(Stars());
+    if (batch == 6) view.verticalScrollBar()->setValue(view.verticalScrollBar()->value() - 30);
+    if (batch == 9) view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+    Add(1 + batch % 4 * 3);
+    if (batch % 2 == 0) pane.RemoveSpots(static_cast<std::size_t>(batch));
+    Run();
+    const QImage moved = onScreen();
+    view.viewport()->repaint();
+    EXPECT_EQ(onScreen(), moved) << "batch " << batch;
+  }
+}
+
 TEST_F(SpotViewTest, AnotherThemeIsDrawnAtOnce) {
   Add(1);
   Run();
