@@ -104,15 +104,13 @@ spots::SpotParts::Needs Program::NeedsOfSpots() {
           .tncMode = [&state] { return state.TncMode; },
           .multiNode = [this] { return settings.Linking; },
           .keepsBottomOfBand = [this] { return settings.BobDx; },
-          .RcvdPrompt = [&state](std::string_view line) { return state.RcvdPrompt(line); },
+          .RcvdPrompt = [&state](std::string_view line) { return state.RcvdAnyPrompt(line); },
           .latency = [this] { return session.latency.Last(); },
           .send = [this](std::string_view text) { session.outgoing.Send(text); },
           .sendAsIs = [this](std::string_view text) { return session.outgoing.SendAsIs(text); },
           .holdIntake = [this] { return session.intake.Hold(); },
           .showRaw = [this](std::string_view line) { session.outgoing.updateText2(line); },
           .addToRawText = [this](std::string_view line) { session.outgoing.updateText2(line); },
-          .setAutoFetch =
-              [&state](bool wanted) { state.WantMissedSpots = state.FirstConnect = wanted; },
           .logTrouble = [this](platform::Files::Fault fault) { ShowLogged(conditions, fault); },
           .tell =
               [this](std::string_view text) {

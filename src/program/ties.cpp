@@ -25,9 +25,9 @@ bool Ties::TakesLines() {
 
 void Ties::ForwardRawToLoggers(std::string_view rawLine) { program_.standIns.LoggerRaw(rawLine); }
 
-void Ties::FeedLoggers(std::string_view line, std::string_view) {
-  program_.session.localFeed.SendLocal(line);
-}
+void Ties::FeedLoggers(std::string_view line) { program_.session.localFeed.SendLocal(line); }
+
+void Ties::FeedLogWindow(std::string_view) {}
 
 void Ties::TellBuddies(const spots::Spot&, std::string_view) {}
 

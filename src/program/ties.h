@@ -25,7 +25,8 @@ class Ties : public session::LoginRequests, public session::ClockWork, public sp
 
   bool TakesLines() override;
   void ForwardRawToLoggers(std::string_view rawLine) override;
-  void FeedLoggers(std::string_view line, std::string_view longLine) override;
+  void FeedLoggers(std::string_view line) override;
+  void FeedLogWindow(std::string_view longLine) override;
   void TellBuddies(const spots::Spot& spot, std::string_view longLine) override;
   void Announce(std::string_view text, std::string_view sender) override;
   bool CheckAlarm(const spots::Spot& spot, std::string_view row) override;

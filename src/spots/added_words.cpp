@@ -90,13 +90,18 @@ std::string_view WordSetApart(std::string_view text) {
 }
 
 // Whether the word, being a state or a country, has gone into its field.
+void SetUpper(std::string_view word, std::string& field) {
+  field = word;
+  for (char& byte : field) byte = core::UCase(byte);
+}
+
 bool TakeStateOrCountry(std::string_view word, const WordFacts& words, Spot& spot) {
   const std::string_view name = WithoutPlus(word);
   if (name.empty() || name.size() > kLongestCountry) return false;
   if (CallFitsState(spot.DxCall, name))
     spot.DxState = name;
   else if (words.isPrefix(name))
-    spot.DxCty = name;
+    SetUpper(name, spot.DxCty);
   else
     return false;
   return true;

@@ -26,11 +26,12 @@ class GridRecorder {
   GridRecorder(platform::Files& files, const platform::Scheduler& scheduler,
                core::Calendar& calendar, const std::string& folder);
 
+  // Whether there is a list; looked at again now and then.
+  bool HasGridList();
   // Of a node of another kind than DXSpider nothing is taken.
   void RecordGrid(std::string_view grid, std::string_view call, const NodeFacts& node);
 
  private:
-  bool HasGridList();
   void ReadGridList();
 
   platform::Files& files_;

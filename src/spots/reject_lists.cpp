@@ -6,6 +6,7 @@
 #include "core/call.h"
 #include "core/quoted.h"
 #include "core/text.h"
+#include "spots/state_codes.h"
 
 namespace spots {
 namespace {
@@ -89,9 +90,11 @@ RejectLists::Reason RejectLists::ReasonOf(const Spot& spot) {
   return {};
 }
 
+// A state names its country too.
 bool RejectLists::HasInvalidCountry(const Spot& spot) const {
   return settings_.RejectInvalidCountry && CountryWordSeen.Get() &&
-         (spot.DxCty.empty() || spot.DxCty == "QQ" || spot.DxCty == "??");
+         ((spot.DxCty.empty() && !IsStateCode(core::Trim(spot.DxState))) || spot.DxCty == "QQ" ||
+          spot.DxCty == "??");
 }
 
 // An entry that is the spotter goes before any that is the node.

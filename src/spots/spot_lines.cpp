@@ -81,7 +81,7 @@ bool SpotLines::ZV11CarrotCounter(std::string_view line) {
 
 void SpotLines::ReadZV11(std::string_view line) {
   const NodeFacts node = needs_.nodeFacts();
-  const bool keepsGrids = node.IsSpider() && needs_.RecordGrid;
+  const bool keepsGrids = node.IsSpider() && needs_.keepsGrids();
   const LineOutcome outcome = ParseZV11Line(line, node, keepsGrids, spot_);
   if (outcome == LineOutcome::FieldError) errors.CountZv11(line);
   if (outcome != LineOutcome::Spot) return;
@@ -117,9 +117,13 @@ void SpotLines::Link(std::string_view line) {
   needs_.txtDDEsend(linked_);
 }
 
+// Whatever becomes of the spot, the next one has nothing of it.
 void SpotLines::Display() {
+  const platform::Registration clearing([this] {
+    ClearSpotExtras(spot_);
+    spot_.RawLine.clear();
+  });
   needs_.DisplayDx();
-  ClearSpotExtras(spot_);
 }
 
 void SpotLines::Disconnected() {

@@ -29,7 +29,8 @@ class SpotLines {
     // Takes the line with the node's call, for the other copy of the program. None: it goes
     // nowhere.
     std::function<void(std::string_view text)> txtDDEsend;
-    // Takes the grid of a call. None: no list of them is kept.
+    std::function<bool()> keepsGrids;  // there is a list of grids by calls
+    // Takes the grid of a call.
     std::function<void(std::string_view grid, std::string_view call)> RecordGrid;
     std::function<void()> readUtcOffset;
     std::function<void()> DisplayDx;  // the route of the spot that has been read

@@ -15,6 +15,10 @@ namespace {
 using platform::Milliseconds;
 
 constexpr Milliseconds kSilence{1000};
+// Of a list without a prompt that is known: the node may be slow, and never prompt at all.
+constexpr Milliseconds kLongSilence{10'000};
+// A node may answer long after the prompt of an earlier command seemed to end the list.
+constexpr Milliseconds kLateAnswer{10'000};
 constexpr Milliseconds kLongTime{10'000};
 
 // Seconds with so many digits before the point at least and behind it, rounded half up.
@@ -61,6 +65,8 @@ void SpotList::Await() {
 void SpotList::Disconnected() {
   Begin();
   collecting_ = busy_ = promptedFirst_ = ShDxDone = false;
+  requestedAt_.reset();
+  endedEmptyAt_.reset();
   silence_.Release();
 }
 
@@ -86,6 +92,7 @@ bool SpotList::CollectShDxLine(std::string_view line) {
   }
   if (!collecting_ && SaysNotFound(line)) Prompted();
   if (needs_.directoryRuns() || !IsShowDxRow(line)) return false;
+  if (ShDxDone && EndedTooSoon()) Reopen();
   if (!ShDxDone) Store(line);
   return true;
 }
@@ -96,11 +103,22 @@ void SpotList::Store(std::string_view row) {
   if (count_ == 1) ShowTimes();
   if (count_ > kSlots) return;
   if (row.size() <= kLongestLine) ShDxBuffer_[kSlots - count_] = row;
-  if (promptedFirst_) WaitForSilence();
+  WaitForSilence(promptedFirst_ ? kSilence : kLongSilence);
+}
+
+bool SpotList::EndedTooSoon() const {
+  return endedEmptyAt_ && scheduler_.Now() - *endedEmptyAt_ < kLateAnswer;
+}
+
+void SpotList::Reopen() {
+  endedEmptyAt_.reset();
+  ShDxDone = false;
+  promptedFirst_ = true;
 }
 
 void SpotList::ShowTimes() {
-  const Milliseconds time = scheduler_.Now() - requestedAt_;
+  if (!requestedAt_) return;  // nobody has asked for it
+  const Milliseconds time = scheduler_.Now() - *requestedAt_;
   lblSeconds.Caption.Set(Seconds(time, 3, time < kLongTime ? 2 : 1));
   lblBeyondLatency.Caption.Set(Seconds(time - needs_.latency(), 1, 2));
 }
@@ -110,7 +128,7 @@ void SpotList::Prompted() {
     if (!OnlySilenceEnds()) End();
   } else if (!ShDxDone && !promptedFirst_) {
     promptedFirst_ = true;
-    WaitForSilence();
+    WaitForSilence(kSilence);
   }
 }
 
@@ -120,13 +138,16 @@ bool SpotList::OnlySilenceEnds() const {
   return promptedFirst_ && count_ > 0 && !ShDxBuffer_.back().starts_with(kZv11Start);
 }
 
-void SpotList::WaitForSilence() {
-  silence_ = scheduler_.After(kSilence, [this] { End(); });
+void SpotList::WaitForSilence(Milliseconds silence) {
+  silence_ = scheduler_.After(silence, [this] { End(); });
 }
 
 void SpotList::End() {
   silence_.Release();
   if (!collecting_) Begin();
+  endedEmptyAt_.reset();
+  if (count_ == 0) endedEmptyAt_ = scheduler_.Now();
+  requestedAt_.reset();
   lblCount.Caption.Set(std::to_string(count_));
   ReplayShDxLines();
   needs_.sort();

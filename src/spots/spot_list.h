@@ -15,7 +15,7 @@ namespace spots {
 // then go into the table, the oldest first.
 //
 // A list ends with the node's prompt. Some nodes prompt first: such a list ends when no row has
-// come for a second.
+// come for a second. One whose prompt nobody knows ends when none has come for ten.
 class SpotList {
  public:
   struct Needs {
@@ -62,7 +62,9 @@ class SpotList {
   void ShowTimes();
   void Prompted();
   bool OnlySilenceEnds() const;
-  void WaitForSilence();
+  void WaitForSilence(platform::Milliseconds silence);
+  bool EndedTooSoon() const;
+  void Reopen();
   void End();
   void ReplayShDxLines();
 
@@ -73,7 +75,8 @@ class SpotList {
   bool collecting_ = false;
   bool busy_ = false;
   bool promptedFirst_ = false;
-  platform::Milliseconds requestedAt_{0};
+  std::optional<platform::Milliseconds> requestedAt_;
+  std::optional<platform::Milliseconds> endedEmptyAt_;
   platform::Registration silence_;
 };
 

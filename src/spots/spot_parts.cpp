@@ -47,6 +47,9 @@ SpotParts::SpotParts(const platform::Platform& platform, core::Calendar& calenda
                  .loggingChanged = [this] { log.EnableLoggingSpots(); },
                  .setupSpotNrs = [this] { numbers.SetupSpotNrs(); }}) {
   words_.isPrefix = [this](std::string_view word) { return reference.countries.HasPrefix(word); };
+  for (core::Check* check : {&membership.showlotw, &membership.showeqsl, &membership.RejectNot,
+                             &membership.LotwChecker, &membership.eQSLchecker})
+    kept_.push_back(check->Click.Add(needs_.delayedWriteCfg));
   displayed_ = display.Applied.Add([this] {
     TakeDisplay();
     needs_.delayedWriteCfg();
@@ -87,6 +90,7 @@ SpotLines::Needs SpotParts::NeedsOfLines() {
           .sendEmptyLine = [this] { needs_.send(""); },
           .nodeCall = needs_.nodeCall,
           .txtDDEsend = nullptr,
+          .keepsGrids = [this] { return gridRecorder_.HasGridList(); },
           .RecordGrid =
               [this](std::string_view grid, std::string_view call) {
                 gridRecorder_.RecordGrid(grid, call, needs_.nodeFacts());
@@ -135,7 +139,6 @@ SpotRequests::Needs SpotParts::NeedsOfRequests() {
                 if (busy) lines.list.AskedForSpots();
               },
           .setShDxDone = [this](bool done) { lines.list.ShDxDone = done; },
-          .setAutoFetch = needs_.setAutoFetch,
           .missedRequested = [this] { lines.list.AskedForMissed(); },
           .settingsChanged = needs_.delayedWriteCfg};
 }
@@ -173,6 +176,7 @@ void SpotParts::ReadLists() {
 }
 
 void SpotParts::BeginLog() {
+  lines.list.ShDxDone = !settings_.GetMissedOnes;  // then no list is asked for
   log.EnableLoggingSpots();
   if (settings_.LogDxSpots && settings_.LoadLogFileOnStartup) {
     spotsForm.Show();
@@ -199,6 +203,7 @@ void SpotParts::Tick() {
 
 void SpotParts::Disconnected() {
   lines.Disconnected();
+  lines.list.ShDxDone = !settings_.GetMissedOnes;
   corrections.BeginSession();
   rejectLists.SessionEnded();
 }

@@ -56,7 +56,6 @@ class SpotParts {
     std::function<platform::Registration()> holdIntake;
     std::function<void(std::string_view line)> showRaw;
     std::function<void(std::string_view remark)> addToRawText;  // behind the present line
-    std::function<void(bool wanted)> setAutoFetch;
     std::function<void(platform::Files::Fault fault)> logTrouble;
     std::function<void(std::string_view text)> tell;  // shows a message
     std::function<void(Membership::List list)> updateMembers;
@@ -126,6 +125,7 @@ class SpotParts {
   void FollowReload(bool reloading);
 
   int minute_ = -1;  // of the last tick, of the day
+  std::vector<platform::Registration> kept_;
   platform::Registration displayed_;
   platform::Registration reloading_;
   platform::Registration counting_;

@@ -45,7 +45,7 @@ bool SpotPipeline::IsAccepted() {
   const NodeFacts node = needs_.nodeFacts();
   const ShownColumns& shown = steps_.display.Shown();
   if (spot_.Freq == 0) return false;
-  if (!spot_.DxCty.empty()) steps_.rejects.NoteCountryWord();
+  if (NamesCountry()) steps_.rejects.NoteCountryWord();
   steps_.corrections.FixDxSpot(spot_, node, shown);
   if (RejectCounty(spot_, steps_.settings)) return false;
   if (steps_.localReject.LocalRejectSpot(spot_, node, needs_.zv11Seen())) return false;
@@ -53,6 +53,12 @@ bool SpotPipeline::IsAccepted() {
   if (!HasCalls(spot_)) return false;
   if (steps_.rejects.RejectDX(spot_)) return false;
   return steps_.members.MarkSpot(spot_);
+}
+
+bool SpotPipeline::NamesCountry() const {
+  const CtyTable& countries = steps_.reference.countries;
+  if (spot_.DxCty.empty() || spot_.DxCty == "??" || spot_.DxCty == "QQ") return false;
+  return countries.CtyCount() < 0 || countries.HasPrefix(spot_.DxCty);
 }
 
 void SpotPipeline::InferMissingDate() {
@@ -82,10 +88,11 @@ void SpotPipeline::MakeLoggerLine() {
 
 void SpotPipeline::FeedListToLoggers() {
   if (longLine_.empty() || !Feeds(steps_.settings, FeedOption::Spots)) return;
+  steps_.receivers.FeedLogWindow(longLine_);
   if (Feeds(steps_.settings, FeedOption::LiveSpotFormat))
-    return steps_.receivers.FeedLoggers(longLine_, longLine_);
+    return steps_.receivers.FeedLoggers(longLine_);
   LoggerShortLine(spot_, LineOptions(), shortLine_);
-  steps_.receivers.FeedLoggers(shortLine_, longLine_);
+  steps_.receivers.FeedLoggers(shortLine_);
 }
 
 void SpotPipeline::MakeRow() {
@@ -138,9 +145,9 @@ void SpotPipeline::UpdateText5(std::size_t commentField) {
 
 void SpotPipeline::FeedLoggers() {
   if (longLine_.empty() || steps_.list.SpotListBusy()) return;
+  steps_.receivers.FeedLogWindow(longLine_);
   if (!Feeds(steps_.settings, FeedOption::Spots)) return;
-  const bool asRow = Feeds(steps_.settings, FeedOption::TabFormat);
-  steps_.receivers.FeedLoggers(asRow ? row_ : longLine_, longLine_);
+  steps_.receivers.FeedLoggers(Feeds(steps_.settings, FeedOption::TabFormat) ? row_ : longLine_);
 }
 
 }  // namespace spots

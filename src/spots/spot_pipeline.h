@@ -64,6 +64,7 @@ class SpotPipeline {
 
  private:
   bool IsAccepted();
+  bool NamesCountry() const;
   void InferMissingDate();
   void MakeLoggerLine();
   void FeedListToLoggers();

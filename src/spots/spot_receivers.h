@@ -15,8 +15,10 @@ class SpotReceivers {
   virtual bool TakesLines() = 0;
   // An accepted extended line, as it came, for the programs that want every line so.
   virtual void ForwardRawToLoggers(std::string_view rawLine) = 0;
-  // A line for all others. `longLine` is the same spot's as a node sends it live.
-  virtual void FeedLoggers(std::string_view line, std::string_view longLine) = 0;
+  // A line for all others.
+  virtual void FeedLoggers(std::string_view line) = 0;
+  // The spot as a node sends it live, for the window of a logging program.
+  virtual void FeedLogWindow(std::string_view longLine) = 0;
 
   // The operator's friends who wait for that call are told of it.
   virtual void TellBuddies(const Spot& spot, std::string_view longLine) = 0;

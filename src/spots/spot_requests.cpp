@@ -77,16 +77,12 @@ bool SpotRequests::GetEm() {
   const Node node = needs_.node();
   const std::string query =
       MissedSpotsQuery(node.kind, node.ShowDxCommand, CountInRange(Count()), needs_.filter());
+  if (query.empty()) needs_.setShDxDone(true);  // there is no list to wait for
   if (query.empty() || !needs_.sendAsIs(query)) return false;
   needs_.sendAsIs("");
   needs_.setShDxDone(false);
   needs_.missedRequested();
   return true;
-}
-
-void SpotRequests::GetMissedOnes(bool on) {
-  needs_.setAutoFetch(!on);
-  needs_.setShDxDone(on);
 }
 
 int& SpotRequests::Count() { return needs_.node().TncMode ? settings_.GetNrTnc : settings_.GetNr; }

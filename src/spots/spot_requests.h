@@ -28,7 +28,6 @@ class SpotRequests {
     std::function<bool(std::string_view text)> sendAsIs;
     std::function<void(bool busy)> setSpotListBusy;
     std::function<void(bool done)> setShDxDone;
-    std::function<void(bool wanted)> setAutoFetch;  // whether missed spots are fetched unasked
     std::function<void()> missedRequested;          // starts the time, clears what is shown of it
     std::function<void()> settingsChanged;
   };
@@ -49,9 +48,6 @@ class SpotRequests {
   // The missed spots. Nothing for a node that has no such request.
   void cmdMissed() { GetEm(); }
   bool GetEm();  // false: nothing was sent
-
-  // The switch for the list at the start of a session.
-  void GetMissedOnes(bool on);
 
  private:
   int& Count();

@@ -61,8 +61,8 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
       findInRaw_(new FindBar(raw_, *raw_, tr("raw view"))),
       commandRow_(new CommandRow(program.session, frames, this)),
       columns_(new DisplayDialog(program.spotParts.display, frames, this)),
-      rejects_(new RejectDialog(program.spotParts.rejectForm, program.spotParts.rejectLists, frames,
-                                this)) {
+      rejects_(new RejectDialog(program.spotParts.rejectForm, program.spotParts.rejectLists,
+                                program.spotParts.localReject.CorrectErrors, frames, this)) {
   AddPages(frames);
   Lay(frames, theme);
   AddDialogs(frames, theme);

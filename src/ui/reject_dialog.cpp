@@ -67,15 +67,15 @@ QLabel* MakeNotice(core::Label& model, Frames& frames, QWidget* parent) {
 
 }  // namespace
 
-RejectDialog::RejectDialog(spots::RejectForm& form, spots::RejectLists& lists, Frames& frames,
-                           QWidget* parent)
+RejectDialog::RejectDialog(spots::RejectForm& form, spots::RejectLists& lists,
+                           core::Check& correctErrors, Frames& frames, QWidget* parent)
     : QDialog(parent), form_(form) {
   setWindowTitle(tr("Reject spots"));
   resize(kUsualSize);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 16, 16, 16);
   column->setSpacing(16);
-  column->addWidget(MakeSwitches(form, frames));
+  column->addWidget(MakeSwitches(form, correctErrors, frames));
   auto* row = new QHBoxLayout;
   row->setSpacing(16);
   for (const auto kind :
@@ -99,13 +99,14 @@ void RejectDialog::Show() {
   activateWindow();
 }
 
-QWidget* RejectDialog::MakeSwitches(spots::RejectForm& form, Frames& frames) {
+QWidget* RejectDialog::MakeSwitches(spots::RejectForm& form, core::Check& correctErrors,
+                                    Frames& frames) {
   auto* switches = new QWidget(this);
   auto* column = new QVBoxLayout(switches);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
-  for (core::Check* each :
-       {&form.chkEnabled, &form.chkInvalid, &form.chkCounty, &form.chkDupes, &form.chkOwnCall}) {
+  for (core::Check* each : {&form.chkEnabled, &form.chkInvalid, &form.chkCounty, &form.chkDupes,
+                            &form.chkOwnCall, &correctErrors}) {
     auto* box = new QCheckBox(switches);
     BindCheck(box, *each, frames);
     column->addWidget(box);

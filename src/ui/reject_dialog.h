@@ -12,13 +12,14 @@ namespace ui {
 class RejectDialog : public QDialog {
  public:
   // All outlive it.
-  RejectDialog(spots::RejectForm& form, spots::RejectLists& lists, Frames& frames, QWidget* parent);
+  RejectDialog(spots::RejectForm& form, spots::RejectLists& lists, core::Check& correctErrors,
+               Frames& frames, QWidget* parent);
 
   // Opens it with the switches as they are.
   void Show();
 
  private:
-  QWidget* MakeSwitches(spots::RejectForm& form, Frames& frames);
+  QWidget* MakeSwitches(spots::RejectForm& form, core::Check& correctErrors, Frames& frames);
   QWidget* MakeList(spots::RejectLists::Kind kind, spots::RejectForm& form,
                     spots::RejectLists& lists, Frames& frames);
 

@@ -34,6 +34,13 @@ TechnicalPanel::TechnicalPanel(program::Program& program, Frames& frames, QWidge
   Add(tr("Characters repaired"), session.technical.lblTech[session::Technical::kEscapedErrors],
       frames);
   Add(tr("Spot lines of the node"), session.ar17.lblStatus, frames);
+  spots::SpotParts& spots = program.spotParts;
+  Add(tr("AR17 lines in error"), spots.lines.errors.lblAr17Errors, frames);
+  Add(tr("ZV11 lines in error"), spots.lines.errors.lblZv11Errors, frames);
+  Add(tr("Spots against the node's country filter"), spots.localReject.lblFilterErrors, frames);
+  Add(tr("Spots rejected"), spots.rejectLists.lblRejected, frames);
+  Add(tr("Share of duplicates among Skimmer spots"), spots.duplicates.SkimmerDupes, frames);
+  Add(tr("Spots corrected"), spots.fixList.lblFixes, frames);
   AddLatency(session.latency.Text3, frames);
   AddDebugging(program.DebuggingOn, frames);
 }

@@ -54,7 +54,7 @@ TEST(AddedCountry, IsAPrefixOfTheTable) {
   }
 }
 
-TEST(AddedCountry, MayBeInAnyCase) { EXPECT_EQ(ReadCountry("vk9x").DxCty, "vk9x"); }
+TEST(AddedCountry, MayBeInAnyCase) { EXPECT_EQ(ReadCountry("vk9x").DxCty, "VK9X"); }
 
 TEST(AddedCountry, LosesItsPlus) {
   EXPECT_EQ(ReadCountry("+VK9X").DxCty, "VK9X");

@@ -228,6 +228,35 @@ TEST_F(Route, LastHourLosesWhatHasBecomeOldWithoutNewSpots) {
   EXPECT_THAT(CallsInTable(), Not(Contains("3Y0J")));
 }
 
+TEST_F(Route, RawLineGoesToLoggersOnceAndWithNoOtherSpot) {
+  parts.lines.ZV11CarrotCounter(
+      "ZV11^14025.0^3Y0J^20-Nov-2026^2116Z^CW up^DL1ABC^^^N0NODE^28^14^28^14^^^3Y/B^DL^^^");
+  EXPECT_THAT(receivers.raw, SizeIs(1));
+  parts.Disconnected();
+  Receive({.call = "K1ABC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J", "K1ABC"));
+  EXPECT_THAT(receivers.raw, SizeIs(1));
+}
+
+TEST_F(Route, StateNamesTheCountryToo) {
+  settings.RejSpots = settings.RejectInvalidCountry = true;
+  parts.rejectLists.NoteCountryWord();
+  node.kind = session::NodeKind::ArCluster;
+  world.files.content["/home/cty.dat"] = CtyText({Country{}.Line()});
+  parts.reference.Read();
+  Receive({.call = "W8RIK", .comment = "CW up 2                     OH"});
+  Receive({.call = "K1ABC"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("W8RIK"));
+}
+
+TEST_F(Route, LogWindowIsFedWhateverTheLoggersWant) {
+  receivers.takesLines = true;
+  settings.SendToLog = 0;
+  Receive(Line{});
+  EXPECT_THAT(receivers.logWindow, ElementsAre(HasSubstr("DX de DL1ABC:")));
+  EXPECT_THAT(receivers.fed, IsEmpty());
+}
+
 TEST_F(Route, EndOfTheSessionForgetsWhatTheNodeSends) {
   parts.lines.ZV11CarrotCounter("ZV11^1");
   EXPECT_FALSE(Receive(Line{}));

@@ -46,7 +46,6 @@ spots::SpotParts::Needs SpotDesk::Needs() {
           .holdIntake = [] { return platform::Registration(); },
           .showRaw = [this](std::string_view line) { rawText.emplace_back(line); },
           .addToRawText = [this](std::string_view remark) { rawText.emplace_back(remark); },
-          .setAutoFetch = [](bool) {},
           .logTrouble = [](platform::Files::Fault) {},
           .tell = [this](std::string_view text) { messages.emplace_back(text); },
           .updateMembers = [](spots::Membership::List) {},

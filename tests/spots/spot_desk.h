@@ -46,11 +46,12 @@ class SpotDesk : public testing::Test {
   struct Receivers : spots::SpotReceivers, spots::CountryFilter {
     bool takesLines = false;
     bool alarms = false;  // of every spot
-    Texts raw, fed, announced, sounds;
+    Texts raw, fed, logWindow, announced, sounds;
 
     bool TakesLines() override { return takesLines; }
     void ForwardRawToLoggers(std::string_view line) override { raw.emplace_back(line); }
-    void FeedLoggers(std::string_view line, std::string_view) override { fed.emplace_back(line); }
+    void FeedLoggers(std::string_view line) override { fed.emplace_back(line); }
+    void FeedLogWindow(std::string_view line) override { logWindow.emplace_back(line); }
     void TellBuddies(const spots::Spot&, std::string_view) override {}
     void Announce(std::string_view text, std::string_view) override {
       announced.emplace_back(text);

@@ -46,6 +46,7 @@ class SpotLinesTest : public testing::Test {
   int displayed = 0;
   bool records = true;  // what was linked and shown is kept
   Spot spot;
+  bool keepsGrids = true;
   SpotLines lines{world.scheduler,
                   calendar,
                   spot,
@@ -59,6 +60,7 @@ class SpotLinesTest : public testing::Test {
                           [this](std::string_view text) {
                             if (records) linked.emplace_back(text);
                           },
+                      .keepsGrids = [this] { return keepsGrids; },
                       .RecordGrid =
                           [this](std::string_view grid, std::string_view call) {
                             grids.push_back(std::string(grid) + " " + std::string(call));

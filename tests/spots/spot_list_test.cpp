@@ -150,13 +150,45 @@ TEST_F(SpotListTest, NoRecordsAmongRowsIsNotClaimed) {
   EXPECT_THAT(replayed, SizeIs(1));
 }
 
-TEST_F(SpotListTest, WithoutAPromptBeforeItAnyPauseBelongsToIt) {
+TEST_F(SpotListTest, WithoutAPromptBeforeItAPauseBelongsToIt) {
   ReceiveRows(1);
-  world.Run(60s);
+  world.Run(9s);
   Receive(Row("2"));
   EXPECT_FALSE(Ended());
   Receive(kPrompt);
   EXPECT_THAT(replayed, SizeIs(2));
+}
+
+TEST_F(SpotListTest, OneWhosePromptNobodyKnowsEndsAfterTenSecondsOfSilence) {
+  ReceiveRows(2);
+  Receive("K1TST de N0NODE #");
+  world.Run(9999ms);
+  EXPECT_FALSE(Ended());
+  world.Run(1ms);
+  EXPECT_TRUE(Ended());
+  EXPECT_THAT(replayed, SizeIs(2));
+}
+
+TEST_F(SpotListTest, RowsThatComeLateBehindAnotherCommandsPromptAreTheList) {
+  list.AskedForSpots();
+  Receive(kPrompt);
+  world.Run(3s);
+  ASSERT_TRUE(Ended());
+  Receive(Row("1"));
+  Receive(Row("2"));
+  EXPECT_THAT(replayed, IsEmpty());
+  world.Run(1s);
+  EXPECT_TRUE(Ended());
+  EXPECT_THAT(replayed, ElementsAre(Row("1"), Row("2")));
+}
+
+TEST_F(SpotListTest, RowsLongAfterAnEmptyListAreNone) {
+  list.AskedForSpots();
+  Receive(kPrompt);
+  world.Run(12s);
+  EXPECT_TRUE(Receive(Row("1")));
+  world.Run(12s);
+  EXPECT_THAT(replayed, IsEmpty());
 }
 
 TEST_F(SpotListTest, BehindAPromptEndsASecondAfterItsLastRow) {

@@ -90,7 +90,6 @@ class SpotRequestsTest : public testing::Test {
   bool linked = true;
   bool busy = false;
   bool done = true;
-  bool autoFetch = true;
   int timed = 0;
   int changed = 0;
   std::vector<std::string> sent;
@@ -104,7 +103,6 @@ class SpotRequestsTest : public testing::Test {
                              },
                          .setSpotListBusy = [this](bool value) { busy = value; },
                          .setShDxDone = [this](bool value) { done = value; },
-                         .setAutoFetch = [this](bool value) { autoFetch = value; },
                          .missedRequested = [this] { ++timed; },
                          .settingsChanged = [this] { ++changed; }}};
 };
@@ -155,15 +153,6 @@ TEST_F(SpotRequestsTest, WhatIsLostOnTheWayChangesNothing) {
   EXPECT_TRUE(done);
   EXPECT_FALSE(busy);
   EXPECT_EQ(timed, 0);
-}
-
-TEST_F(SpotRequestsTest, SwitchSetsAutomaticFetchingAndTheList) {
-  requests.GetMissedOnes(true);
-  EXPECT_FALSE(autoFetch);
-  EXPECT_TRUE(done);
-  requests.GetMissedOnes(false);
-  EXPECT_TRUE(autoFetch);
-  EXPECT_FALSE(done);
 }
 
 TEST_F(SpotRequestsTest, CountIsBroughtBackIntoItsRangeAndKept) {
