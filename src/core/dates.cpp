@@ -79,6 +79,14 @@ std::optional<year> YearOf(std::string_view text, year present) {
 
 std::string EnglishDate(int dayNumber) { return DateText(sys_days{days{dayNumber}}); }
 
+std::string Seconds(std::chrono::milliseconds span, std::size_t width, std::size_t decimals) {
+  const unsigned unit = decimals == 1 ? 100 : 10;
+  const auto units = (static_cast<unsigned>(std::abs(span.count())) + unit / 2) / unit;
+  const unsigned perSecond = 1000 / unit;
+  const std::string sign = span.count() < 0 && units > 0 ? "-" : "";
+  return sign + Digits(units / perSecond, width) + "." + Digits(units % perSecond, decimals);
+}
+
 std::string TimeStamp(LocalTime time) {
   const auto midnight = floor<days>(time);
   const year_month_day date{midnight};

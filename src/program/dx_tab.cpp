@@ -28,6 +28,7 @@ DxTab::DxTab(Views& views, spots::SpotTable& table, session::SessionState& sessi
       [this](const std::string& caption) { views_.tab[Views::Dx].Caption.Set(caption); });
   waitsFor_ = {session.Phase.Observe([this](LinkPhase) { ShowEmpty(); }),
                table.rail.optBand.Selected.Observe([this](int) { ShowEmpty(); }),
+               table.optSortBy.Observe([this](int) { ShowEmpty(); }),
                table.chkShSkm[SpotTable::kDx].Click.Add([this] { ShowEmpty(); }),
                table.chkShSkm[SpotTable::kSkimmer].Click.Add([this] { ShowEmpty(); })};
 }
@@ -50,6 +51,11 @@ void DxTab::ShowEmpty() {
   const int band = table_.rail.SelectedBand();
   const std::string_view words = BandWords(band);
   const std::string what = band == spots::kAlarmBand ? "alarms" : "spots";
+  // Any order but that of time leaves out what has nothing to be sorted by.
+  if (table_.optSortBy.Get() != spots::kTimeOrder) {
+    lblEmpty.Caption.Set("No " + what + " of this view have anything in this order.");
+    return;
+  }
   const LinkPhase phase = session_.Phase.Get();
   if (phase == LinkPhase::Connected)
     lblEmpty.Caption.Set("Connected. No " + std::string(ViewWord(table_.SelectedView())) + what +

@@ -30,7 +30,7 @@ class DxTab {
   session::SessionState& session_;
   platform::Registration onShow_;
   platform::Registration caption_;
-  std::array<platform::Registration, 4> waitsFor_;
+  std::array<platform::Registration, 5> waitsFor_;
 };
 
 // A band in words: "6 m", "70 cm", "microwaves"; empty for those that are none.

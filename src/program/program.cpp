@@ -88,7 +88,9 @@ StartOptions::Needs Program::NeedsOfStartOptions() {
           .missedSpots =
               [this](bool wanted) {
                 session::SessionState& state = session.state;
-                if (!state.LoggedIn) state.WantMissedSpots = state.FirstConnect = wanted;
+                if (state.LoggedIn) return;
+                state.WantMissedSpots = state.FirstConnect = wanted;
+                spotParts.lines.list.ShDxDone = !wanted;
               }};
 }
 
@@ -116,11 +118,18 @@ spots::SpotParts::Needs Program::NeedsOfSpots() {
               [this](std::string_view text) {
                 platform_.dialogs.Tell({.title = "Molva Desk", .text = std::string(text)});
               },
-          .updateMembers = [this](spots::Membership::List) { standIns.GetLatestVersion(); },
-          .fetchFixes = [this](std::string_view) { spotParts.fixForm.FetchFailed(); },
-          .openFixPage = [](std::string_view) {},
+          .updateMembers = [this](spots::Membership::List list) { TellOfMembers(list); },
+          .fetchFixes = nullptr,
+          .openFixPage = nullptr,
           .delayedWriteCfg = [this] { DelayedWriteCfg(); },
           .onFault = errorLog.FaultHandler()};
+}
+
+void Program::TellOfMembers(spots::Membership::List list) {
+  const char* file = list == spots::Membership::List::Lotw ? "lotw.txt" : "eqsl.txt";
+  platform_.dialogs.Tell({.title = "Molva Desk",
+                          .text = std::string("Put the list ") + file + " into the folder\n" +
+                                  folder_ + "\nand start the program again."});
 }
 
 void Program::ChooseLinking() {

@@ -138,6 +138,7 @@ class Program {
 
   StartOptions::Needs NeedsOfStartOptions();
   spots::SpotParts::Needs NeedsOfSpots();
+  void TellOfMembers(spots::Membership::List list);
   void ChooseLinking();
   void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;

@@ -28,8 +28,7 @@ class StandIns : public session::LoggerServer,
   std::set<int> takenPorts;  // on which nothing can listen
   int loggers = 0;           // logging programs that count as connected
   bool mailBusy = false;
-  std::uint64_t announced = 0;  // spots that became announcements
-  std::uint64_t sounds = 0;     // that were put into the queue
+  std::uint64_t sounds = 0;  // that were put into the queue
 
   bool EnableLogger(int port) override {
     ++calls["EnableLogger"];

@@ -31,7 +31,10 @@ void Ties::FeedLogWindow(std::string_view) {}
 
 void Ties::TellBuddies(const spots::Spot&, std::string_view) {}
 
-void Ties::Announce(std::string_view, std::string_view) { ++program_.standIns.announced; }
+// In sight at least, until there is a view for announcements.
+void Ties::Announce(std::string_view text, std::string_view) {
+  program_.session.outgoing.updateText2(text);
+}
 
 bool Ties::CheckAlarm(const spots::Spot&, std::string_view) { return false; }
 

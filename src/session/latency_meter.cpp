@@ -3,20 +3,12 @@
 #include <string>
 #include <utility>
 
-#include "core/text.h"
+#include "core/dates.h"
 
 namespace session {
 namespace {
 
 constexpr std::chrono::seconds kUsualInterval{10};
-
-// Seconds with three digits before the point and one or two behind it, rounded half up.
-std::string Seconds(platform::Milliseconds span, std::size_t decimals) {
-  const unsigned unit = decimals == 1 ? 100 : 10;
-  const unsigned perSecond = 1000 / unit;
-  const unsigned units = (static_cast<unsigned>(span.count()) + unit / 2) / unit;
-  return core::Digits(units / perSecond, 3) + "." + core::Digits(units % perSecond, decimals);
-}
 
 }  // namespace
 
@@ -27,7 +19,7 @@ void LatencyMeter::Latency(std::string_view line) {
   const platform::Milliseconds now = scheduler_.Now();
   const bool soon = now - readAt_.value_or(*sentAt_) < kUsualInterval;
   last_ = now - *sentAt_;
-  Text3.Caption.Set(Seconds(last_, soon ? 2 : 1));
+  Text3.Caption.Set(core::Seconds(last_, 3, soon ? 2 : 1));
   readAt_ = now;
   sentAt_.reset();
 }

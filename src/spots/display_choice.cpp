@@ -98,6 +98,7 @@ void DisplayChoice::Hold() {
   shape.shown.Expanded = optFormat.Selected.Get() == kExpanded;
   shape.spotWidth = core::ValInt(txtSpotWidth.Text.Get());
   layout_ = ArPcScreenSetup(shape);
+  LaidOut.Tell();
 }
 
 void DisplayChoice::ShowFormat() {

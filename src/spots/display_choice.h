@@ -63,6 +63,8 @@ class DisplayChoice {
 
   // Told after what is chosen holds, and stands in the settings.
   core::Observers<> Applied;
+  // Told when the columns may have changed, by the user or by the settings.
+  core::Observers<> LaidOut;
 
   // Takes the settings into the controls, as they stand when the form opens; they hold at once.
   void Read();

@@ -78,6 +78,12 @@ void Duplicates::RecordDxSpot(const Spot& spot) {
   recent_.Record(spot);
 }
 
+void Duplicates::Forget() {
+  recent_ = {};
+  skimmers_ = {};
+  newSkimmerCall_ = false;
+}
+
 void Duplicates::UpdateSkimmerDupeDisplay() {
   SkimmerDupes.Visible.Set(settings_.ShowSkimmerDupes);
   if (!shareChanged_) return;

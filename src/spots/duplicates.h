@@ -55,6 +55,9 @@ class Duplicates {
   bool Admit(const Spot& spot);
   void RecordDxSpot(const Spot& spot);
 
+  // What is cleared from the table may come again.
+  void Forget();
+
   // Brings the label up to date. Called now and then: the share changes with every other spot.
   void UpdateSkimmerDupeDisplay();
 

@@ -35,9 +35,7 @@ FixList::FixList(platform::Files& files, platform::Scheduler& scheduler, core::E
     : files_(files),
       scheduler_(scheduler),
       errorLog_(errorLog),
-      path_(std::move(folder) + "/fixspots.dat") {
-  lblFixes.Caption.Set("0");
-}
+      path_(std::move(folder) + "/fixspots.dat") {}
 
 void FixList::ReadFixSpots() {
   Clear();

@@ -47,7 +47,7 @@ class FixList {
   FixList(platform::Files& files, platform::Scheduler& scheduler, core::ErrorLog& errorLog,
           std::string folder);
 
-  core::Label lblFixes;       // how many spots have been corrected
+  core::Label lblFixes;       // how many spots have been corrected; empty: none
   core::Observers<> Changed;  // entries have changed; what spots change is told with kWriteDelay
 
   const std::vector<FixEntry>& Entries() const { return entries_; }

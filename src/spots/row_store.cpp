@@ -20,7 +20,7 @@ std::size_t RowStore::KeepLast(std::size_t characters) {
 
 std::size_t RowStore::CutBefore(std::size_t position) {
   std::size_t rows = 0;
-  for (std::size_t begins = 1; rows < rows_.size(); ++rows) {
+  for (std::size_t begins = 1; rows + 1 < rows_.size(); ++rows) {
     begins += SizeOf(rows_[rows]);
     if (begins > position) break;
   }

@@ -1,9 +1,9 @@
 #include "spots/spot_list.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
+#include "core/dates.h"
 #include "core/text.h"
 #include "spots/extended_line.h"
 #include "spots/show_dx_line.h"
@@ -20,16 +20,6 @@ constexpr Milliseconds kLongSilence{10'000};
 // A node may answer long after the prompt of an earlier command seemed to end the list.
 constexpr Milliseconds kLateAnswer{10'000};
 constexpr Milliseconds kLongTime{10'000};
-
-// Seconds with so many digits before the point at least and behind it, rounded half up.
-std::string Seconds(Milliseconds span, std::size_t width, std::size_t decimals) {
-  const unsigned unit = decimals == 1 ? 100 : 10;
-  const auto units = (static_cast<unsigned>(std::abs(span.count())) + unit / 2) / unit;
-  const unsigned perSecond = 1000 / unit;
-  const std::string sign = span.count() < 0 && units > 0 ? "-" : "";
-  return sign + core::Digits(units / perSecond, width) + "." +
-         core::Digits(units % perSecond, decimals);
-}
 
 bool SaysNoRecords(std::string_view line) { return core::InStr(line, "*** no records found") > 0; }
 
@@ -119,8 +109,8 @@ void SpotList::Reopen() {
 void SpotList::ShowTimes() {
   if (!requestedAt_) return;  // nobody has asked for it
   const Milliseconds time = scheduler_.Now() - *requestedAt_;
-  lblSeconds.Caption.Set(Seconds(time, 3, time < kLongTime ? 2 : 1));
-  lblBeyondLatency.Caption.Set(Seconds(time - needs_.latency(), 1, 2));
+  lblSeconds.Caption.Set(core::Seconds(time, 3, time < kLongTime ? 2 : 1));
+  lblBeyondLatency.Caption.Set(core::Seconds(time - needs_.latency(), 1, 2));
 }
 
 void SpotList::Prompted() {

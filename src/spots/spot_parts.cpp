@@ -45,8 +45,15 @@ SpotParts::SpotParts(const platform::Platform& platform, core::Calendar& calenda
       spotsForm(settings, reload,
                 {.settingsChanged = needs_.delayedWriteCfg,
                  .loggingChanged = [this] { log.EnableLoggingSpots(); },
-                 .setupSpotNrs = [this] { numbers.SetupSpotNrs(); }}) {
+                 .setupSpotNrs = [this] { ShowNumbers(); }}) {
   words_.isPrefix = [this](std::string_view word) { return reference.countries.HasPrefix(word); };
+  if (!needs_.fetchFixes) {
+    for (core::Button* button : {&fixForm.cmdWebUpdate, &fixForm.cmdHelp}) {
+      button->Enabled.Set(false);
+      button->ToolTip.Set("No host of lists is set");
+    }
+  }
+  kept_.push_back(fixForm.optFixSpot.Click.Add(needs_.delayedWriteCfg));
   for (core::Check* check : {&membership.showlotw, &membership.showeqsl, &membership.RejectNot,
                              &membership.LotwChecker, &membership.eQSLchecker})
     kept_.push_back(check->Click.Add(needs_.delayedWriteCfg));
@@ -159,7 +166,7 @@ void SpotParts::TakeSettings() {
   rejectForm.Load();
   membership.TakeSettings();
   requests.Load();
-  numbers.SetupSpotNrs();
+  ShowNumbers();
 }
 
 void SpotParts::TakeDisplay() {
@@ -199,6 +206,16 @@ void SpotParts::Tick() {
   const int minute = MomentNow(calendar_).minutes;
   if (std::exchange(minute_, minute) != minute) table.RefreshLastHour();
   duplicates.UpdateSkimmerDupeDisplay();
+}
+
+void SpotParts::ClearSpots() {
+  duplicates.Forget();
+  table.ClearSpots();
+}
+
+void SpotParts::ShowNumbers() {
+  numbers.SetupSpotNrs();
+  numbers.ShowRows(table.RtbDx.Rows().size());
 }
 
 void SpotParts::Disconnected() {

@@ -59,7 +59,7 @@ class SpotParts {
     std::function<void(platform::Files::Fault fault)> logTrouble;
     std::function<void(std::string_view text)> tell;  // shows a message
     std::function<void(Membership::List list)> updateMembers;
-    std::function<void(std::string_view path)> fetchFixes;
+    std::function<void(std::string_view path)> fetchFixes;  // none: there is no host of lists
     std::function<void(std::string_view path)> openFixPage;
     std::function<void()> delayedWriteCfg;
     platform::FaultHandler onFault;
@@ -78,6 +78,8 @@ class SpotParts {
   void BeginLog();
   // Ten times a second: what waits goes into a sorted view, and counts are shown.
   void Tick();
+  // Empties the table; what was in it may come again from the node or the log.
+  void ClearSpots();
   // The session has ended.
   void Disconnected();
   // The program ends: what waits is written.
@@ -122,6 +124,7 @@ class SpotParts {
   bool ApplySpotFix(std::string_view call, FixTarget target);
   const WordFacts& WordsNow();
   void TakeDisplay();
+  void ShowNumbers();
   void FollowReload(bool reloading);
 
   int minute_ = -1;  // of the last tick, of the day

@@ -28,7 +28,7 @@ class SpotRequests {
     std::function<bool(std::string_view text)> sendAsIs;
     std::function<void(bool busy)> setSpotListBusy;
     std::function<void(bool done)> setShDxDone;
-    std::function<void()> missedRequested;          // starts the time, clears what is shown of it
+    std::function<void()> missedRequested;  // starts the time, clears what is shown of it
     std::function<void()> settingsChanged;
   };
 

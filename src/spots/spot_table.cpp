@@ -152,13 +152,13 @@ void SpotTable::EndReload() {
 }
 
 void SpotTable::UpdateDxSpots() {
+  if (reloading_) return RtbDx.Redraw({});
   if (sorted_.IsActive()) return ShowSorted();
-  if (!reloading_) RtbDx.Redraw(SelectedStore().Rows());
+  RtbDx.Redraw(SelectedStore().Rows());
 }
 
 void SpotTable::ShowSorted() {
   sorted_.Renew();
-  if (reloading_) return;
   sorted_.Run(SelectedStore().Rows(), Now());
   RtbDx.Redraw(sorted_.Rows(reversed_));
 }

@@ -25,6 +25,7 @@ constexpr std::array kTicks = {
 };
 
 constexpr int kDefaultMemory = 200;
+constexpr int kLeastMemory = 20;
 
 }  // namespace
 
@@ -53,8 +54,8 @@ SpotsForm::SpotsForm(Settings& settings, SpotReload& reload, Needs needs)
 std::array<SpotsForm::Number, 4> SpotsForm::Numbers() {
   return {{{Text1, settings_.KeepSpotsDays, "Number of days to keep", 1, 1},
            {txtReloadNr, settings_.ReloadHours, "Number of hours to reload", 0, 0},
-           {txtMemory[0], settings_.SpotMemoryAll, "ALL", 1, kDefaultMemory},
-           {txtMemory[1], settings_.SpotMemorySingle, "Single", 1, kDefaultMemory}}};
+           {txtMemory[0], settings_.SpotMemoryAll, "ALL", kLeastMemory, kDefaultMemory},
+           {txtMemory[1], settings_.SpotMemorySingle, "Single", kLeastMemory, kDefaultMemory}}};
 }
 
 void SpotsForm::Show() {
@@ -63,6 +64,7 @@ void SpotsForm::Show() {
     const int kept = number.setting < number.least ? number.fallback : number.setting;
     number.box.Text.Set(std::to_string(kept));
   }
+  shown_ = true;
   Open.Set(true);
 }
 
@@ -82,17 +84,26 @@ void SpotsForm::BindChecks() {
 void SpotsForm::BindNumbers() {
   for (const Number& number : Numbers()) {
     number.box.Caption.Set(number.caption);
-    bound_.push_back(number.box.Change.Add([this, number] {
-      number.setting = number.Typed();
-      needs_.settingsChanged();
-    }));
+    bound_.push_back(number.box.Return.Add([this] { TakeNumbers(); }));
   }
+  bound_.push_back(Open.Observe([this](bool open) {
+    if (!open && shown_) TakeNumbers();
+  }));
+}
+
+// Not with each key: on the way to "500" a limit of 5 would cost all spots but a few.
+void SpotsForm::TakeNumbers() {
+  for (const Number& number : Numbers())
+    if (std::exchange(number.setting, number.Typed()) != number.Typed()) needs_.settingsChanged();
 }
 
 void SpotsForm::BindReload() {
   cmdReload.Caption.Set("Reload");
   cmdStop.Caption.Set("Stop");
-  bound_.push_back(cmdReload.Click.Add([this] { reload_.ReloadSpots(); }));
+  bound_.push_back(cmdReload.Click.Add([this] {
+    if (shown_) TakeNumbers();
+    reload_.ReloadSpots();
+  }));
   bound_.push_back(cmdStop.Click.Add([this] { reload_.Stop(); }));
   bound_.push_back(reload_.Reloading.Observe([this](bool reloading) {
     cmdReload.Enabled.Set(!reloading);

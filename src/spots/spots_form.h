@@ -11,7 +11,7 @@
 namespace spots {
 
 // frmSpots: what is kept of the spots, in memory and in files, and the reload of the files. Each
-// act of the user counts at once.
+// tick counts at once; a number with Return, with the reload, and when the form is closed.
 class SpotsForm {
  public:
   static constexpr const char* kTitle = "Dx Spot Log File ";
@@ -49,11 +49,13 @@ class SpotsForm {
   std::array<Number, 4> Numbers();
   void BindChecks();
   void BindNumbers();
+  void TakeNumbers();
   void BindReload();
 
   core::Settings& settings_;
   SpotReload& reload_;
   Needs needs_;
+  bool shown_ = false;  // the boxes hold something
   std::vector<platform::Registration> bound_;
 };
 

@@ -67,7 +67,7 @@ FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frame
   strip->Controls()->addWidget(rows);
   AddFind(strip);
   auto* get = MakeButton(tr("Get spots"), tr("Get spots…"), strip);
-  new GetSpotsPanel(models.requests, models.table, frames, get);
+  new GetSpotsPanel(models.requests, acts.clearSpots, frames, get);
   strip->Controls()->addWidget(get);
   const auto add = [&](const QString& caption, const QString& name, std::function<void()> act) {
     QPushButton* button = MakeButton(caption, name, strip);

@@ -33,7 +33,8 @@ class DxPage : public QWidget {
   struct Acts {
     std::function<void(const spots::Click&)> click;
     std::function<spots::ClickKeys()> clickChoice;  // as SpotView takes it
-    std::function<void()> columns;                  // these open dialogs
+    std::function<void()> clearSpots;
+    std::function<void()> columns;  // these open dialogs
     std::function<void()> spotLog;
     std::function<void()> rejects;
     std::function<void()> corrections;

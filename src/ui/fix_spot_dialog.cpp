@@ -72,10 +72,10 @@ FixSpotDialog::FixSpotDialog(Model model, Frames& frames, LiveTheme& theme, QWid
   auto* fixes = new QLabel(this);
   fixes->setProperty("dim", true);
   fixes->setTextFormat(Qt::PlainText);
-  BindProperty<std::string>(fixes, model.list.lblFixes.Caption, frames,
-                            [fixes](const std::string& count) {
-                              fixes->setText(tr("Spots corrected: %1").arg(TextOf(count)));
-                            });
+  BindProperty<std::string>(
+      fixes, model.list.lblFixes.Caption, frames, [fixes](const std::string& count) {
+        fixes->setText(count.empty() ? QString() : tr("Spots corrected: %1").arg(TextOf(count)));
+      });
   QHBoxLayout* foot = AddCloseButton(column, this);
   foot->insertWidget(0, result);
   foot->insertWidget(1, fixes);

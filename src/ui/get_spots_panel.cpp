@@ -20,8 +20,8 @@ QString CallHint(bool usable) {
 
 }  // namespace
 
-GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, spots::SpotTable& table, Frames& frames,
-                             QPushButton* button)
+GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear,
+                             Frames& frames, QPushButton* button)
     : DropPanel(button, tr("Get spots from the node")),
       requests_(requests),
       band_(new QComboBox(this)),
@@ -38,8 +38,8 @@ GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, spots::SpotTable& ta
   get->setAccessibleName(tr("Get the spots of this band or call"));
   auto* missed = new QPushButton(tr("Missed"), this);
   missed->setAccessibleName(tr("Get the missed spots"));
-  auto* clear = new QPushButton(tr("Clear Spots"), this);
-  clear->setAccessibleName(tr("Clear all spots from the table"));
+  auto* clearing = new QPushButton(tr("Clear Spots"), this);
+  clearing->setAccessibleName(tr("Clear all spots from the table"));
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 16, 16, 16);
   grid->setSpacing(8);
@@ -51,12 +51,12 @@ GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, spots::SpotTable& ta
   grid->addWidget(new QLabel(tr("Count"), this), 2, 0);
   grid->addWidget(count, 2, 1);
   grid->addWidget(missed, 2, 2);
-  grid->addWidget(clear, 3, 2);
+  grid->addWidget(clearing, 3, 2);
   connect(get, &QPushButton::clicked, this, [this] { GetSpots(); });
   connect(call_, &QLineEdit::returnPressed, this, [this] { GetSpots(); });
-  connect(clear, &QPushButton::clicked, this, [this, &table] {
+  connect(clearing, &QPushButton::clicked, this, [this, clear = std::move(clear)] {
     close();
-    table.ClearSpots();
+    clear();
   });
   connect(missed, &QPushButton::clicked, this, [this] { GetMissed(); });
   connect(band_, &QComboBox::currentIndexChanged, this, [this](int band) {

@@ -2,9 +2,9 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <functional>
 
 #include "spots/spot_requests.h"
-#include "spots/spot_table.h"
 #include "ui/drop_panel.h"
 #include "ui/frames.h"
 
@@ -13,8 +13,8 @@ namespace ui {
 // Asks the node for spots: of a band, of a call, or for those that were missed.
 class GetSpotsPanel : public DropPanel {
  public:
-  // Requests and table outlive it.
-  GetSpotsPanel(spots::SpotRequests& requests, spots::SpotTable& table, Frames& frames,
+  // The requests outlive it. `clear` empties the table.
+  GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear, Frames& frames,
                 QPushButton* button);
 
  private:

@@ -151,6 +151,7 @@ DxPage* MainWindow::MakeDxPage(Frames& frames, LiveTheme& theme) {
                      .settings = program_.settings},
                     {.click = [this](const spots::Click& click) { Do(click); },
                      .clickChoice = {},
+                     .clearSpots = [&parts] { parts.ClearSpots(); },
                      .columns = [this] { columns_->Show(); },
                      .spotLog = [&parts] { parts.spotsForm.Show(); },
                      .rejects = [this] { rejects_->Show(); },

@@ -168,7 +168,7 @@ SpotHeads::SpotHeads(spots::SpotTable& table, spots::DisplayChoice& display,
       painter_(painter),
       colours_(std::move(colours)) {
   MakeHeads();
-  following_.push_back(display.Applied.Add([this] { MakeHeads(); }));
+  following_.push_back(display.LaidOut.Add([this] { MakeHeads(); }));
   following_.push_back(table.optSortBy.Observe([this](int) { Renew(); }));
 }
 

@@ -226,8 +226,10 @@ int SpotView::RowsInSight() const {
 }
 
 std::size_t SpotView::SpotsBehind(Number stars) const {
+  const Number step = model_.table.Reversed() ? -1 : 1;
   std::size_t spots = 0;
-  for (Number row = stars + 1; row < rows_.End() && !rows_.Row(row).IsStars(); ++row) ++spots;
+  for (Number row = stars + step; rows_.Holds(row) && !rows_.Row(row).IsStars(); row += step)
+    ++spots;
   return spots;
 }
 

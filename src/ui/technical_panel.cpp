@@ -40,8 +40,8 @@ TechnicalPanel::TechnicalPanel(program::Program& program, Frames& frames, QWidge
   Add(tr("Spots against the node's country filter"), spots.localReject.lblFilterErrors, frames);
   Add(tr("Spots rejected"), spots.rejectLists.lblRejected, frames);
   Add(tr("Share of duplicates among Skimmer spots"), spots.duplicates.SkimmerDupes, frames);
-  Add(tr("Spots corrected"), spots.fixList.lblFixes, frames);
-  AddLatency(session.latency.Text3, frames);
+  AddFigure(tr("Spots corrected"), spots.fixList.lblFixes, frames);
+  AddFigure(tr("Seconds to the node's answer"), session.latency.Text3, frames);
   AddDebugging(program.DebuggingOn, frames);
 }
 
@@ -53,18 +53,18 @@ void TechnicalPanel::Add(const QString& name, core::Label& model, Frames& frames
   HideWhileEmpty(figure, model, frames);
 }
 
-void TechnicalPanel::AddLatency(core::Label& model, Frames& frames) {
-  auto* words = new QLabel(tr("Seconds to the node's answer ="), this);
-  auto* seconds = new QLabel(this);
-  seconds->setAccessibleName(tr("Seconds to the node's answer"));
+void TechnicalPanel::AddFigure(const QString& name, core::Label& model, Frames& frames) {
+  auto* words = new QLabel(name + QLatin1String(" ="), this);
+  auto* figure = new QLabel(this);
+  figure->setAccessibleName(name);
   auto* row = new QHBoxLayout;
   row->setSpacing(4);
   row->addWidget(words);
-  row->addWidget(seconds);
+  row->addWidget(figure);
   row->addStretch();
   column_->addLayout(row);
-  BindLabel(seconds, model, frames);
-  HideWhileEmpty(seconds, model, frames);
+  BindLabel(figure, model, frames);
+  HideWhileEmpty(figure, model, frames);
   HideWhileEmpty(words, model, frames);
 }
 

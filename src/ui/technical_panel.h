@@ -15,8 +15,9 @@ class TechnicalPanel : public QWidget {
   TechnicalPanel(program::Program& program, Frames& frames, QWidget* parent);
 
  private:
+  // A model that says what it counts, and one that is a bare figure.
   void Add(const QString& name, core::Label& model, Frames& frames);
-  void AddLatency(core::Label& model, Frames& frames);
+  void AddFigure(const QString& name, core::Label& model, Frames& frames);
   void AddDebugging(core::Check& model, Frames& frames);
 
   QVBoxLayout* column_;

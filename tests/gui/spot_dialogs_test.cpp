@@ -126,11 +126,14 @@ TEST_F(SpotDialogsTest, InvalidCountrySaysThatItRejectsNothingYet) {
 
 // The spot log.
 
-TEST_F(SpotDialogsTest, TheSpotLogsNumbersCountWhileTheyAreTyped) {
+TEST_F(SpotDialogsTest, TheSpotLogsNumbersCountWhenItIsClosed) {
   QDialog& dialog = Opened("Spot log", "Dx Spot Log File ");
   Type(dialog, "Number of days to keep", "12");
   Type(dialog, "Max spots displayed, each band", "55");
   Click(dialog, "Save Dx Spots To Log File");
+  EXPECT_EQ(program->settings.KeepSpotsDays, 7);
+  dialog.close();
+  Run(100ms);
   EXPECT_EQ(program->settings.KeepSpotsDays, 12);
   EXPECT_EQ(program->settings.SpotMemorySingle, 55);
 }

@@ -160,7 +160,7 @@ TEST_F(FixListTest, EntryThatChangesNothingMatchesAllTheSame) {
   Have("K1ABC,K\r\n");
   spot.DxCty = "K";
   EXPECT_TRUE(Apply("K1ABC"));
-  EXPECT_EQ(list.lblFixes.Caption.Get(), "0");
+  EXPECT_EQ(list.lblFixes.Caption.Get(), "");
   EXPECT_FALSE(list.Entries()[0].used);
 }
 
@@ -176,7 +176,7 @@ TEST_F(FixListTest, WhileAListIsStoredTheCounterStandsAndEveryMatchIsNoted) {
   CtyOf("K1ABC");
   spot.DxCty = "G";
   Apply("G0AA");
-  EXPECT_EQ(list.lblFixes.Caption.Get(), "0");
+  EXPECT_EQ(list.lblFixes.Caption.Get(), "");
   EXPECT_EQ(list.Entries()[0].FixMask, 1u);
   EXPECT_EQ(list.Entries()[1].FixMask, 0u);
   EXPECT_TRUE(list.Entries()[1].used);

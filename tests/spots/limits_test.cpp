@@ -140,6 +140,13 @@ TEST_F(Limits, SpotCostsNoMemoryButItsRowAndItsPlaces) {
   EXPECT_LT((MemoryMeter::Allocated() - before) / lines.size(), 200u);
 }
 
+TEST_F(Limits, LastRowStaysHoweverSmallTheMemory) {
+  settings.SpotMemoryAll = settings.SpotMemorySingle = 1;
+  ReceiveMany(50);
+  EXPECT_GE(CallsInTable().size(), 1u);
+  EXPECT_GE(CallsInStore(k20, 0).size(), 1u);
+}
+
 TEST_F(Limits, NewSettingsHoldFromTheNextSpotOn) {
   ReceiveMany(200);
   settings.SpotMemoryAll = 1;

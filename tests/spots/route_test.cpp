@@ -218,6 +218,24 @@ TEST_F(Route, ClearedSpotsLeaveEveryStoreAndTheTable) {
   EXPECT_THAT(CallsInTable(), ElementsAre("K1ABC"));
 }
 
+TEST_F(Route, WhatWasClearedMayComeAgain) {
+  Receive(Line{});
+  Receive({.spotter = "DL1ABC-#", .call = "K1ABC", .time = "2100"});
+  parts.ClearSpots();
+  Receive(Line{});
+  Receive({.spotter = "DL1ABC-#", .call = "K1ABC", .time = "2100"});
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J", "K1ABC"));
+}
+
+TEST_F(Route, AnotherBandDuringAReloadIsEmptyUntilItsEnd) {
+  Receive(Line{});
+  table.BeginReload();
+  table.rail.optBand.UserSelects(k20);
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  table.EndReload();
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+}
+
 TEST_F(Route, LastHourLosesWhatHasBecomeOldWithoutNewSpots) {
   Receive({.time = "2059"});
   table.SortBy(spots::kLastHour);

@@ -71,7 +71,7 @@ TEST_F(SpotsFormTest, OpensWithTheSettings) {
   EXPECT_EQ(changed, 0);
 }
 
-TEST_F(SpotsFormTest, EachActOfTheUserCountsAtOnce) {
+TEST_F(SpotsFormTest, TickCountsAtOnceAndNumbersWhenTheyAreWhole) {
   form.Show();
   form.chkSave.UserSets(true);
   form.chkLoad.UserSets(true);
@@ -85,6 +85,8 @@ TEST_F(SpotsFormTest, EachActOfTheUserCountsAtOnce) {
   form.txtReloadNr.UserTypes("24");
   form.txtMemory[0].UserTypes("1000");
   form.txtMemory[1].UserTypes("500");
+  EXPECT_EQ(settings.SpotMemorySingle, 200);
+  form.txtMemory[1].UserPressesReturn();
   EXPECT_EQ(settings.KeepSpotsDays, 3);
   EXPECT_EQ(settings.ReloadHours, 24);
   EXPECT_EQ(settings.SpotMemoryAll, 1000);
@@ -92,11 +94,19 @@ TEST_F(SpotsFormTest, EachActOfTheUserCountsAtOnce) {
   EXPECT_EQ(changed, 8);
 }
 
+TEST_F(SpotsFormTest, ClosingTheFormTakesItsNumbers) {
+  form.Show();
+  form.txtMemory[0].UserTypes("1000");
+  form.Open.Set(false);
+  EXPECT_EQ(settings.SpotMemoryAll, 1000);
+}
+
 TEST_F(SpotsFormTest, NumbersThatMakeNoSenseCountAsTheDefault) {
   for (const char* typed : {"", "0", "-7", "many"}) {
     for (core::TextBox* box :
          {&form.Text1, &form.txtReloadNr, &form.txtMemory[0], &form.txtMemory[1]})
       box->UserTypes(typed);
+    form.Text1.UserPressesReturn();
     EXPECT_EQ(settings.KeepSpotsDays, 1) << typed;
     EXPECT_EQ(settings.ReloadHours, 0) << typed;
     EXPECT_EQ(settings.SpotMemoryAll, 200) << typed;
