@@ -30,6 +30,10 @@ bool IsLogName(const core::Calendar& calendar, std::string_view name) {
   return name == core::Trim(name) && DayOfDate(calendar, name) != 0;
 }
 
+std::string Within(std::string folder, std::string_view name) {
+  return folder.append("/").append(name);
+}
+
 }  // namespace
 
 std::string LogFolder(const std::string& programFolder, int day) {
@@ -60,10 +64,10 @@ void DeleteLogFiles(platform::Files& files, core::Calendar& calendar,
   std::ranges::sort(kept);
   for (const std::string& year : files.List(programFolder)) {
     if (!IsYear(year)) continue;
-    const std::string folder = programFolder + '/' + year;
+    const std::string folder = Within(programFolder, year);
     for (const std::string& name : files.List(folder))
       if (IsLogName(calendar, name) && !std::ranges::binary_search(kept, name))
-        files.Remove(folder + '/' + name);
+        files.Remove(Within(folder, name));
   }
 }
 
