@@ -267,6 +267,32 @@ TEST_F(Route, StateNamesTheCountryToo) {
   EXPECT_THAT(CallsInTable(), ElementsAre("W8RIK"));
 }
 
+TEST_F(Route, UnknownCountryIsNotTheFirstCountryWord) {
+  settings.RejSpots = settings.RejectInvalidCountry = true;
+  parts.lines.ZV11CarrotCounter(
+      "ZV11^14025.0^3Y0J^20-Nov-2026^2116Z^CW up^DL1ABC^^^N0NODE^28^14^28^14^^^??^DL^^^");
+  EXPECT_FALSE(parts.rejectLists.CountryWordSeen.Get());
+}
+
+TEST_F(Route, ListOfTheStartIsAwaitedOnlyIfMissedSpotsAreAskedFor) {
+  for (const bool asked : {true, false}) {
+    settings.GetMissedOnes = asked;
+    parts.BeginLog();
+    EXPECT_EQ(parts.lines.list.ShDxDone, !asked);
+    parts.Disconnected();
+    EXPECT_EQ(parts.lines.list.ShDxDone, !asked);
+  }
+}
+
+TEST_F(Route, ChoiceOfMembersIsKept) {
+  for (core::Check* check :
+       {&parts.membership.showlotw, &parts.membership.RejectNot, &parts.membership.LotwChecker}) {
+    const int before = writes;
+    check->UserSets(!check->Value.Get());
+    EXPECT_EQ(writes, before + 1);
+  }
+}
+
 TEST_F(Route, LogWindowIsFedWhateverTheLoggersWant) {
   receivers.takesLines = true;
   settings.SendToLog = 0;

@@ -51,7 +51,7 @@ spots::SpotParts::Needs SpotDesk::Needs() {
           .updateMembers = [](spots::Membership::List) {},
           .fetchFixes = [](std::string_view) {},
           .openFixPage = [](std::string_view) {},
-          .delayedWriteCfg = [] {},
+          .delayedWriteCfg = [this] { ++writes; },
           .onFault = [](std::string_view, std::string_view) {}};
 }
 

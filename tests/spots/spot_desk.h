@@ -72,6 +72,7 @@ class SpotDesk : public testing::Test {
   spots::NodeFacts node{.Ar17Refused = true, .SessionUp = true};
   Receivers receivers;
   int settlingLines = 0;
+  int writes = 0;  // of the settings, asked for
   Texts sent, rawText, messages;
   spots::SpotParts parts{platform, calendar, settings, errorLog, "/home", Needs()};
   spots::SpotTable& table = parts.table;
