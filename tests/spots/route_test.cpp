@@ -267,6 +267,19 @@ TEST_F(Route, StateNamesTheCountryToo) {
   EXPECT_THAT(CallsInTable(), ElementsAre("W8RIK"));
 }
 
+TEST_F(Route, SkimmersCallThatMustBeConfirmedIsShownAndLoggedAtItsSecondReport) {
+  parts.duplicates.SkimmerConfirm = true;
+  const Line report = {.spotter = "DL1ABC-#", .time = "2100"};
+  Receive(report);
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  EXPECT_THAT(Log(), Not(HasSubstr("3Y0J")));
+  Receive(report);
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+  Receive(report);
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+  EXPECT_THAT(rawText, ElementsAre(" **** New One ****", " **** Dupe ****"));
+}
+
 TEST_F(Route, UnknownCountryIsNotTheFirstCountryWord) {
   settings.RejSpots = settings.RejectInvalidCountry = true;
   parts.lines.ZV11CarrotCounter(
