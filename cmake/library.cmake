@@ -1,14 +1,16 @@
-# molva_library(NAME SOURCES ... [LINK ...]): one library a folder of src/.
-# Headers are included as "folder/file.h", from src/.
+# molva_library(NAME [QT] SOURCES ... [LINK ...] [HEADERS ...]): one library a folder of src/.
+# Headers are included as "folder/file.h", from src/. HEADERS are those of others that its sources
+# include most, and are precompiled; without them it takes those that the lowest library has compiled,
+# the standard ones.
 function(molva_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "QT" "" "SOURCES;LINK;HEADERS")
   add_library(${name} STATIC ${arg_SOURCES})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${name} PUBLIC ${arg_LINK})
-endfunction()
-
-# molva_qt_headers(TARGET HEADER ...): precompiles the Qt headers that a target includes most.
-function(molva_qt_headers name)
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
-  target_precompile_headers(${name} PRIVATE ${ARGN})
+  set_target_properties(${name} PROPERTIES AUTOMOC ${arg_QT})
+  if(arg_HEADERS)
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+  else()
+    target_precompile_headers(${name} REUSE_FROM molva_platform)
+  endif()
 endfunction()

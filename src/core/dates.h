@@ -11,6 +11,8 @@ namespace core {
 
 using LocalTime = std::chrono::local_time<std::chrono::milliseconds>;
 
+inline constexpr int kMinutesOfDay = 24 * 60;
+
 // By the month's number; the first is no month. Never the system's language.
 inline constexpr std::array<std::string_view, 13> kMonthNames = {
     "", "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};

@@ -78,6 +78,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
   session.timers.SetDuty(TimerId::DxQue, [this] { spotParts.Tick(); });
 }
 
+Program::~Program() = default;
+
 // A link that is up has been through its login: what is ticked now is for the next one.
 StartOptions::Needs Program::NeedsOfStartOptions() {
   return {.delayedWriteCfg = [this] { DelayedWriteCfg(); },
@@ -126,10 +128,10 @@ spots::SpotParts::Needs Program::NeedsOfSpots() {
 }
 
 void Program::TellOfMembers(spots::Membership::List list) {
-  const char* file = list == spots::Membership::List::Lotw ? "lotw.txt" : "eqsl.txt";
+  const std::string file = list == spots::Membership::List::Lotw ? "lotw.txt" : "eqsl.txt";
   platform_.dialogs.Tell({.title = "Molva Desk",
-                          .text = std::string("Put the list ") + file + " into the folder\n" +
-                                  folder_ + "\nand start the program again."});
+                          .text = "Put the list " + file + " into the folder\n" + folder_ +
+                                  "\nand start the program again."});
 }
 
 void Program::ChooseLinking() {

@@ -58,6 +58,7 @@ class Program {
 
   // The platform outlives the program. `folder` is the program's folder.
   Program(const platform::Platform& platform, std::string folder, Needs needs);
+  ~Program();
 
   // Begins the start-up. It goes on by itself, and ends with Loading false.
   void Start();

@@ -33,6 +33,13 @@ platform::Milliseconds RetryInterval(std::uint32_t seed) {
   return platform::Milliseconds{std::uniform_int_distribution<int>(55000, 65000)(random)};
 }
 
+void BringMissing(platform::Files& files, const std::string& folder) {
+  for (const DataFile& file : kDataFiles) {
+    const std::string path = folder + "/" + file.name;
+    if (!files.Exists(path)) files.Replace(path, file.content);
+  }
+}
+
 }  // namespace
 
 struct Program::Step {
@@ -98,9 +105,7 @@ void Program::WriteDebugCfg(bool on) {
 }
 
 platform::Task<> Program::BringDataFiles() {
-  for (const DataFile& file : kDataFiles)
-    if (!platform_.files.Exists(Path(file.name)))
-      platform_.files.Replace(Path(file.name), file.content);
+  BringMissing(platform_.files, folder_);
   if (!platform_.files.Exists(Path("cty.dat"))) BringCountryFile();
   endpoints = core::ReadEndpoints(platform_.files, folder_);
   co_return;

@@ -112,6 +112,8 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
       });
 }
 
+Session::~Session() = default;
+
 void Session::LoggedIn() {
   commandLine.txtCmdLine.Text.Set({});
   if (state.TncMode) tncLink.ShowSession(true);

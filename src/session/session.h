@@ -70,6 +70,7 @@ class Session {
 
   Session(const platform::Platform& platform, const core::Calendar& calendar,
           core::Settings& settings, Needs needs);
+  ~Session();
 
   SessionState state;
   const std::unique_ptr<platform::TcpSocket> WinsockOut;

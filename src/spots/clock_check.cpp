@@ -11,14 +11,13 @@
 namespace spots {
 namespace {
 
-constexpr int kMinutesOfDay = 24 * 60;
 constexpr int kLeast = 56;
 constexpr int kMost = 64;
 
 // The shorter way round, for one of them may be on the other side of midnight.
 int Distance(int minutes, int other) {
-  const int distance = std::abs(minutes - other) % kMinutesOfDay;
-  return std::min(distance, kMinutesOfDay - distance);
+  const int distance = std::abs(minutes - other) % core::kMinutesOfDay;
+  return std::min(distance, core::kMinutesOfDay - distance);
 }
 
 }  // namespace

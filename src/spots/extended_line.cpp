@@ -60,14 +60,14 @@ void CutGrid(std::string& grid) {
   if (ValidGrid4(grid)) grid.erase(4);
 }
 
-bool IsSkimmer(const Spot& spot) { return spot.Spotter.ends_with('#'); }
+bool SpottedBySkimmer(const Spot& spot) { return spot.Spotter.ends_with('#'); }
 
 // The place and the address stand before the end of a line that is long enough to have them.
 void FillOrigin(const CaretFields& fields, Spot& spot) {
   const std::size_t last = fields.Last();
   spot.OrigLocation.clear();
   spot.SpotterIp.clear();
-  if (IsSkimmer(spot)) {
+  if (SpottedBySkimmer(spot)) {
     if (last > 20) spot.OrigLocation = fields.FromEnd(1);
   } else if (last > 23) {
     spot.OrigLocation = fields.FromEnd(2);

@@ -51,7 +51,7 @@ bool IsHeading(std::string_view call) {
   return core::SameIgnoringCase(call, "CALL") || core::SameIgnoringCase(call, "oldcall");
 }
 
-std::string Field(std::size_t field, std::string_view text) {
+std::string CleanField(std::size_t field, std::string_view text) {
   std::string value(core::Trim(core::Trim(text).substr(0, kColumns[field].width)));
   const bool zone = field == kFixCq || field == kFixItu;
   if (zone && value.size() == 1) value.insert(0, 1, ' ');
@@ -117,7 +117,7 @@ std::optional<FixEntry> MakeFixEntry(std::string_view call,
   if (!IsFixCall(call) || IsHeading(call)) return std::nullopt;
   FixEntry entry;
   entry.FixCall = call;
-  for (std::size_t i = 0; i < kFixFields; ++i) entry.fields[i] = Field(i, fields[i]);
+  for (std::size_t i = 0; i < kFixFields; ++i) entry.fields[i] = CleanField(i, fields[i]);
   if (!std::all_of(entry.fields.begin(), entry.fields.end(), IsFixText)) return std::nullopt;
   return entry;
 }

@@ -13,7 +13,7 @@ constexpr std::size_t kFrequencyEnd = 24;
 constexpr std::size_t kRest = std::string_view::npos;
 
 // The piece of the row from `start` on; empty where the row has ended.
-std::string_view Piece(std::string_view row, std::size_t start, std::size_t length) {
+std::string_view Cut(std::string_view row, std::size_t start, std::size_t length) {
   return start < row.size() ? row.substr(start, length) : std::string_view();
 }
 
@@ -49,12 +49,12 @@ RowParts ClassicParts(const TableRow& row) {
   RowParts parts;
   parts.head = text.substr(0, kHeadSize);
   parts.spotter = row.Spotter();
-  parts.frequency = Piece(text, places.frequency, places.frequencyEnd - places.frequency);
-  parts.mark = Piece(text, places.call - 1, 1);
+  parts.frequency = Cut(text, places.frequency, places.frequencyEnd - places.frequency);
+  parts.mark = Cut(text, places.call - 1, 1);
   parts.call = row.DxCall();
-  parts.comment = core::RTrim(Piece(text, places.comment, row.CommentField()));
-  parts.time = Piece(text, places.time, kTimeWidth);
-  parts.tail = Piece(text, places.tail, kRest);
+  parts.comment = core::RTrim(Cut(text, places.comment, row.CommentField()));
+  parts.time = Cut(text, places.time, kTimeWidth);
+  parts.tail = Cut(text, places.tail, kRest);
   return parts;
 }
 
@@ -68,18 +68,18 @@ std::string_view ClassicField(const TableRow& row, const RowLayout& layout, Colu
     case Column::Spotter:
       return row.Spotter();
     case Column::Freq:
-      return Piece(text, places.frequency, places.frequencyEnd - places.frequency);
+      return Cut(text, places.frequency, places.frequencyEnd - places.frequency);
     case Column::DxCall:
       return row.DxCall();
     case Column::Comment:
-      return Piece(text, places.comment, row.CommentField());
+      return Cut(text, places.comment, row.CommentField());
     default:
       break;
   }
   const std::size_t time = Index(layout.Start(Column::Time));
   // Those before the time and behind it move along with it.
-  return start < time ? Piece(text, places.time - (time - start), width)
-                      : Piece(text, places.time + (start - time), width);
+  return start < time ? Cut(text, places.time - (time - start), width)
+                      : Cut(text, places.time + (start - time), width);
 }
 
 std::string_view ExpandedField(const TableRow& row, const RowLayout& layout, Column column) {
@@ -87,7 +87,7 @@ std::string_view ExpandedField(const TableRow& row, const RowLayout& layout, Col
   const std::size_t start = Index(layout.Start(column));
   if (column == Column::Spotter) return row.Spotter();
   if (column == Column::DxCall) return row.DxCall();
-  const std::string_view field = Piece(text, start, static_cast<std::size_t>(layout.Width(column)));
+  const std::string_view field = Cut(text, start, static_cast<std::size_t>(layout.Width(column)));
   // A node may reach into the room of the frequency.
   return column == Column::Node ? field.substr(0, field.find(' ')) : field;
 }
@@ -144,7 +144,7 @@ DrawnRow DrawnExpanded(const TableRow& row, const RowLayout& layout) {
     drawn.Add(Cut(field, layout.Width(column)), start, InkOf(column));
   }
   const int mark = layout.Start(Column::Freq) + layout.Width(Column::Freq) - 1;
-  drawn.Add(Piece(text, static_cast<std::size_t>(mark), 1), mark, Ink::Dim);
+  drawn.Add(Cut(text, static_cast<std::size_t>(mark), 1), mark, Ink::Dim);
   return drawn;
 }
 
@@ -161,11 +161,11 @@ RowParts ExpandedParts(const TableRow& row, const RowLayout& layout) {
   const auto full = static_cast<std::size_t>(layout.FullWidth);
   parts.spotter = row.Spotter();
   parts.frequency = FieldOf(row, layout, Column::Freq);
-  parts.mark = Piece(text, mark, 1);
+  parts.mark = Cut(text, mark, 1);
   parts.call = row.DxCall();
   parts.comment = FieldOf(row, layout, Column::Comment);
   parts.time = FieldOf(row, layout, Column::Time);
-  parts.tail = core::Trim(Piece(text, behindCall, full - std::min(behindCall, full)));
+  parts.tail = core::Trim(Cut(text, behindCall, full - std::min(behindCall, full)));
   return parts;
 }
 

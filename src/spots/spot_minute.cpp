@@ -9,7 +9,6 @@
 namespace spots {
 namespace {
 
-constexpr std::int64_t kMinutesOfDay = 1440;
 constexpr int kLastHHMM = 9999;
 
 int MinutesOf(int hhmm) {
@@ -18,8 +17,8 @@ int MinutesOf(int hhmm) {
 }
 
 int Absolute(int dayNumber, int minutes) {
-  return static_cast<int>(
-      std::min<std::int64_t>(dayNumber * kMinutesOfDay + minutes, std::numeric_limits<int>::max()));
+  return static_cast<int>(std::min(std::int64_t{dayNumber} * core::kMinutesOfDay + minutes,
+                                   std::int64_t{std::numeric_limits<int>::max()}));
 }
 
 }  // namespace

@@ -67,6 +67,8 @@ SpotParts::SpotParts(const platform::Platform& platform, core::Calendar& calenda
   });
 }
 
+SpotParts::~SpotParts() = default;
+
 DisplayChoice::Needs SpotParts::NeedsOfDisplay() {
   return {.nodeAddsWords = [this] { return !needs_.nodeFacts().IsSpider(); },
           .send = needs_.send,

@@ -68,6 +68,7 @@ class SpotParts {
   // All outlive the parts. `folder` is the program's.
   SpotParts(const platform::Platform& platform, core::Calendar& calendar, core::Settings& settings,
             core::ErrorLog& errorLog, const std::string& folder, Needs needs);
+  ~SpotParts();
 
   // The settings have been read or changed.
   void TakeSettings();

@@ -14,7 +14,6 @@ using Fault = platform::Files::Fault;
 
 constexpr int kLinesInARow = 100;
 constexpr platform::Milliseconds kYield{0};
-constexpr int kMinutesOfDay = 1440;
 constexpr int kMostHours = 366 * 24;
 
 // Without the line end. A last line that has none counts only if it is whole: a crash may have cut
@@ -29,7 +28,7 @@ std::string_view TakeLineFrom(std::string_view& rest) {
 }
 
 int MinuteOf(const Spot& spot, int day) {
-  return day * kMinutesOfDay + spot.SpotHHMM / 100 * 60 + spot.SpotHHMM % 100;
+  return day * core::kMinutesOfDay + spot.SpotHHMM / 100 * 60 + spot.SpotHHMM % 100;
 }
 
 }  // namespace
@@ -87,7 +86,8 @@ platform::Task<> SpotReload::Reload() {
   needs_.showRaw("Reloading Dx Spots From Log File");
   needs_.closeLog();
   const int today = SetLimit();
-  for (int day = limit_ / kMinutesOfDay; day <= today && !stop_; ++day) co_await ReloadDay(day);
+  for (int day = limit_ / core::kMinutesOfDay; day <= today && !stop_; ++day)
+    co_await ReloadDay(day);
   reloading.Release();
   needs_.redraw();
   needs_.showRaw(stop_ ? "Reload Aborted" : "Reload Complete");
@@ -96,7 +96,7 @@ platform::Task<> SpotReload::Reload() {
 int SpotReload::SetLimit() {
   const Moment now = MomentNow(calendar_);
   const int back = std::clamp(settings_.ReloadHours, 0, kMostHours) * 60;
-  limit_ = now.dayNumber * kMinutesOfDay + now.minutes - back;
+  limit_ = now.dayNumber * core::kMinutesOfDay + now.minutes - back;
   return now.dayNumber;
 }
 

@@ -19,7 +19,6 @@ using platform::Message;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-using testing::StartsWith;
 
 constexpr auto kDenied = "Molva Desk  -  Critical Error";
 constexpr auto kUseBackup = "Configuration File Not Found - Use Backup?";
@@ -288,7 +287,7 @@ class WriteCfgTest : public ConfigurationTest {
 
 TEST_F(WriteCfgTest, TheFileHoldsTheSettingsAndTheTimeOfWriting) {
   Write("Ulm");
-  EXPECT_THAT(File("molva.cfg"), StartsWith("\"DTS\",\"05-Jan-2026 2107Z> \"\r\n"));
+  EXPECT_THAT(File("molva.cfg"), testing::StartsWith("\"DTS\",\"05-Jan-2026 2107Z> \"\r\n"));
   EXPECT_EQ(ParseSettings(File("molva.cfg")), With("Ulm"));
 }
 

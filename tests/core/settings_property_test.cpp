@@ -15,7 +15,7 @@
 namespace core {
 namespace {
 
-constexpr unsigned kFirstSeed = 20260105;
+constexpr unsigned kFirstSettingsSeed = 20260105;
 
 // Random values for every key of the table.
 class RandomSettings {
@@ -86,7 +86,7 @@ class RandomSettings {
 };
 
 TEST(SettingsProperty, WhatIsWrittenReadsBackAsItWas) {
-  for (unsigned seed = kFirstSeed; seed < kFirstSeed + 2'000; ++seed) {
+  for (unsigned seed = kFirstSettingsSeed; seed < kFirstSettingsSeed + 2'000; ++seed) {
     RandomSettings random(seed);
     const Settings settings = random.Make();
     const std::string text = FormatSettings(settings, "now");
@@ -153,7 +153,7 @@ class CutCheck {
 };
 
 TEST(SettingsProperty, ACutAtAnyByteLosesNoKeyBeforeIt) {
-  for (const unsigned seed : {kFirstSeed, kFirstSeed + 1}) {
+  for (const unsigned seed : {kFirstSettingsSeed, kFirstSettingsSeed + 1}) {
     const Settings saved = RandomSettings(seed).Make();
     const std::string text = FormatSettings(saved, "now");
     for (std::size_t length = 0; length <= text.size(); ++length) {
@@ -190,7 +190,7 @@ TEST(SettingsProperty, ACutAtAnyByteLosesNoRowBeforeIt) {
 }
 
 TEST(SettingsProperty, WhateverIsReadIsWrittenSoThatItReadsBack) {
-  for (unsigned seed = kFirstSeed; seed < kFirstSeed + 2'000; ++seed) {
+  for (unsigned seed = kFirstSettingsSeed; seed < kFirstSettingsSeed + 2'000; ++seed) {
     RandomSettings random(seed);
     std::string text = FormatSettings(random.Make(), "now");
     for (int damage = 0; damage < 50; ++damage) {
@@ -215,7 +215,7 @@ TEST(SettingsProperty, WhateverIsReadIsWrittenSoThatItReadsBack) {
 }
 
 TEST(SettingsProperty, BinaryGarbageIsAllDefaults) {
-  std::mt19937 engine(kFirstSeed);
+  std::mt19937 engine(kFirstSettingsSeed);
   std::string garbage(1'000'000, '\0');
   for (char& byte : garbage) byte = static_cast<char>(engine());
   EXPECT_TRUE(ParseSettings(garbage) == Settings{});

@@ -14,7 +14,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-using testing::StartsWith;
 
 std::string Written(const Settings& settings) {
   return FormatSettings(settings, "05-Jan-2026 2107Z> ");
@@ -209,7 +208,7 @@ TEST(ParseSettings, ALastLineNeedsNoLineEnd) {
 // Writing.
 
 TEST(FormatSettings, StartsWithTheTimeOfWriting) {
-  EXPECT_THAT(Written(Settings{}), StartsWith("\"DTS\",\"05-Jan-2026 2107Z> \"\r\n"));
+  EXPECT_THAT(Written(Settings{}), testing::StartsWith("\"DTS\",\"05-Jan-2026 2107Z> \"\r\n"));
 }
 
 TEST(FormatSettings, TheTimeOfWritingIsNeverReadBack) {

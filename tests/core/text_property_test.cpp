@@ -18,7 +18,7 @@
 namespace core {
 namespace {
 
-constexpr unsigned kFirstSeed = 20260105;
+constexpr unsigned kFirstTextSeed = 20260105;
 constexpr unsigned kSeeds = 20'000;
 
 // Random texts and numbers, likelier where things happen: at the ends, among few different bytes.
@@ -173,7 +173,7 @@ std::vector<std::string> Owned(const std::vector<std::string_view>& views) {
 
 template <class Check>
 void ForEverySeed(Check check) {
-  for (unsigned seed = kFirstSeed; seed < kFirstSeed + kSeeds; ++seed) {
+  for (unsigned seed = kFirstTextSeed; seed < kFirstTextSeed + kSeeds; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     Chance chance(seed);
     check(chance);

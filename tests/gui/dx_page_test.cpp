@@ -4,15 +4,13 @@
 #include <QListWidget>
 
 #include "gui/desk.h"
+#include "spots/band_numbers.h"
 #include "ui/spot_view.h"
 
 namespace gui {
 namespace {
 
 using program::Views;
-
-constexpr int k20m = 6;
-constexpr int k15m = 8;
 
 // The page with a node whose spots are shown.
 class DxPageTest : public Desk {

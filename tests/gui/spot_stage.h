@@ -14,6 +14,7 @@
 
 #include "gui/by_name.h"
 #include "platform/sim/world.h"
+#include "spots/band_numbers.h"
 #include "spots/classic_row.h"
 #include "spots/expanded_row.h"
 #include "ui/spot_view.h"
@@ -23,8 +24,6 @@ namespace gui {
 using namespace std::chrono_literals;
 using platform::Milliseconds;
 using spots::TableRow;
-
-inline constexpr int k20m = 6;
 
 // The table of spots by itself, on the simulated world.
 class SpotStage : public testing::Test {

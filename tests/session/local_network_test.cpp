@@ -17,7 +17,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr const char* kPath = "/dev/ttyS1";
+constexpr const char* kNetworkPort = "/dev/ttyS1";
 
 class LocalNetworkTest : public testing::Test {
  protected:
@@ -36,7 +36,7 @@ class LocalNetworkTest : public testing::Test {
   }
 
   platform::sim::World world;
-  platform::sim::SimDevice& device = world.serialPorts.Plug(kPath);
+  platform::sim::SimDevice& device = world.serialPorts.Plug(kNetworkPort);
   core::Settings settings;
   Lines faults;
   session::Timers timers{world.scheduler, [](std::string_view, std::string_view) {}};
@@ -47,7 +47,7 @@ class LocalNetworkTest : public testing::Test {
       world.serialPorts,
       settings,
       timers,
-      {.portPath = [](int number) { return number == 2 ? kPath : ""; },
+      {.portPath = [](int number) { return number == 2 ? kNetworkPort : ""; },
        .claimedHere =
            [this](std::string_view line) {
              asked.emplace_back(line);
@@ -176,11 +176,11 @@ TEST_F(LocalNetworkOpen, NothingButLineEndsAreEmptyCommands) {
 
 TEST_F(LocalNetworkOpen, PortThatVanishesIsReportedAndItsHalfCommandForgotten) {
   Says("sh/");
-  world.serialPorts.Unplug(kPath);
+  world.serialPorts.Unplug(kNetworkPort);
   network.SendRS232("into the void");
   world.Run(0ms);
   EXPECT_THAT(faults, ElementsAre("MSComm2: the device has gone"));
-  platform::sim::SimDevice& again = world.serialPorts.Plug(kPath);
+  platform::sim::SimDevice& again = world.serialPorts.Plug(kNetworkPort);
   EXPECT_TRUE(network.OpenComm2());
   again.Feed("dx\r");
   network.ReadNetwork();

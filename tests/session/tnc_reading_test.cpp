@@ -12,7 +12,7 @@ using testing::SizeIs;
 
 namespace {
 
-constexpr const char* kPath = "/dev/ttyS0";
+constexpr const char* kReadPort = "/dev/ttyS0";
 
 class TncReading : public SessionFixture {
  protected:
@@ -30,7 +30,7 @@ class TncReading : public SessionFixture {
   }
   Lines Heard() const { return log.Of("First"); }
 
-  platform::sim::SimDevice& device = world.serialPorts.Plug(kPath, "TNC-X");
+  platform::sim::SimDevice& device = world.serialPorts.Plug(kReadPort, "TNC-X");
 };
 
 TEST_F(TncReading, PortIsPolledEvery250Milliseconds) {
@@ -142,7 +142,7 @@ TEST_F(TncReading, WhatWasReadBeforeThePortVanishedIsStillServed) {
   };
   hold.Release();
   Says("one\rtwo\r");
-  world.serialPorts.Unplug(kPath);
+  world.serialPorts.Unplug(kReadPort);
   LetPass(1s);
   EXPECT_THAT(Heard(), ElementsAre("one"));
   hold.Release();

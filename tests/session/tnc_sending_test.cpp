@@ -9,7 +9,7 @@ using testing::IsEmpty;
 
 namespace {
 
-constexpr const char* kPath = "/dev/ttyUSB0";
+constexpr const char* kSendPort = "/dev/ttyUSB0";
 
 // A TNC on a port that nobody has opened yet.
 class TncSending : public SessionFixture {
@@ -23,7 +23,7 @@ class TncSending : public SessionFixture {
   // What has been written since the last call.
   std::string Written() { return std::exchange(device->written, {}); }
 
-  platform::sim::SimDevice* device = &world.serialPorts.Plug(kPath, "TNC-X");
+  platform::sim::SimDevice* device = &world.serialPorts.Plug(kSendPort, "TNC-X");
   session::TncLink& link = program.tncLink;
 };
 
@@ -302,11 +302,11 @@ TEST_F(TncReady, TextsThatWentOutAreTold) {
 }
 
 TEST_F(TncReady, PortThatVanishesIsReportedAndOpensAgainWhenItIsBack) {
-  world.serialPorts.Unplug(kPath);
+  world.serialPorts.Unplug(kSendPort);
   LetPass(0ms);
   EXPECT_THAT(faults, ElementsAre("MSComm1: the device has gone"));
   EXPECT_FALSE(program.outgoing.SendAsIs("lost"));
-  device = &world.serialPorts.Plug(kPath);
+  device = &world.serialPorts.Plug(kSendPort);
   EXPECT_TRUE(program.outgoing.SendAsIs("back"));
   LetPass(500ms);
   EXPECT_EQ(Written(), "back\r");
@@ -314,9 +314,9 @@ TEST_F(TncReady, PortThatVanishesIsReportedAndOpensAgainWhenItIsBack) {
 
 TEST_F(TncReady, WhatWaitsToBeWrittenIsLostWithThePort) {
   program.outgoing.SendAsIs("!lost");
-  world.serialPorts.Unplug(kPath);
+  world.serialPorts.Unplug(kSendPort);
   LetPass(10ms);
-  device = &world.serialPorts.Plug(kPath);
+  device = &world.serialPorts.Plug(kSendPort);
   EXPECT_TRUE(link.OpenComm1());
   LetPass(2s);
   EXPECT_EQ(Written(), "");

@@ -5,14 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "spots/band_numbers.h"
+
 namespace spots {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr int k20 = 6;
-constexpr int k40 = 4;
 
 class BandRailTest : public testing::Test {
  protected:
@@ -44,8 +43,8 @@ TEST_F(BandRailTest, SpotCountsOnItsBandAndOnAllBands) {
   EXPECT_TRUE(rail.Increment("20"));
   EXPECT_TRUE(rail.Increment("20"));
   EXPECT_TRUE(rail.Increment("40"));
-  EXPECT_EQ(Shown(k20), "2 of 2");
-  EXPECT_EQ(Shown(k40), "1 of 1");
+  EXPECT_EQ(Shown(k20m), "2 of 2");
+  EXPECT_EQ(Shown(k40m), "1 of 1");
   EXPECT_EQ(Shown(kAllBands), "of 3");
 }
 
@@ -56,33 +55,33 @@ TEST_F(BandRailTest, AlarmCountsOnItsOwn) {
 }
 
 TEST_F(BandRailTest, LabelOfTheSelectedBandStaysHidden) {
-  rail.optBand.Selected.Set(k20);
+  rail.optBand.Selected.Set(k20m);
   rail.Increment("20");
-  EXPECT_EQ(Shown(k20), "of 1");
+  EXPECT_EQ(Shown(k20m), "of 1");
   EXPECT_EQ(Shown(kAllBands), "1 of 1");
   EXPECT_THAT(firstUnseen, ElementsAre(kAllBands));
 }
 
 TEST_F(BandRailTest, UnseenCountRestartsAtOneWhereTheLabelBeginsToShow) {
-  rail.optBand.Selected.Set(k20);
+  rail.optBand.Selected.Set(k20m);
   for (int i = 0; i < 5; ++i) rail.Increment("20");
-  rail.optBand.Selected.Set(k40);
+  rail.optBand.Selected.Set(k40m);
   rail.Increment("20");
-  EXPECT_EQ(Shown(k20), "1 of 6");
+  EXPECT_EQ(Shown(k20m), "1 of 6");
   rail.Increment("20");
-  EXPECT_EQ(Shown(k20), "2 of 7");
+  EXPECT_EQ(Shown(k20m), "2 of 7");
 }
 
 TEST_F(BandRailTest, FirstUnseenIsToldOnceUntilTheLabelIsHidden) {
   rail.Increment("20");
   rail.Increment("20");
   rail.Increment("40");
-  EXPECT_THAT(firstUnseen, ElementsAre(k20, k40));
-  rail.ClearUnseen(k20);
-  EXPECT_EQ(Shown(k20), "of 2");
+  EXPECT_THAT(firstUnseen, ElementsAre(k20m, k40m));
+  rail.ClearUnseen(k20m);
+  EXPECT_EQ(Shown(k20m), "of 2");
   rail.Increment("20");
-  EXPECT_THAT(firstUnseen, ElementsAre(k20, k40, k20));
-  EXPECT_EQ(Shown(k20), "1 of 3");
+  EXPECT_THAT(firstUnseen, ElementsAre(k20m, k40m, k20m));
+  EXPECT_EQ(Shown(k20m), "1 of 3");
 }
 
 }  // namespace

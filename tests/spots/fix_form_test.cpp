@@ -15,12 +15,12 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr auto kFile = "/f/fixspots.dat";
+constexpr auto kFormFile = "/f/fixspots.dat";
 
 class FixFormTest : public testing::Test {
  protected:
   void Have(const std::string& text) {
-    world.files.content[kFile] = text;
+    world.files.content[kFormFile] = text;
     list.ReadFixSpots();
     form.Show();
   }
@@ -48,7 +48,7 @@ class FixFormTest : public testing::Test {
     std::string cty, state, cq, itu, grid;
     list.ApplySpotFix(call, {cty, state, cq, itu, grid}, {.shown = columns, .node = {}});
   }
-  std::string File() { return world.files.content[kFile]; }
+  std::string File() { return world.files.content[kFormFile]; }
   std::string Errors() { return world.files.content["/f/error.log"]; }
 
   platform::sim::World world;
@@ -145,7 +145,7 @@ TEST_F(FixFormTest, WhatIsNoCallIsNotAddedAndStaysInTheBox) {
 
 TEST_F(FixFormTest, EntryIsKeptInMemoryIfTheDiskRefusesIt) {
   Have("\"K1ABC\",\"K\"\r\n");
-  world.files.denied.insert(kFile);
+  world.files.denied.insert(kFormFile);
   Type("DL1XX", "DL");
   form.cmdAdd.Press();
   world.Run(FixList::kWriteDelay);

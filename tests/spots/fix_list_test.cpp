@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr auto kFile = "/f/fixspots.dat";
+constexpr auto kListFile = "/f/fixspots.dat";
 
 class FixListTest : public testing::Test {
  protected:
@@ -27,7 +27,7 @@ class FixListTest : public testing::Test {
   }
 
   void Have(const std::string& text) {
-    world.files.content[kFile] = text;
+    world.files.content[kListFile] = text;
     list.ReadFixSpots();
   }
   bool Apply(const std::string& call) {
@@ -46,7 +46,7 @@ class FixListTest : public testing::Test {
   std::array<std::string, kFixFields> Fields() const {
     return {spot.DxCty, spot.DxState, spot.DxCq, spot.DxItu, spot.DxGrid};
   }
-  std::string File() { return world.files.content[kFile]; }
+  std::string File() { return world.files.content[kListFile]; }
   std::string Errors() { return world.files.content["/f/error.log"]; }
 
   platform::sim::World world;
@@ -229,7 +229,7 @@ TEST_F(FixListTest, WhatIsKnownAlreadyWritesNothing) {
   Have("K1ABC,K\r\n");
   CtyOf("K1ABC");
   world.Run(10s);
-  world.files.content[kFile] = "untouched";
+  world.files.content[kListFile] = "untouched";
   CtyOf("K1ABC");
   world.Run(10s);
   EXPECT_EQ(File(), "untouched");
@@ -263,15 +263,15 @@ TEST_F(FixListTest, MalformedLinesAreSkipped) {
 
 TEST_F(FixListTest, ReadingEmptiesTheOlderList) {
   Have("K1ABC,K\r\n");
-  world.files.content.erase(kFile);
+  world.files.content.erase(kListFile);
   list.ReadFixSpots();
   EXPECT_EQ(list.FixCount(), 0u);
   EXPECT_FALSE(Apply("K1ABC"));
 }
 
 TEST_F(FixListTest, FileThatMayNotBeReadIsReportedAndNotWrittenOver) {
-  world.files.content[kFile] = "K1ABC,K\r\n";
-  world.files.denied.insert(kFile);
+  world.files.content[kListFile] = "K1ABC,K\r\n";
+  world.files.denied.insert(kListFile);
   list.ReadFixSpots();
   EXPECT_THAT(Errors(), HasSubstr("Form_load - Error #70 Permission denied"));
   world.files.denied.clear();
@@ -322,7 +322,7 @@ TEST_F(FixListTest, NewDataIsAppendedAsARow) {
 
 TEST_F(FixListTest, NewDataThatCannotBeSavedIsReported) {
   Have("K1ABC,K\r\n");
-  world.files.denied.insert(kFile);
+  world.files.denied.insert(kListFile);
   list.SaveNewData(*ParseFixLine("G0AA,G"));
   EXPECT_THAT(Errors(), HasSubstr("SaveNewData - Error #70"));
   EXPECT_EQ(list.FixCount(), 1u);

@@ -2,12 +2,12 @@
 
 #include "session/memory_meter.h"
 #include "spot_desk.h"
+#include "spots/band_numbers.h"
 
 namespace {
 
 using spots::kAllBands;
 
-constexpr int k20 = 6;
 constexpr std::size_t kRow = 77;  // the usual row and its line end
 constexpr int kViews = spots::SpotTable::kViews;
 
@@ -98,7 +98,7 @@ TEST_F(Limits, EveryStoreOfEveryBandAndViewHasOne) {
       const std::size_t memory = band == kAllBands ? 20 : 10;
       EXPECT_LE(Characters(band, view), memory * 1100 + 100) << band << " view " << view;
     }
-  EXPECT_GT(Characters(k20, 2), 9'000u);
+  EXPECT_GT(Characters(k20m, 2), 9'000u);
 }
 
 TEST_F(Limits, QuietBandKeepsItsSpotsWhileABusyOneTurnsOver) {
@@ -109,7 +109,7 @@ TEST_F(Limits, QuietBandKeepsItsSpotsWhileABusyOneTurnsOver) {
 }
 
 TEST_F(Limits, TableStandsAsTheSelectedStoreWhateverIsSelected) {
-  for (const int band : {k20, 4, 0})
+  for (const int band : {k20m, 4, 0})
     for (const auto source : {spots::SpotTable::kDx, spots::SpotTable::kSkimmer}) {
       table.rail.optBand.UserSelects(band);
       table.chkShSkm[source].UserSets(!table.chkShSkm[source].Value.Get());
@@ -144,7 +144,7 @@ TEST_F(Limits, LastRowStaysHoweverSmallTheMemory) {
   settings.SpotMemoryAll = settings.SpotMemorySingle = 1;
   ReceiveMany(50);
   EXPECT_GE(CallsInTable().size(), 1u);
-  EXPECT_GE(CallsInStore(k20, 0).size(), 1u);
+  EXPECT_GE(CallsInStore(k20m, 0).size(), 1u);
 }
 
 TEST_F(Limits, NewSettingsHoldFromTheNextSpotOn) {
@@ -153,7 +153,7 @@ TEST_F(Limits, NewSettingsHoldFromTheNextSpotOn) {
   settings.SpotMemorySingle = 0;
   ReceiveMany(1);
   EXPECT_LE(Characters(kAllBands, 0), 1010 + kRow);
-  EXPECT_EQ(Characters(k20, 0), kRow);
+  EXPECT_EQ(Characters(k20m, 0), kRow);
 }
 
 }  // namespace

@@ -10,20 +10,20 @@ namespace {
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 
-constexpr const char* kFolder = "/home/op/molva";
+constexpr const char* kFilesFolder = "/home/op/molva";
 
 // It is 20 November 2026.
 class LogFiles : public testing::Test {
  protected:
   std::string PathOf(std::string_view spotDate) { return LogPath("", LogDay(calendar, spotDate)); }
-  void Has(const std::string& name) { world.files.content[kFolder + ("/" + name)] = "x"; }
+  void Has(const std::string& name) { world.files.content[kFilesFolder + ("/" + name)] = "x"; }
   std::vector<std::string> Left() const {
     std::vector<std::string> names;
     for (const auto& [path, bytes] : world.files.content)
-      names.push_back(path.substr(std::string(kFolder).size() + 1));
+      names.push_back(path.substr(std::string(kFilesFolder).size() + 1));
     return names;
   }
-  void Delete(int daysToKeep) { DeleteLogFiles(world.files, calendar, kFolder, daysToKeep); }
+  void Delete(int daysToKeep) { DeleteLogFiles(world.files, calendar, kFilesFolder, daysToKeep); }
 
   platform::sim::World world;
   core::Calendar calendar{world.clock};
@@ -95,7 +95,7 @@ TEST_F(LogFiles, AnyNumberOfDaysCanBeKept) {
 TEST_F(LogFiles, FileThatCannotBeDeletedDoesNotHoldTheOthers) {
   Has("2025/dx-01-Jan-2025.txt");
   Has("2026/dx-01-Jan-2026.txt");
-  world.files.denied.insert(std::string(kFolder) + "/2025");
+  world.files.denied.insert(std::string(kFilesFolder) + "/2025");
   Delete(1);
   EXPECT_THAT(Left(), ElementsAre("2025/dx-01-Jan-2025.txt"));
 }

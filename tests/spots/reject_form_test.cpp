@@ -10,7 +10,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kPath = "/home/op/reject.dat";
+constexpr const char* kFormPath = "/home/op/reject.dat";
 constexpr auto kDx = RejectLists::kDx;
 constexpr auto kComment = RejectLists::kComment;
 
@@ -24,14 +24,14 @@ class RejectFormTest : public testing::Test {
   platform::sim::SimFiles files;
   core::Settings settings;
   int written = 0;
-  RejectLists lists{files, settings, kPath};
+  RejectLists lists{files, settings, kFormPath};
   RejectForm form{lists, settings, {.delayedWriteCfg = [this] { ++written; }}};
 };
 
 TEST_F(RejectFormTest, AddedEntryIsInForceAndInTheFile) {
   Add(kDx, "K1*");
   EXPECT_THAT(lists.lstReject[kDx].Items(), ElementsAre("K1*"));
-  EXPECT_EQ(files.content[kPath], "\"Dx\",\"K1*\"\r\n");
+  EXPECT_EQ(files.content[kFormPath], "\"Dx\",\"K1*\"\r\n");
   EXPECT_EQ(form.txtReject[kDx].Text.Get(), "");
   EXPECT_FALSE(form.lblNotSaved.Visible.Get());
 }
@@ -67,12 +67,12 @@ TEST_F(RejectFormTest, SelectedEntryCanBeDeleted) {
   EXPECT_TRUE(form.cmdDelete[kDx].Enabled.Get());
   form.cmdDelete[kDx].Press();
   EXPECT_THAT(lists.lstReject[kDx].Items(), ElementsAre("P5DX"));
-  EXPECT_EQ(files.content[kPath], "\"Dx\",\"P5DX\"\r\n");
+  EXPECT_EQ(files.content[kFormPath], "\"Dx\",\"P5DX\"\r\n");
   EXPECT_FALSE(form.cmdDelete[kDx].Enabled.Get());
 }
 
 TEST_F(RejectFormTest, ListThatCanNotBeSavedIsToldAndHoldsAllTheSame) {
-  files.denied.insert(kPath);
+  files.denied.insert(kFormPath);
   Add(kDx, "P5DX");
   EXPECT_TRUE(form.lblNotSaved.Visible.Get());
   EXPECT_THAT(lists.lstReject[kDx].Items(), ElementsAre("P5DX"));

@@ -11,14 +11,14 @@ using Fault = platform::Files::Fault;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kPath = "/home/op/reject.dat";
+constexpr const char* kListsPath = "/home/op/reject.dat";
 
 class RejectListsTest : public testing::Test {
  protected:
   RejectListsTest() { settings.RejSpots = true; }
 
   void Keep(const std::string& text) {
-    files.content[kPath] = text;
+    files.content[kListsPath] = text;
     lists.ReadReject();
   }
   const std::vector<std::string>& Entries(RejectLists::Kind kind) const {
@@ -32,7 +32,7 @@ class RejectListsTest : public testing::Test {
 
   platform::sim::SimFiles files;
   core::Settings settings;
-  RejectLists lists{files, settings, kPath};
+  RejectLists lists{files, settings, kListsPath};
   Spot spot = [] {
     Spot heard;
     heard.DxCall = "3Y0J";
@@ -84,13 +84,13 @@ TEST_F(RejectListsTest, FileIsWrittenKindByKind) {
   lists.Add(RejectLists::kDx, "K1*");
   lists.Add(RejectLists::kDx, "P5DX");
   EXPECT_EQ(lists.WriteReject(), Fault::None);
-  EXPECT_EQ(files.content[kPath],
+  EXPECT_EQ(files.content[kListsPath],
             "\"Dx\",\"K1*\"\r\n\"Dx\",\"P5DX\"\r\n\"Call\",\"W1ABC\"\r\n"
             "\"Comment\",\"FT8, weak\"\r\n");
 }
 
 TEST_F(RejectListsTest, FileThatCanNotBeWrittenIsTold) {
-  files.denied.insert(kPath);
+  files.denied.insert(kListsPath);
   EXPECT_EQ(lists.WriteReject(), Fault::Denied);
 }
 

@@ -2,6 +2,7 @@
 
 #include "cty_text.h"
 #include "spot_desk.h"
+#include "spots/band_numbers.h"
 
 namespace {
 
@@ -16,7 +17,6 @@ using testing::Not;
 using testing::SizeIs;
 
 constexpr auto kLog = "/home/2026/dx-20-Nov-2026.txt";
-constexpr int k20 = 6;
 
 // A spot meets every step on its way, with their files and their switches.
 class Route : public SpotDesk {
@@ -55,14 +55,14 @@ TEST_F(Route, AcceptedSpotGoesToTheTableTheLogAndTheLoggers) {
 }
 
 TEST_F(Route, SpotOnTheSelectedBandIsHeard) {
-  table.rail.optBand.UserSelects(k20);
+  table.rail.optBand.UserSelects(k20m);
   Receive(Line{});
   EXPECT_THAT(receivers.sounds, ElementsAre("DxAlert"));
 }
 
 TEST_F(Route, NothingIsHeardUntilTheStartListIsDone) {
   parts.lines.list.ShDxDone = false;
-  table.rail.optBand.UserSelects(k20);
+  table.rail.optBand.UserSelects(k20m);
   Receive(Line{});
   EXPECT_THAT(receivers.sounds, IsEmpty());
 }
@@ -86,7 +86,7 @@ TEST_F(Route, RejectedSpotIsNeitherLoggedNorCountedNorFed) {
   EXPECT_THAT(CallsInTable(), IsEmpty());
   EXPECT_THAT(Log(), Not(HasSubstr("3Y0J")));
   EXPECT_THAT(receivers.fed, IsEmpty());
-  EXPECT_EQ(table.rail.lblTotal[k20].Caption.Get(), "0");
+  EXPECT_EQ(table.rail.lblTotal[k20m].Caption.Get(), "0");
 }
 
 TEST_F(Route, DuplicateIsDroppedAndNotLogged) {
@@ -134,7 +134,7 @@ TEST_F(Route, AlarmIsKeptAmongTheAlarmsToo) {
   receivers.alarms = true;
   Receive(Line{});
   EXPECT_THAT(CallsInStore(kAlarmBand, 0), Contains("3Y0J"));
-  EXPECT_THAT(CallsInStore(k20, 0), Contains("3Y0J"));
+  EXPECT_THAT(CallsInStore(k20m, 0), Contains("3Y0J"));
   EXPECT_EQ(table.rail.lblTotal[0].Caption.Get(), "1");
 }
 
@@ -212,7 +212,7 @@ TEST_F(Route, ClearedSpotsLeaveEveryStoreAndTheTable) {
   Receive(Line{});
   table.ClearSpots();
   EXPECT_THAT(CallsInTable(), IsEmpty());
-  EXPECT_THAT(CallsInStore(k20, 0), IsEmpty());
+  EXPECT_THAT(CallsInStore(k20m, 0), IsEmpty());
   EXPECT_EQ(table.SpotStore(0, 0).Characters(), 0u);
   Receive({.call = "K1ABC"});
   EXPECT_THAT(CallsInTable(), ElementsAre("K1ABC"));
@@ -230,7 +230,7 @@ TEST_F(Route, WhatWasClearedMayComeAgain) {
 TEST_F(Route, AnotherBandDuringAReloadIsEmptyUntilItsEnd) {
   Receive(Line{});
   table.BeginReload();
-  table.rail.optBand.UserSelects(k20);
+  table.rail.optBand.UserSelects(k20m);
   EXPECT_THAT(CallsInTable(), IsEmpty());
   table.EndReload();
   EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));

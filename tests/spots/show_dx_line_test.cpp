@@ -11,7 +11,7 @@ namespace {
 using session::NodeKind;
 
 // A row of a list, in the columns of most nodes.
-struct Row {
+struct ListCase {
   std::string kHz = " 14025.0";
   std::string call = "3Y0J       ";
   std::string date = "20-Nov-2026";
@@ -33,41 +33,41 @@ std::optional<Spot> Parse(const std::string& row, const NodeFacts& node = {},
   return ParseShDxLine(row, node, words, spot) ? std::optional(spot) : std::nullopt;
 }
 
-Spot Read(const Row& row, const NodeFacts& node = {}, const WordFacts& words = {}) {
+Spot Read(const ListCase& row, const NodeFacts& node = {}, const WordFacts& words = {}) {
   const auto spot = Parse(row.Text(), node, words);
   EXPECT_TRUE(spot) << row.Text();
   return spot.value_or(Spot());
 }
 
 TEST(ShDxRow, IsToldByFrequencyTimeAndYear) {
-  EXPECT_TRUE(IsShowDxRow(Row{}.Text()));
-  EXPECT_TRUE(IsShowDxRow(Row{.kHz = "  1800.0"}.Text()));
-  EXPECT_TRUE(IsShowDxRow(Row{.date = " 1-Mar-2026"}.Text()));
-  EXPECT_TRUE(IsShowDxRow(Row{.date = "20-Nov-2003"}.Text()));
-  EXPECT_TRUE(IsShowDxRow(Row{.date = "20-Nov-2049"}.Text()));
+  EXPECT_TRUE(IsShowDxRow(ListCase{}.Text()));
+  EXPECT_TRUE(IsShowDxRow(ListCase{.kHz = "  1800.0"}.Text()));
+  EXPECT_TRUE(IsShowDxRow(ListCase{.date = " 1-Mar-2026"}.Text()));
+  EXPECT_TRUE(IsShowDxRow(ListCase{.date = "20-Nov-2003"}.Text()));
+  EXPECT_TRUE(IsShowDxRow(ListCase{.date = "20-Nov-2049"}.Text()));
 }
 
 TEST(ShDxRow, IsNothingElse) {
   EXPECT_FALSE(IsShowDxRow(""));
   EXPECT_FALSE(IsShowDxRow("14025"));
   EXPECT_FALSE(IsShowDxRow("14025Z"));
-  EXPECT_FALSE(IsShowDxRow(Row{.kHz = "  1799.9"}.Text()));
-  EXPECT_FALSE(IsShowDxRow(Row{.kHz = "     QRT"}.Text()));
-  EXPECT_FALSE(IsShowDxRow(Row{.date = "20-Nov-2002"}.Text()));
-  EXPECT_FALSE(IsShowDxRow(Row{.date = "20-Nov-2050"}.Text()));
-  EXPECT_FALSE(IsShowDxRow(Row{.time = "2116 "}.Text()));
+  EXPECT_FALSE(IsShowDxRow(ListCase{.kHz = "  1799.9"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(ListCase{.kHz = "     QRT"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(ListCase{.date = "20-Nov-2002"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(ListCase{.date = "20-Nov-2050"}.Text()));
+  EXPECT_FALSE(IsShowDxRow(ListCase{.time = "2116 "}.Text()));
   EXPECT_FALSE(IsShowDxRow("DX de DL1ABC:    14025.0  3Y0J         CW up 2          2116Z"));
 }
 
 TEST(ShDxLineMalformed, WithoutAYearOrABracketItIsNoSpot) {
   for (const std::string& row :
-       {std::string(), Row{.spotter = ""}.Text(), Row{.date = "20-Nov-1999"}.Text(),
+       {std::string(), ListCase{.spotter = ""}.Text(), ListCase{.date = "20-Nov-1999"}.Text(),
         std::string(80, ' '), std::string(28, ' ') + "-2", std::string("<")})
     EXPECT_FALSE(Parse(row)) << row;
 }
 
 TEST(ShDxLineMalformed, FarTooLongIsNoSpot) {
-  EXPECT_FALSE(Parse(Row{.comment = std::string(1'000'000, 'x')}.Text()));
+  EXPECT_FALSE(Parse(ListCase{.comment = std::string(1'000'000, 'x')}.Text()));
 }
 
 TEST(ShDxLineMalformed, OpenBracketAtTheEndIsAnEmptySpotter) {
@@ -103,7 +103,7 @@ TEST(ShDxLine, DayMayHaveOneDigit) {
 }
 
 TEST(ShDxLine, CallBeginsAColumnEarlierOnWinCluster) {
-  const Row row = {.kHz = "14025.0", .call = "3Y0J        "};
+  const ListCase row = {.kHz = "14025.0", .call = "3Y0J        "};
   EXPECT_EQ(Read(row, {.kind = NodeKind::WinCluster}).DxCall, "3Y0J");
   EXPECT_EQ(Read({.kHz = "4025.0", .call = "XY0J         "}).DxCall, "0J");
 }
@@ -121,7 +121,7 @@ TEST(ShDxLine, LastBracketOpensTheSpotter) {
 
 TEST(ShDxLine, FullCommentLosesNoLetter) {
   for (const NodeKind kind : {NodeKind::Unknown, NodeKind::Spider, NodeKind::Skimmer}) {
-    const Row row = {.comment = "1234567890123456789012345678"};
+    const ListCase row = {.comment = "1234567890123456789012345678"};
     EXPECT_EQ(Read(row, {.kind = kind}).Comment, row.comment);
     EXPECT_EQ(Read(row, {.kind = kind}, kTable).Comment, row.comment);
   }
@@ -170,7 +170,7 @@ TEST(ShDxLine, LeadingBlanksOfACommentStayWhereTheNodeMeansThem) {
 TEST(ShDxLine, CountryOfTheSpotBeforeIsGone) {
   Spot spot;
   spot.DxCty = "old";
-  ASSERT_TRUE(ParseShDxLine(Row{}.Text(), {}, kTable, spot));
+  ASSERT_TRUE(ParseShDxLine(ListCase{}.Text(), {}, kTable, spot));
   EXPECT_EQ(spot.DxCty, "");
 }
 

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "spot_desk.h"
+#include "spots/band_numbers.h"
 #include "spots/row_layout.h"
 
 namespace {
@@ -14,7 +15,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Press = spots::SpotTable::Press;
 
-constexpr int k20 = 6;
 constexpr int kByCall = 2;
 
 class SortBy : public SpotDesk {
@@ -100,7 +100,7 @@ TEST_F(SortBy, SortedViewFollowsBandAndSource) {
   ReceiveCalls({"A40"}, "7012.3");
   Receive({.spotter = "DL1ABC-#", .call = "S20"});
   table.SortBy(kByCall);
-  table.rail.optBand.UserSelects(k20);
+  table.rail.optBand.UserSelects(k20m);
   EXPECT_THAT(CallsInTable(), ElementsAre("A20", "B20", "S20"));
   table.chkShSkm[spots::SpotTable::kDx].UserSets(false);
   EXPECT_THAT(CallsInTable(), ElementsAre("S20"));
@@ -128,7 +128,7 @@ TEST_F(SortBy, NoSeparatorIsSetInASortedView) {
   ReceiveCalls({"AA"}, "14025.0");
   EXPECT_THAT(CallsInTable(), IsEmpty());
   EXPECT_EQ(table.TabCaption.Get(), "DX = 1");
-  EXPECT_THAT(CallsInStore(k20, 0), ElementsAre("AA"));
+  EXPECT_THAT(CallsInStore(k20m, 0), ElementsAre("AA"));
 }
 
 TEST_F(SortBy, LastHourFollowsTheClock) {

@@ -15,7 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-constexpr std::string_view kPrompt = "N0CALL de K1TST 20-Nov-2026 2116Z arc >";
+constexpr std::string_view kListPrompt = "N0CALL de K1TST 20-Nov-2026 2116Z arc >";
 constexpr std::string_view kNotFound = "sh/dx: '99 NB0DY' not found";
 
 std::string Row(const std::string& comment) {
@@ -57,7 +57,7 @@ class SpotListTest : public testing::Test {
 
 TEST_F(SpotListTest, LinesThatAreNoRowsAreNotClaimed) {
   for (const std::string_view line :
-       {std::string_view(), std::string_view("ZV11^14025.0^3Y0J"), kPrompt, kNotFound,
+       {std::string_view(), std::string_view("ZV11^14025.0^3Y0J"), kListPrompt, kNotFound,
         std::string_view("To ALL de K1A: 14025 2026 2116Z"), std::string_view("14025 Z")})
     EXPECT_FALSE(Receive(line)) << line;
   EXPECT_FALSE(list.ShDxCollecting());
@@ -69,7 +69,7 @@ TEST_F(SpotListTest, RowsAreClaimedAndKeptUntilThePrompt) {
   EXPECT_TRUE(list.ShDxCollecting());
   EXPECT_FALSE(list.ShDxDone);
   EXPECT_THAT(replayed, IsEmpty());
-  EXPECT_FALSE(Receive(kPrompt));
+  EXPECT_FALSE(Receive(kListPrompt));
   EXPECT_THAT(replayed, ElementsAre(Row("1"), Row("2")));
   EXPECT_TRUE(Ended());
   EXPECT_EQ(begun, 1);
@@ -79,7 +79,7 @@ TEST_F(SpotListTest, RowsAreClaimedAndKeptUntilThePrompt) {
 
 TEST_F(SpotListTest, IsBeingCollectedUntilTheReplayIsOver) {
   ReceiveRows(2);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, SizeIs(2));
   EXPECT_TRUE(collectedDuringReplay);
 }
@@ -87,13 +87,13 @@ TEST_F(SpotListTest, IsBeingCollectedUntilTheReplayIsOver) {
 TEST_F(SpotListTest, NewestFirstIsReplayedFromItsEnd) {
   newestFirst = true;
   ReceiveRows(3);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, ElementsAre(Row("3"), Row("2"), Row("1")));
 }
 
 TEST_F(SpotListTest, KeepsTheFirstHundredRowsAndCountsAll) {
   ReceiveRows(150);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   ASSERT_THAT(replayed, SizeIs(100));
   EXPECT_EQ(replayed.front(), Row("1"));
   EXPECT_EQ(replayed.back(), Row("100"));
@@ -104,18 +104,18 @@ TEST_F(SpotListTest, RowsOfAFinishedListAreClaimedAndNotKept) {
   list.ShDxDone = true;
   ReceiveRows(2);
   EXPECT_FALSE(list.ShDxCollecting());
-  EXPECT_FALSE(Receive(kPrompt));
+  EXPECT_FALSE(Receive(kListPrompt));
   EXPECT_THAT(replayed, IsEmpty());
   EXPECT_EQ(sorted, 0);
 }
 
 TEST_F(SpotListTest, NothingOfTheListBeforeIsReplayedAgain) {
   ReceiveRows(3);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   replayed.clear();
   list.AskedForSpots();
   ReceiveRows(1);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, ElementsAre(Row("1")));
 }
 
@@ -126,7 +126,7 @@ TEST_F(SpotListTest, RowsOfADirectoryAreNotItsOwn) {
 
 TEST_F(SpotListTest, GiantRowIsCountedAndNotKept) {
   EXPECT_TRUE(Receive(Row(std::string(1'000'000, 'x'))));
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, IsEmpty());
   EXPECT_EQ(list.lblCount.Caption.Get(), "1");
 }
@@ -137,7 +137,7 @@ TEST_F(SpotListTest, WithoutRecordsEndsAtTheNextPrompt) {
   EXPECT_TRUE(Receive("*** no records found"));
   EXPECT_TRUE(list.ShDxCollecting());
   EXPECT_FALSE(Ended());
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_TRUE(Ended());
   EXPECT_THAT(replayed, IsEmpty());
   EXPECT_EQ(sorted, 1);
@@ -146,7 +146,7 @@ TEST_F(SpotListTest, WithoutRecordsEndsAtTheNextPrompt) {
 TEST_F(SpotListTest, NoRecordsAmongRowsIsNotClaimed) {
   ReceiveRows(1);
   EXPECT_FALSE(Receive("*** no records found"));
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, SizeIs(1));
 }
 
@@ -155,7 +155,7 @@ TEST_F(SpotListTest, WithoutAPromptBeforeItAPauseBelongsToIt) {
   world.Run(9s);
   Receive(Row("2"));
   EXPECT_FALSE(Ended());
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, SizeIs(2));
 }
 
@@ -171,7 +171,7 @@ TEST_F(SpotListTest, OneWhosePromptNobodyKnowsEndsAfterTenSecondsOfSilence) {
 
 TEST_F(SpotListTest, RowsThatComeLateBehindAnotherCommandsPromptAreTheList) {
   list.AskedForSpots();
-  Receive(kPrompt);
+  Receive(kListPrompt);
   world.Run(3s);
   ASSERT_TRUE(Ended());
   Receive(Row("1"));
@@ -184,7 +184,7 @@ TEST_F(SpotListTest, RowsThatComeLateBehindAnotherCommandsPromptAreTheList) {
 
 TEST_F(SpotListTest, RowsLongAfterAnEmptyListAreNone) {
   list.AskedForSpots();
-  Receive(kPrompt);
+  Receive(kListPrompt);
   world.Run(12s);
   EXPECT_TRUE(Receive(Row("1")));
   world.Run(12s);
@@ -193,7 +193,7 @@ TEST_F(SpotListTest, RowsLongAfterAnEmptyListAreNone) {
 
 TEST_F(SpotListTest, BehindAPromptEndsASecondAfterItsLastRow) {
   list.AskedForSpots();
-  Receive(kPrompt);
+  Receive(kListPrompt);
   world.Run(500ms);
   Receive(Row("1"));
   world.Run(999ms);
@@ -208,11 +208,11 @@ TEST_F(SpotListTest, BehindAPromptEndsASecondAfterItsLastRow) {
 
 TEST_F(SpotListTest, BehindAPromptNothingElseEndsOrProlongsIt) {
   list.AskedForSpots();
-  Receive(kPrompt);
+  Receive(kListPrompt);
   Receive(Row("1"));
   for (int i = 0; i < 9; ++i) {
     world.Run(100ms);
-    for (const std::string_view line : {kPrompt, kNotFound, std::string_view("hello")})
+    for (const std::string_view line : {kListPrompt, kNotFound, std::string_view("hello")})
       Receive(line);
     EXPECT_FALSE(Ended());
   }
@@ -225,9 +225,9 @@ TEST_F(SpotListTest, BehindAPromptNothingElseEndsOrProlongsIt) {
 
 TEST_F(SpotListTest, BarePromptIsAnEmptyList) {
   list.AskedForSpots();
-  Receive(kPrompt);
+  Receive(kListPrompt);
   world.Run(900ms);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_FALSE(Ended());
   world.Run(100ms);
   EXPECT_TRUE(Ended());
@@ -249,7 +249,7 @@ TEST_F(SpotListTest, NothingFoundIsAnEmptyList) {
 
 TEST_F(SpotListTest, EmptyListAfterAFullOneReplaysNothing) {
   ReceiveRows(3);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   replayed.clear();
   list.AskedForSpots();
   Receive(kNotFound);
@@ -259,13 +259,13 @@ TEST_F(SpotListTest, EmptyListAfterAFullOneReplaysNothing) {
 }
 
 TEST_F(SpotListTest, RequestForgetsThePromptBeforeIt) {
-  Receive(kPrompt);
+  Receive(kListPrompt);
   world.Run(500ms);
   list.AskedForSpots();
   world.Run(10s);
   EXPECT_FALSE(Ended());
   ReceiveRows(1);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_TRUE(Ended());
 }
 
@@ -273,7 +273,7 @@ TEST_F(SpotListTest, ExtendedLinesAreRowsWhileASessionIsUp) {
   list.ZV11_SpotsOthers("ZV11^1");
   list.ZV11_SpotsOthers("ZV11^2");
   EXPECT_TRUE(list.ShDxCollecting());
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, ElementsAre("ZV11^1", "ZV11^2"));
   EXPECT_TRUE(Ended());
 }
@@ -289,14 +289,14 @@ TEST_F(SpotListTest, ExtendedLinesAreNoRowsOfAFinishedListOrWithoutASession) {
 }
 
 TEST_F(SpotListTest, ExtendedRowsBehindAPromptEndWithTheNext) {
-  Receive(kPrompt);
+  Receive(kListPrompt);
   list.ZV11_SpotsOthers("ZV11^1");
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, ElementsAre("ZV11^1"));
 }
 
 TEST_F(SpotListTest, StreamOfExtendedLinesDoesNotKeepAListOpen) {
-  Receive(kPrompt);
+  Receive(kListPrompt);
   for (int i = 0; i < 150; ++i) {
     list.ZV11_SpotsOthers("ZV11^");
     world.Run(20ms);
@@ -320,7 +320,7 @@ TEST_F(SpotListTest, LongTimeIsShownInTenths) {
   world.Run(9994ms);
   ReceiveRows(1);
   EXPECT_EQ(list.lblSeconds.Caption.Get(), "009.99");
-  Receive(kPrompt);
+  Receive(kListPrompt);
   list.AskedForMissed();
   EXPECT_EQ(list.lblSeconds.Caption.Get(), "");
   EXPECT_EQ(list.lblBeyondLatency.Caption.Get(), "");
@@ -340,14 +340,14 @@ TEST_F(SpotListTest, AnswerFasterThanTheLinkIsShownAsLess) {
 
 TEST_F(SpotListTest, EndsWithTheSessionAndLeavesNothing) {
   list.AskedForSpots();
-  Receive(kPrompt);
+  Receive(kListPrompt);
   ReceiveRows(3);
   list.Disconnected();
   EXPECT_FALSE(list.ShDxCollecting() || list.ShDxDone || list.SpotListBusy());
   world.Run(10s);
   EXPECT_EQ(sorted, 0);
   ReceiveRows(1);
-  Receive(kPrompt);
+  Receive(kListPrompt);
   EXPECT_THAT(replayed, ElementsAre(Row("1")));
 }
 

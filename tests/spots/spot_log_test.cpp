@@ -13,7 +13,7 @@ using platform::Files;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kFolder = "/home/op/molva";
+constexpr const char* kLogFolder = "/home/op/molva";
 
 // Counts what the disk is asked for.
 class CountingFiles : public platform::sim::SimFiles {
@@ -42,7 +42,7 @@ class SpotLogTest : public testing::Test {
   // The calls in a file, "" for a line without one.
   std::vector<std::string> Calls(const std::string& name) const {
     std::vector<std::string> calls;
-    const auto file = files.content.find(kFolder + ("/" + name));
+    const auto file = files.content.find(kLogFolder + ("/" + name));
     if (file == files.content.end()) return calls;
     std::istringstream lines(file->second);
     for (std::string line; std::getline(lines, line);)
@@ -56,8 +56,9 @@ class SpotLogTest : public testing::Test {
   core::Calendar calendar{world.clock};
   core::Settings settings;
   std::vector<Files::Fault> troubles;
-  SpotLog log{world.scheduler, files,   calendar,
-              settings,        kFolder, [this](Files::Fault fault) { troubles.push_back(fault); }};
+  SpotLog log{world.scheduler, files,
+              calendar,        settings,
+              kLogFolder,      [this](Files::Fault fault) { troubles.push_back(fault); }};
 };
 
 TEST_F(SpotLogTest, LineIsTheSystemsWithinASecond) {
@@ -152,7 +153,7 @@ TEST_F(SpotLogTest, DatesInAnyNumberStayInTheirFiles) {
 }
 
 TEST_F(SpotLogTest, FolderThatIsReadOnlyIsToldOnceAndItsEndToo) {
-  files.denied.insert(kFolder);
+  files.denied.insert(kLogFolder);
   for (const char* call : {"K1", "K2", "K3"}) {
     Write(call);
     world.Run(1s);
@@ -183,13 +184,13 @@ TEST_F(SpotLogTest, LineThatAFullDiskCutDoesNotSpoilTheNext) {
 }
 
 TEST_F(SpotLogTest, TroubleIsToldWhenTheYearsFolderCannotBeMade) {
-  files.denied.insert(kFolder);
+  files.denied.insert(kLogFolder);
   log.EnableLoggingSpots();
   EXPECT_THAT(troubles, ElementsAre(Files::Fault::Denied));
 }
 
 TEST_F(SpotLogTest, WithLoggingOffThereIsNoTrouble) {
-  files.denied.insert(kFolder);
+  files.denied.insert(kLogFolder);
   settings.LogDxSpots = false;
   log.EnableLoggingSpots();
   EXPECT_THAT(troubles, IsEmpty());
@@ -201,7 +202,7 @@ TEST_F(SpotLogTest, WithLoggingOffThereIsNoTrouble) {
 }
 
 TEST_F(SpotLogTest, MemoryStaysBoundedWhileTheDiskTakesNothing) {
-  files.denied.insert(kFolder);
+  files.denied.insert(kLogFolder);
   for (int i = 0; i < 20'000; ++i) Write("K1", i % 2 == 0 ? "20-Nov-2026" : "19-Nov-2026");
   const std::size_t before = MemoryMeter::Live();
   for (int i = 0; i < 200'000; ++i) Write("K1", i % 2 == 0 ? "20-Nov-2026" : "19-Nov-2026");

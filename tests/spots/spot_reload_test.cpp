@@ -15,7 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr const char* kFolder = "/home/op/molva";
+constexpr const char* kReloadFolder = "/home/op/molva";
 constexpr const char* kToday = "20-Nov-2026";
 constexpr const char* kYesterday = "19-Nov-2026";
 constexpr const char* kScratch = "/home/op/molva/2026/tmp.txt";
@@ -32,7 +32,7 @@ class SpotReloadTest : public testing::Test {
            ",,,,,,,,,,,,,~\r\n";
   }
   std::string& File(const std::string& date) {
-    return world.files.content[kFolder + ("/" + date.substr(7)) + "/dx-" + date + ".txt"];
+    return world.files.content[kReloadFolder + ("/" + date.substr(7)) + "/dx-" + date + ".txt"];
   }
   void Reload() {
     reload.ReloadSpots();
@@ -79,7 +79,7 @@ class SpotReloadTest : public testing::Test {
                     world.files,
                     calendar,
                     settings,
-                    kFolder,
+                    kReloadFolder,
                     Needs(),
                     [this](std::string_view name, std::string_view what) {
                       faults.push_back(std::string(name) + ": " + std::string(what));
@@ -303,7 +303,7 @@ TEST_F(SpotReloadTest, StepThatFailsEndsTheReloadAndLetsIntakeGo) {
 TEST_F(SpotReloadTest, ItsEndInTheMiddleLetsIntakeGo) {
   for (int i = 0; i < 250; ++i) File(kToday) += Line("2050", "K" + std::to_string(i));
   {
-    SpotReload other(world.scheduler, world.files, calendar, settings, kFolder,
+    SpotReload other(world.scheduler, world.files, calendar, settings, kReloadFolder,
                      {.closeLog = [] {},
                       .holdIntake = Needs().holdIntake,
                       .showRaw = [](std::string_view) {},

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "spot_desk.h"
+#include "spots/band_numbers.h"
 
 namespace {
 
@@ -10,8 +11,6 @@ using spots::kAllBands;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int k20 = 6;
-constexpr int k40 = 4;
 constexpr auto kDx = spots::SpotTable::kDx;
 constexpr auto kSkimmer = spots::SpotTable::kSkimmer;
 
@@ -32,9 +31,9 @@ TEST_F(SpotTable, RowIsStoredForAllBandsAndItsOwnByItsKind) {
   EXPECT_THAT(CallsInStore(kAllBands, 0), ElementsAre("S20", "O20", "S40", "O40"));
   EXPECT_THAT(CallsInStore(kAllBands, 1), ElementsAre("S20", "S40"));
   EXPECT_THAT(CallsInStore(kAllBands, 2), ElementsAre("O20", "O40"));
-  EXPECT_THAT(CallsInStore(k40, 0), ElementsAre("*", "S40", "O40"));
-  EXPECT_THAT(CallsInStore(k40, 1), ElementsAre("S40"));
-  EXPECT_THAT(CallsInStore(k40, 2), ElementsAre("O40"));
+  EXPECT_THAT(CallsInStore(k40m, 0), ElementsAre("*", "S40", "O40"));
+  EXPECT_THAT(CallsInStore(k40m, 1), ElementsAre("S40"));
+  EXPECT_THAT(CallsInStore(k40m, 2), ElementsAre("O40"));
 }
 
 TEST_F(SpotTable, RowIsStoredOnceForAllItsPlaces) {
@@ -42,14 +41,14 @@ TEST_F(SpotTable, RowIsStoredOnceForAllItsPlaces) {
   const char* text = table.RtbDx.Rows().back().Text().data();
   EXPECT_EQ(table.SpotStore(kAllBands, 0).Rows().back().Text().data(), text);
   EXPECT_EQ(table.SpotStore(kAllBands, 2).Rows().back().Text().data(), text);
-  EXPECT_EQ(table.SpotStore(k20, 0).Rows().back().Text().data(), text);
-  EXPECT_EQ(table.SpotStore(k20, 2).Rows().back().Text().data(), text);
+  EXPECT_EQ(table.SpotStore(k20m, 0).Rows().back().Text().data(), text);
+  EXPECT_EQ(table.SpotStore(k20m, 2).Rows().back().Text().data(), text);
 }
 
 TEST_F(SpotTable, SelectedBandShowsItsSpotsAndNoOthers) {
   table.EnterTab();
   ReceiveFour();
-  Select(k40);
+  Select(k40m);
   EXPECT_THAT(CallsInTable(), ElementsAre("*", "S40", "O40"));
   ReceiveCalls({"PY2AA"}, "14025.0");
   ReceiveCalls({"PY2BB"}, "7012.3");
@@ -90,7 +89,7 @@ TEST_F(SpotTable, ViewShowsNewRowsOfItsKindOnly) {
   table.chkShSkm[kDx].UserSets(false);
   ReceiveFour();
   EXPECT_THAT(CallsInTable(), ElementsAre("S20", "S40", "S20", "S40"));
-  Select(k20);
+  Select(k20m);
   EXPECT_THAT(CallsInTable(), ElementsAre("S20", "S20"));
 }
 
@@ -144,7 +143,7 @@ TEST_F(SpotTable, ObserverIsToldOfEachRowAndOfANewBand) {
   });
   ReceiveCalls({"PY2AA", "PY2BB"});
   EXPECT_THAT(added, ElementsAre(0, 1, 1));
-  Select(k20);
+  Select(k20m);
   EXPECT_THAT(added, ElementsAre(0, 1, 1, 3));
   EXPECT_EQ(allNew, 2);
 }

@@ -1,15 +1,13 @@
 #include <gmock/gmock.h>
 
 #include "spot_desk.h"
+#include "spots/band_numbers.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 using spots::kAllBands;
 using testing::ElementsAre;
-
-constexpr int k20 = 6;
-constexpr int k40 = 4;
 
 class Unseen : public SpotDesk {
  protected:
@@ -31,7 +29,7 @@ TEST_F(Unseen, CaptionOfTheTabCountsWhileItIsNot) {
 }
 
 TEST_F(Unseen, SpotsOfTheSelectedBandAloneCountForTheTab) {
-  Select(k40);
+  Select(k40m);
   ReceiveCalls({"PY2AA"}, "14025.0");
   EXPECT_EQ(Caption(), "DX");
   ReceiveCalls({"PY2AA"}, "7012.3");
@@ -78,38 +76,38 @@ TEST_F(Unseen, LeavingTheTabTakesTheSeparatorAwayAndCountsAnew) {
 TEST_F(Unseen, BandThatIsNotSelectedShowsItsCount) {
   table.EnterTab();
   ReceiveCalls({"PY2AA", "PY2BB"});
-  EXPECT_TRUE(table.rail.lblUnseen[k20].Visible.Get());
-  EXPECT_EQ(table.rail.lblUnseen[k20].Caption.Get(), "2");
-  EXPECT_EQ(table.rail.lblTotal[k20].Caption.Get(), "2");
+  EXPECT_TRUE(table.rail.lblUnseen[k20m].Visible.Get());
+  EXPECT_EQ(table.rail.lblUnseen[k20m].Caption.Get(), "2");
+  EXPECT_EQ(table.rail.lblTotal[k20m].Caption.Get(), "2");
 }
 
 TEST_F(Unseen, SelectingABandClearsItsCountAndShowsItsSeparatorOnce) {
   table.EnterTab();
   ReceiveCalls({"PY2AA"});
-  Select(k20);
-  EXPECT_FALSE(table.rail.lblUnseen[k20].Visible.Get());
+  Select(k20m);
+  EXPECT_FALSE(table.rail.lblUnseen[k20m].Visible.Get());
   EXPECT_THAT(CallsInTable(), ElementsAre("*", "PY2AA"));
   ReceiveCalls({"PY2BB"});
   Select(kAllBands);
-  Select(k20);
+  Select(k20m);
   EXPECT_THAT(CallsInTable(), ElementsAre("PY2AA", "PY2BB"));
 }
 
 TEST_F(Unseen, SeparatorOfABandStandsBeforeTheFirstSpotSinceItWasSelected) {
   table.EnterTab();
-  Select(k20);
+  Select(k20m);
   ReceiveCalls({"PY2AA"});
-  Select(k40);
+  Select(k40m);
   ReceiveCalls({"PY2BB", "PY2CC"});
-  EXPECT_EQ(table.rail.lblUnseen[k20].Caption.Get(), "2");
-  Select(k20);
+  EXPECT_EQ(table.rail.lblUnseen[k20m].Caption.Get(), "2");
+  Select(k20m);
   EXPECT_THAT(CallsInTable(), ElementsAre("PY2AA", "*", "PY2BB", "PY2CC"));
 }
 
 TEST_F(Unseen, AllBandsHaveASeparatorOfTheirOwn) {
   table.EnterTab();
   ReceiveCalls({"PY2AA"});
-  Select(k40);
+  Select(k40m);
   ReceiveCalls({"PY2BB", "PY2CC"}, "14025.0");
   EXPECT_EQ(table.rail.lblUnseen[kAllBands].Caption.Get(), "2");
   Select(kAllBands);
@@ -119,9 +117,9 @@ TEST_F(Unseen, AllBandsHaveASeparatorOfTheirOwn) {
 TEST_F(Unseen, SeparatorGoesIntoTheSelectedViewOfTheBand) {
   table.chkShSkm[spots::SpotTable::kSkimmer].UserSets(true);
   ReceiveCalls({"PY2AA"});
-  EXPECT_THAT(CallsInStore(k20, 0), ElementsAre("PY2AA"));
-  EXPECT_THAT(CallsInStore(k20, 1), ElementsAre("*"));
-  EXPECT_THAT(CallsInStore(k20, 2), ElementsAre("PY2AA"));
+  EXPECT_THAT(CallsInStore(k20m, 0), ElementsAre("PY2AA"));
+  EXPECT_THAT(CallsInStore(k20m, 1), ElementsAre("*"));
+  EXPECT_THAT(CallsInStore(k20m, 2), ElementsAre("PY2AA"));
 }
 
 }  // namespace

@@ -25,6 +25,8 @@ Node::Node(platform::Scheduler& scheduler, const platform::Clock& clock, platfor
       spotPacer_(scheduler, stream_.lines ? 0 : stream_.rate, [this] { StreamSpot(); }),
       started_(scheduler.Now()) {}
 
+Node::~Node() = default;
+
 std::string Node::Start(const std::string& address, std::uint16_t port) {
   address_ = address;
   port_ = port;

@@ -2,6 +2,9 @@
 
 namespace platform::sim {
 
+World::World() = default;
+World::~World() = default;
+
 bool VirtualScheduler::Step(Milliseconds end) {
   const auto next = queue_.NextDue();
   if (!next || *next > end) return false;

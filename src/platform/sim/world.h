@@ -49,6 +49,9 @@ class SimClock : public Clock {
 // Everything outside the program, in one order of events.
 class World {
  public:
+  World();
+  ~World();
+
   VirtualScheduler scheduler;
   SimClock clock{scheduler};
   SimNetwork network{scheduler};
