@@ -10,7 +10,6 @@ namespace spots {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
