@@ -26,8 +26,8 @@ const WordFacts kTable = {.CountriesLoaded = true, .isPrefix = IsPrefix};
 
 struct Ending {
   std::string call = "3Y0J";
-  std::string comment;
-  std::string tail;
+  std::string comment{};
+  std::string tail{};
 };
 
 Spot Read(const Ending& ending, NodeKind kind, const WordFacts& words) {

@@ -16,7 +16,7 @@ struct Line {
   std::string call = "3Y0J";
   std::string comment = "CW up 2";
   std::string time = "2116";
-  std::string tail = "";  // behind the time
+  std::string tail{};  // behind the time
 
   std::string Text() const;
 };
