@@ -14,7 +14,7 @@
 namespace spots {
 namespace {
 
-constexpr int kNow = 29'000'000;
+constexpr int kPresentMinute = 29'000'000;
 
 Spot Heard() {
   Spot spot;
@@ -22,7 +22,7 @@ Spot Heard() {
   spot.DxCall = "3Y0J";
   spot.Spotter = "W1ABC";
   spot.Comment = "CW up 2";
-  spot.SpotMinute = kNow;
+  spot.SpotMinute = kPresentMinute;
   return spot;
 }
 
@@ -54,11 +54,11 @@ TEST_F(RecentSpotsTest, ThirtyOneHundredthsAreNot) {
 
 TEST_F(RecentSpotsTest, FourMinutesAreNearAndFiveAreNot) {
   for (const int minutes : {-4, 4}) {
-    spot.SpotMinute = kNow + minutes;
+    spot.SpotMinute = kPresentMinute + minutes;
     EXPECT_TRUE(recent.Hold(spot)) << minutes;
   }
   for (const int minutes : {-5, 5}) {
-    spot.SpotMinute = kNow + minutes;
+    spot.SpotMinute = kPresentMinute + minutes;
     EXPECT_FALSE(recent.Hold(spot)) << minutes;
   }
 }
@@ -146,7 +146,7 @@ TEST(RecentSpots, HoldWhatALookAtAllOfThemFinds) {
     spot.Spotter = spotters[static_cast<std::size_t>(below(4))];
     spot.Comment = below(2) == 0 ? "CW" : " CW up";
     spot.Freq = 14025 + below(10) * 0.1;
-    spot.SpotMinute = kNow + i / 20 + below(12) - 6;
+    spot.SpotMinute = kPresentMinute + i / 20 + below(12) - 6;
     bool expected = false;
     for (const Spot& other : last) expected = expected || SameSpot(other, spot);
     ASSERT_EQ(recent.Hold(spot), expected) << "spot " << i;
