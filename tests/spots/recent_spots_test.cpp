@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kPresentMinute = 29'000'000;
 
-Spot Heard() {
+Spot HeardSpot() {
   Spot spot;
   spot.Freq = 14025.0;
   spot.DxCall = "3Y0J";
@@ -31,7 +31,7 @@ class RecentSpotsTest : public testing::Test {
   RecentSpotsTest() { recent.Record(spot); }
 
   RecentSpots recent;
-  Spot spot = Heard();
+  Spot spot = HeardSpot();
 };
 
 TEST_F(RecentSpotsTest, SameSpotIsHeld) { EXPECT_TRUE(recent.Hold(spot)); }
@@ -104,7 +104,7 @@ TEST_F(RecentSpotsTest, BlanksAroundTheCommentDoNotCount) {
 }
 
 TEST_F(RecentSpotsTest, TwoHundredOthersPushItOut) {
-  Spot other = Heard();
+  Spot other = HeardSpot();
   for (int i = 0; i < 199; ++i) {
     other.DxCall = "K" + std::to_string(i);
     recent.Record(other);
