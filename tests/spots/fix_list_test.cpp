@@ -256,7 +256,7 @@ TEST_F(FixListTest, FileOfTheNewFormIsNotRewritten) {
 
 TEST_F(FixListTest, MalformedLinesAreSkipped) {
   Have("<html>\r\n\"K1 ABC\",\"K\"\r\nG0AA,G\r\n" + "\0\xFF,K\r\n"s + std::string(100'000, 'X') +
-       "\r\n\"DL1\",\"DL");
+       ",K\r\n\"DL1\",\"DL");
   EXPECT_EQ(list.FixCount(), 2u);
   EXPECT_EQ(CtyOf("G0AA"), "G");
   EXPECT_EQ(CtyOf("DL1"), "DL");
