@@ -19,9 +19,9 @@ struct Heard {
   int hhmm = 2116;
   int band = 6;
   std::string spotter = "DL1ABC";
-  std::string address = "";
+  std::string address{};
   std::string date = "20-Nov-2026";
-  std::string grid = "";
+  std::string grid{};
 };
 
 class SortedViewTest : public testing::Test {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/sim/world.h"
+#include "spots/spot_date.h"
 #include "spots/spot_parts.h"
 
 // A plain line, in the columns of a DXSpider node.
@@ -16,10 +17,14 @@ struct Line {
   std::string call = "3Y0J";
   std::string comment = "CW up 2";
   std::string time = "2116";
-  std::string tail = "";  // behind the time
+  std::string tail{};  // behind the time
 
   std::string Text() const;
 };
+
+// The moment at which a spot desk opens.
+inline constexpr spots::Moment kDeskTime = {
+    .dayNumber = 20777, .date = "20-Nov-2026", .minutes = 21 * 60};
 
 // A spot pipeline at a node that sends plain lines, in a simulated world where it is
 // 20 November 2026, 21:00 UTC.

@@ -15,7 +15,6 @@ namespace spots {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 
 const std::string kHeadLine = "ID NAME                        NORTH    WEST\n";
@@ -61,8 +60,9 @@ TEST_F(StateTableTest, LinesMayEndEitherWay) {
 }
 
 TEST_F(StateTableTest, WithoutAlabamaInTheSecondLineTheFileIsIgnored) {
+  const std::string alaskaFirst = kAlaska + kAlabama;
   for (const std::string& text :
-       {std::string(), kHeadLine, kAlabama, kAlabama + kAlaska, kHeadLine + kAlaska + kAlabama}) {
+       {std::string(), kHeadLine, kAlabama, kAlabama + kAlaska, kHeadLine + alaskaFirst}) {
     table.Read(text);
     EXPECT_EQ(table.StateCount(), 0) << text;
   }
@@ -109,10 +109,11 @@ TEST_F(StateTableTest, HoldsAsManyStatesAsItHasRoomFor) {
 }
 
 TEST_F(StateTableTest, FiftyMegabytesAreHarmless) {
-  const std::string giant(50'000'000, '\n');
+  constexpr std::size_t fiftyMegabytes = 50'000'000;
+  const std::string giant(fiftyMegabytes, '\n');
   table.Read(kHeadLine + kAlabama + giant);
   EXPECT_EQ(table.StateCount(), 1);
-  table.Read(kHeadLine + kAlabama + std::string(50'000'000, 'X'));
+  table.Read(kHeadLine + kAlabama + std::string(fiftyMegabytes, 'X'));
   EXPECT_EQ(table.StateCount(), 1);
   table.Read(giant);
   EXPECT_EQ(table.StateCount(), 1);
