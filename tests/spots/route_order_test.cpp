@@ -47,6 +47,7 @@ class RouteOrder : public SpotDesk {
     auto again = std::make_unique<spots::SpotParts>(platform, calendar, settings, errorLog, "/home",
                                                     Needs());
     settings.LoadLogFileOnStartup = true;
+    settings.GetMissedOnes = false;  // no list is awaited
     again->table.rail.optBand.UserSelects(k20m);
     again->BeginLog();
     world.Run(1s);
@@ -109,9 +110,13 @@ TEST_F(RouteOrder, CallThatIsNoneIsNotCountedAsRejected) {
 }
 
 TEST_F(RouteOrder, RejectedSpotIsCountedWhetherMemberOrNot) {
+  for (int i = 0; i < 1100; ++i) world.files.content["/home/lotw.txt"] += "K1ABC         \r\n";
   settings.RejSpots = settings.ShLoTW = settings.RejectNotLoTWeQSL = true;
   parts.TakeSettings();
+  parts.ReadLists();
   parts.rejectLists.Add(RejectLists::kDx, "3Y0J");
+  Receive({.call = "ZS1AA"});
+  EXPECT_THAT(CallsInTable(), IsEmpty()) << "it is no member either";
   Receive(Line{});
   EXPECT_EQ(parts.rejectLists.lblRejected.Caption.Get(), "Dx Spots Rejected = 1");
 }
@@ -177,8 +182,12 @@ TEST_F(RouteOrder, SpotsOfTheLogAreHeardAnnouncedAndToldToNobody) {
 TEST_F(RouteOrder, LoggersGetTheRowOfTheTableIfTheyWantItSo) {
   receivers.takesLines = true;
   settings.SendToLog = 1 << 1 | 1 << 19;
+  parts.display.optFormat.UserSelects(spots::DisplayChoice::kExpanded);
+  parts.display.cmdApply.Press();
   Receive(Line{});
   EXPECT_THAT(receivers.fed, ElementsAre(LastRow()));
+  EXPECT_THAT(receivers.logWindow, ElementsAre(HasSubstr("DX de DL1ABC:")));
+  EXPECT_NE(receivers.fed, receivers.logWindow);
 }
 
 }  // namespace

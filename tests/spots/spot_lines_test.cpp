@@ -253,6 +253,14 @@ TEST_F(SpotLinesTest, PlainRowsAmongExtendedOnesAreErrors) {
   EXPECT_EQ(Zv11Errors().Caption.Get(), "ZV11 Errors = 1");
 }
 
+TEST_F(SpotLinesTest, PlainRowsOfAnOwnNodeAreErrors) {
+  node.kind = NodeKind::Zelva;
+  Receive(kPlainRow);
+  Receive(kPrompt);
+  EXPECT_THAT(shown, IsEmpty());
+  EXPECT_EQ(Zv11Errors().Caption.Get(), "ZV11 Errors = 1");
+}
+
 TEST_F(SpotLinesTest, WordsOfAListGoByTheFacts) {
   words = {.CountriesLoaded = true, .isPrefix = [](std::string_view word) { return word == "3Y"; }};
   std::string row(kPlainRow);
