@@ -110,7 +110,9 @@ TEST_F(RouteOrder, CallThatIsNoneIsNotCountedAsRejected) {
 }
 
 TEST_F(RouteOrder, RejectedSpotIsCountedWhetherMemberOrNot) {
-  for (int i = 0; i < 1100; ++i) world.files.content["/home/lotw.txt"] += "K1ABC         \r\n";
+  std::string& members = world.files.content["/home/lotw.txt"];
+  members = "LOTW\r\n";
+  for (int i = 0; i < 1100; ++i) members += "K1ABC         \r\n";
   settings.RejSpots = settings.ShLoTW = settings.RejectNotLoTWeQSL = true;
   parts.TakeSettings();
   parts.ReadLists();

@@ -62,6 +62,30 @@ TEST_F(SpotPartsTest, GridsAreRecordedWhereThereIsAListOfThem) {
   EXPECT_EQ(world.files.content["/home/grid.txt"], "DL1ABC JN58 261120\r\n3Y0J JD15 261120\r\n");
 }
 
+TEST_F(SpotPartsTest, HeadingIsThatOfPlaceThenGridThenStateThenCountry) {
+  world.files.content["/home/cty.dat"] = CtyText({Country{}.Line()});
+  world.files.content["/home/state.dat"] =
+      "ID NAME                        NORTH    WEST\n"
+      "AL ALABAMA                     32.78   86.83\n";
+  parts.reference.Read();
+  const spots::Home home = {.position = {42.28, 83.73}, .kilometres = true};
+  parts.reference.SetHome(home);
+  spots::Spot spot;
+  const auto expectHeadingOf = [&](core::Coordinates place) {
+    EXPECT_EQ(parts.reference.HeadingOf(spot), spots::Bearing(home, place));
+  };
+  spot.DxCty = "GD";
+  expectHeadingOf({54.20, 4.53});
+  spot.DxState = "ZZ";  // it is none
+  expectHeadingOf({54.20, 4.53});
+  spot.DxState = "AL";
+  expectHeadingOf({32.78, 86.83});
+  spot.DxGrid = "FN20";
+  expectHeadingOf({40.5, 75});
+  spot.OrigLocation = "50.7/-7.1";
+  expectHeadingOf({50.7, -7.1});
+}
+
 TEST_F(SpotPartsTest, ShareOfSkimmersDuplicatesIsShownWithTheNextTick) {
   for (int report = 0; report < 2; ++report) Receive({.spotter = "DL1ABC-#", .time = "2100"});
   EXPECT_EQ(parts.duplicates.SkimmerDupes.Caption.Get(), "");
