@@ -2,6 +2,7 @@
 
 #include "core/password_file.h"
 #include "core/version.h"
+#include "program/clock_condition.h"
 #include "program/save_condition.h"
 
 namespace program {
@@ -66,6 +67,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       textSizes(settings, [this] { DelayedWriteCfg(); }),
       startOptions(settings, NeedsOfStartOptions()),
       linkCondition_(conditions, session),
+      clockWatched_(spotParts.lines.clockCheck.HourOut.Observe(
+          [this](bool hourOut) { ShowClock(conditions, hourOut); })),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),

@@ -158,6 +158,7 @@ class Program {
   bool folderIsNew_ = false;
   bool configurationIsNew_ = false;
   LinkCondition linkCondition_;
+  platform::Registration clockWatched_;
   platform::Registration autoReconnectTicked_;
   platform::Registration linkingTicked_;
   platform::Registration macrosFollowing_;

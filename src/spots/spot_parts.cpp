@@ -104,7 +104,6 @@ SpotLines::Needs SpotParts::NeedsOfLines() {
               [this](std::string_view grid, std::string_view call) {
                 gridRecorder_.RecordGrid(grid, call, needs_.nodeFacts());
               },
-          .readUtcOffset = [] {},
           .DisplayDx = [this] { pipeline.DisplayDx(); },
           .RcvdPrompt = needs_.RcvdPrompt,
           .directoryRuns = [] { return false; },

@@ -16,7 +16,7 @@ constexpr NodeSwitch kOff = NodeSwitch::Off;
 constexpr NodeSwitch kUnknown = NodeSwitch::Unknown;
 
 bool IsPrefix(std::string_view word) {
-  for (const std::string_view prefix : {"K", "DL", "OH", "VK9X", "3Y/B", "4U1UN"})
+  for (const std::string_view prefix : {"K", "DL", "OH", "VK9X", "3Y/B", "4U1UN", "4U1UNX"})
     if (core::SameIgnoringCase(word, prefix)) return true;
   return false;
 }

@@ -59,6 +59,11 @@ TEST(ShDxRow, IsNothingElse) {
   EXPECT_FALSE(IsShowDxRow("DX de DL1ABC:    14025.0  3Y0J         CW up 2          2116Z"));
 }
 
+TEST(ShDxRow, ShowsItsTimeFromThe35thColumnOn) {
+  EXPECT_TRUE(IsShowDxRow("14025.0  3Y0J     20-Nov-2026 2116Z CW up 2"));
+  EXPECT_FALSE(IsShowDxRow("14025.0  3Y0J    20-Nov-2026 2116Z CW up 2"));
+}
+
 TEST(ShDxLineMalformed, WithoutAYearOrABracketItIsNoSpot) {
   for (const std::string& row :
        {std::string(), ListCase{.spotter = ""}.Text(), ListCase{.date = "20-Nov-1999"}.Text(),

@@ -142,6 +142,20 @@ TEST_F(SpotListTest, WithoutRecordsEndsAtTheNextPrompt) {
   EXPECT_EQ(sorted, 1);
 }
 
+TEST_F(SpotListTest, WithoutRecordsAndWithoutAPromptEndsByItself) {
+  list.AskedForSpots();
+  Receive("*** no records found");
+  world.Run(9999ms);
+  EXPECT_FALSE(Ended());
+  world.Run(1ms);
+  EXPECT_TRUE(Ended());
+  list.AskedForSpots();
+  Receive(kListPrompt);
+  Receive("*** no records found");
+  world.Run(1s);
+  EXPECT_TRUE(Ended());
+}
+
 TEST_F(SpotListTest, NoRecordsAmongRowsIsNotClaimed) {
   ReceiveRows(1);
   EXPECT_FALSE(Receive("*** no records found"));

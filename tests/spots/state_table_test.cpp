@@ -21,6 +21,7 @@ const std::string kHeadLine = "ID NAME                        NORTH    WEST\n";
 const std::string kAlabama = "AL ALABAMA                     32.78   86.83\n";
 const std::string kAlaska = "AK ALASKA                      64.07  152.28\n";
 const std::string kNowhere = "AM NOWHERE                      0.00   90.00\n";
+const std::string kNorthOfNowhere = "AN NORTH OF NOWHERE            9.00    0.00\n";
 
 std::string RepositoryFile() {
   std::ostringstream content;
@@ -85,8 +86,9 @@ TEST_F(StateTableTest, HeadingsFollowTheHome) {
 
 TEST_F(StateTableTest, AStateWithoutAPositionKeepsTheHeadingBeforeIt) {
   table.SetHome(home);
-  table.Read(kHeadLine + kAlabama + kAlaska + kNowhere);
+  table.Read(kHeadLine + kAlabama + kAlaska + kNowhere + kNorthOfNowhere);
   EXPECT_EQ(HeadingOf("AM"), HeadingOf("AL"));
+  EXPECT_EQ(HeadingOf("AN"), HeadingOf("AL"));
 }
 
 TEST_F(StateTableTest, WhatIsNoStateEmptiesTheHeading) {
