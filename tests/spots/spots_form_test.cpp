@@ -30,8 +30,7 @@ class SpotsFormTest : public testing::Test {
                      .isDupe = [](const Spot&) { return false; },
                      .record = [](const Spot&) {},
                      .rejectCounty = [](const Spot&) { return false; },
-                     .show = [this](Spot&) { ++shown; },
-                     .redraw = [] {}},
+                     .show = [this](Spot&) { ++shown; }},
                     [](std::string_view, std::string_view) {}};
   SpotsForm form{settings,
                  reload,
@@ -133,11 +132,9 @@ TEST_F(SpotsFormTest, ReloadCountsAndCanBeStopped) {
 TEST_F(SpotsFormTest, SpotNumbersAreShownAsTheSettingSays) {
   SpotNumbers numbers(settings);
   numbers.ShowRows(57);
-  EXPECT_FALSE(numbers.Shown.Get());
   EXPECT_FALSE(numbers.txtrtb2.Visible.Get());
   settings.ShowSpotNrs = true;
   numbers.SetupSpotNrs();
-  EXPECT_TRUE(numbers.Shown.Get());
   EXPECT_TRUE(numbers.txtrtb2.Visible.Get());
   EXPECT_EQ(numbers.txtrtb2.Caption.Get(), "57");
 }
