@@ -200,10 +200,10 @@ void SpotParts::DeleteOldLogs() {
 
 void SpotParts::FollowReload(bool reloading) {
   pipeline.Reloading = reloading;
-  if (reloading)
-    table.BeginReload();
-  else
-    table.EndReload();
+  if (!reloading) return table.EndReload();
+  table.BeginReload();
+  // What is on show stands in the log: it would be there twice.
+  if (settings_.LogDxSpots) ClearSpots();
 }
 
 void SpotParts::Tick() {

@@ -216,6 +216,23 @@ TEST_F(Route, ReloadTellsNobodyElse) {
   EXPECT_THAT(receivers.sounds, IsEmpty());
 }
 
+TEST_F(Route, ReloadAtAnyTimeShowsWhatIsLoggedOnce) {
+  for (int i = 0; i < 300; ++i) Receive({.call = "K" + std::to_string(i) + "ABC"});
+  for (const bool again : {false, true}) {
+    parts.reload.ReloadSpots();
+    world.Run(1s);
+    EXPECT_THAT(CallsInTable(), SizeIs(300)) << again;
+  }
+}
+
+TEST_F(Route, ReloadKeepsWhatWasNotLogged) {
+  settings.LogDxSpots = false;
+  Receive(Line{});
+  parts.reload.ReloadSpots();
+  world.Run(1s);
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+}
+
 TEST_F(Route, StartReloadsOnlyIfTheLogIsKeptToo) {
   settings.LoadLogFileOnStartup = true;
   for (const bool kept : {false, true}) {
