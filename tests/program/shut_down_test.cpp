@@ -105,11 +105,11 @@ TEST_F(ShutDownTest, LastSpotsAreInTheLog) {
   program.settings.LogDxSpots = true;
   program.RequestClose(Program::Close::WithoutAsking);
   desk.world.Run(1900ms);
-  program.spotParts.log.Write({.Freq = 14025,
-                               .DxCall = "3Y0J",
-                               .SpotDate = "20-Nov-2026",
-                               .SpotTime = "2100",
-                               .Spotter = "W1TST"});
+  spots::Spot spot;
+  spot.Freq = 14025;
+  spot.DxCall = "3Y0J";
+  spot.SpotDate = "20-Nov-2026";
+  program.spotParts.log.Write(spot);
   ASSERT_TRUE(desk.world.RunUntil([this] { return desk.quits == 1; }));
   EXPECT_THAT(desk.Content("2026/dx-20-Nov-2026.txt"), HasSubstr("3Y0J"));
 }
