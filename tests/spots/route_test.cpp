@@ -387,9 +387,11 @@ TEST_F(Route, LogWindowIsFedWhateverTheLoggersWant) {
 }
 
 TEST_F(Route, EndOfTheSessionForgetsWhatTheNodeSends) {
+  parts.rejectLists.NoteCountryWord();
   parts.lines.ZV11CarrotCounter("ZV11^1");
   EXPECT_FALSE(Receive(Line{}));
   parts.Disconnected();
+  EXPECT_FALSE(parts.rejectLists.CountryWordSeen.Get());
   EXPECT_TRUE(Receive(Line{}));
 }
 
