@@ -113,6 +113,14 @@ TEST_F(SpotsFormTest, NumbersThatMakeNoSenseCountAsTheDefault) {
   }
 }
 
+TEST_F(SpotsFormTest, MemoryHasALeastNumber) {
+  form.txtMemory[0].UserTypes("20");
+  form.txtMemory[1].UserTypes("19");
+  form.Text1.UserPressesReturn();
+  EXPECT_EQ(settings.SpotMemoryAll, 20);
+  EXPECT_EQ(settings.SpotMemorySingle, 200);
+}
+
 TEST_F(SpotsFormTest, ReloadCountsAndCanBeStopped) {
   std::string& file = world.files.content["/home/2026/dx-20-Nov-2026.txt"];
   for (int i = 0; i < 250; ++i) file += "2050,14025.0,3Y0J,DL1ABC,,,~\n";
