@@ -149,6 +149,16 @@ TEST_F(Route, BottomOfABandIsAnnouncedUnlessItIsToStayASpot) {
   EXPECT_THAT(CallsInTable(), ElementsAre("K1ABC"));
 }
 
+TEST_F(Route, BottomOfABandIsNotAnnouncedWhileAListComes) {
+  parts.requests.cmdGetSpots("20", "");
+  parts.lines.list.CollectShDxLine(
+      " 14025.0  3Y0J        20-Nov-2026 2055Z  CW                                 <DL1ABC>");
+  ASSERT_TRUE(parts.lines.list.ShDxCollecting());
+  Receive({.kHz = "14000.0"});
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  EXPECT_THAT(receivers.announced, IsEmpty());
+}
+
 TEST_F(Route, SkimmerOnTheBottomOfABandStaysASpot) {
   Receive({.spotter = "DL1ABC-#", .kHz = "14000.0"});
   EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));

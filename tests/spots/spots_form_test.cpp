@@ -100,6 +100,13 @@ TEST_F(SpotsFormTest, ClosingTheFormTakesItsNumbers) {
   EXPECT_EQ(settings.SpotMemoryAll, 1000);
 }
 
+TEST_F(SpotsFormTest, ReloadTakesItsNumbersFirst) {
+  form.Show();
+  form.txtReloadNr.UserTypes("3");
+  form.cmdReload.Press();
+  EXPECT_EQ(settings.ReloadHours, 3);
+}
+
 TEST_F(SpotsFormTest, NumbersThatMakeNoSenseCountAsTheDefault) {
   for (const char* typed : {"", "0", "-7", "many"}) {
     for (core::TextBox* box :
