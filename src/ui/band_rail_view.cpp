@@ -52,6 +52,7 @@ class BandRailView::Painter : public QStyledItemDelegate {
     const bool chosen = index.row() == view_.model_.SelectedBand();
     if (chosen) painter->fillRect(option.rect, theme[Token::Selection]);
     if (chosen && view_.hasFocus()) {
+      painter->setBrush(Qt::NoBrush);  // that of the bar of the row before
       painter->setPen(theme[Token::Accent]);
       painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }

@@ -275,8 +275,11 @@ TEST_F(AllSortTest, From2300OnTimesStandAsTheyAre) {
   now.minutes = At(2300);
   Receive({.call = "A", .kHz = 14001, .hhmm = 2259});
   Receive({.call = "A", .kHz = 14002, .hhmm = 5});
+  Receive({.call = "A", .kHz = 14003, .hhmm = 2340});
   Sort(2);
-  EXPECT_EQ(view.Rows(false).front().Freq(), 14002);
+  std::vector<double> frequencies;
+  for (const TableRow& row : view.Rows(false)) frequencies.push_back(row.Freq());
+  EXPECT_THAT(frequencies, ElementsAre(14002, 14001, 14003));
 }
 
 TEST_F(AllSortTest, EmptyKeysAndSeparatorsAreLeftOut) {
