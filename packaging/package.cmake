@@ -1,0 +1,23 @@
+# The Debian package, made by the target "package".
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME molva-desk)
+set(CPACK_PACKAGE_VENDOR "Molva Desk maintainers")
+set(CPACK_PACKAGE_CONTACT "Molva Desk maintainers <maintainers@molva-desk.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_PACKAGE_DESCRIPTION
+    "Molva Desk keeps one connection to one node of the DX cluster, logs in by
+itself, comes back by itself when the link is lost, and shows what the node
+sends. It brings a small node to practise with, which needs no network.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/compress_manual_pages.cmake)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION hamradio)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# What no library tells: the country file, and the plugins that draw the icon.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "hamradio-files, libqt6svg6")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-jetbrains-mono, qt6-wayland")
+include(CPack)
