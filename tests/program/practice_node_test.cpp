@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+
 #include "program/desk.h"
 
 using namespace std::chrono_literals;
@@ -31,6 +33,10 @@ class PracticeNodeTest : public testing::Test {
   void Open(const std::string& more = "") {
     desk.HasUsualConfiguration(more);
     desk.Start();
+  }
+  void Choose(const std::string& call, const std::string& host, const std::string& port) {
+    Open("\"SelectedNode\",\"" + call + "\"\r\n\"SelectedNodesAddress\",\"" + host +
+         "\"\r\n\"PrimaryPort\",\"" + port + "\"\r\n");
   }
   session::Session& Session() { return desk.program->session; }
   void Connect() { Session().connection.cmdConnect.Press(); }
@@ -90,17 +96,24 @@ TEST_F(PracticeNodeTest, IsNotStartedWhereSomethingListens) {
 }
 
 TEST_F(PracticeNodeTest, IsNotStartedForAnotherNode) {
-  for (const char* other : {R"("SelectedNode","N0NODE")", R"("SelectedNodesAddress","10.1.2.3")",
-                            R"("PrimaryPort","7300")"}) {
+  const std::vector<std::array<std::string, 3>> others = {{"N0NODE", "127.0.0.1", "7373"},
+                                                          {"N0DE-1", "10.1.2.3", "7373"},
+                                                          {"N0DE-1", "127.0.0.1", "7300"}};
+  for (const auto& [call, host, port] : others) {
     IsInstalled();
-    Open(
-        "\"SelectedNode\",\"N0DE-1\"\r\n\"SelectedNodesAddress\",\"127.0.0.1\"\r\n"
-        "\"PrimaryPort\",\"7373\"\r\n" +
-        std::string(other) + "\r\n");
+    Choose(call, host, port);
     Connect();
-    EXPECT_TRUE(Opens()) << other;
-    EXPECT_THAT(Started(), IsEmpty()) << other;
+    EXPECT_TRUE(Opens()) << call << host << port;
+    EXPECT_THAT(Started(), IsEmpty()) << call << host << port;
   }
+}
+
+TEST_F(PracticeNodeTest, IsStartedWhereItIsChosenByHand) {
+  IsInstalled();
+  Choose("N0DE-1", "127.0.0.1", "7373");
+  Connect();
+  EXPECT_TRUE(LogsIn());
+  EXPECT_THAT(Started(), SizeIs(1));
 }
 
 TEST_F(PracticeNodeTest, ThatIsNotInstalledIsCalledWithoutAWait) {
