@@ -33,7 +33,8 @@ runs() { grep -qxF "${1:0:15}" /proc/[0-9]*/comm 2>/dev/null; }
 
 has_gone() { ! runs "$1"; }
 
-spots_are_logged() { grep -qs 'DX de' "$OPERATORS_HOME"/.local/share/molva-desk/20*/dx-*.txt; }
+# A node sends none before the login.
+spots_are_logged() { grep -qs , "$OPERATORS_HOME"/.local/share/molva-desk/20*/dx-*.txt; }
 
 # The least that the first start would have asked for, and a log to see the spots in.
 prepare_operator() {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,7 @@ class SimPrograms : public Programs {
     std::string name;
     std::vector<std::string> arguments;
     bool running = false;
-    std::string output;  // not taken yet
+    std::string output{};  // not taken yet
   };
 
   // What happens when the program of that name is started. One that is not here can't be.
