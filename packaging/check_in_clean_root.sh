@@ -82,8 +82,8 @@ mirror_of_this_system() {
   apt-get indextargets --format '$(SITE)' 'Created-By: Packages' 'Codename: bookworm' | head -n 1
 }
 
-install_package() { in_root apt-get install -y -q --no-install-recommends ./package.deb; }
-purge_package() { in_root apt-get purge -y -q molva-desk; }
+install_package() { in_root apt-get install -y -q -o Dpkg::Use-Pty=0 --no-install-recommends ./package.deb; }
+purge_package() { in_root apt-get purge -y -q -o Dpkg::Use-Pty=0 molva-desk; }
 
 # All that stands in the system, but for what changes with every installation of anything.
 list_files() {
@@ -119,7 +119,7 @@ echo "-- removes it"
 purge_package
 list_files | grep -vE "^($OPERATORS_HOME(/|$)|/var/mail/$OPERATOR$|/etc/(passwd|group|shadow|gshadow|subuid|subgid)-?$)" \
   >"$root/tmp/after"
-residue=$(comm -13 "$root/tmp/before" "$root/tmp/after")
+residue=$(comm -13 "$root/tmp/before" "$root/tmp/after"; grep molva "$root/tmp/after" || true)
 [ -z "$residue" ] || fail "it leaves behind:"$'\n'"$residue"
 grep -q molva "$root/var/lib/dpkg/status" && fail "the package system still knows it"
 [ -s "$root$OPERATORS_HOME/.local/share/molva-desk/molva.cfg" ] || fail "the user's folder has gone"

@@ -8,6 +8,7 @@ set(expected
   bin/molva-desk
   bin/molva-practice-node
   share/applications/molva-desk.desktop
+  share/doc/molva-desk/changelog
   share/doc/molva-desk/copyright
   share/doc/molva-desk/manual.md
   share/icons/hicolor/scalable/apps/molva-desk.svg
@@ -21,7 +22,8 @@ if(NOT found STREQUAL expected)
   message(FATAL_ERROR "installed: ${found}")
 endif()
 
-foreach(file share/man/man1/molva-desk.1 share/man/man1/molva-practice-node.1
+foreach(file share/doc/molva-desk/changelog share/man/man1/molva-desk.1
+             share/man/man1/molva-practice-node.1
              share/metainfo/molva.desk.client.metainfo.xml)
   file(READ ${root}/${file} content)
   if(NOT content MATCHES "${VERSION}")
