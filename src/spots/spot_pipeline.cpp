@@ -68,7 +68,7 @@ void SpotPipeline::InferMissingDate() {
 
 void SpotPipeline::DisplayDxPart2(Mark mark) {
   core::RepairEscapes(spot_.Comment, ' ' + 1);
-  if (spot_.LotwMark.empty()) spot_.LotwMark.assign(1, ' ');
+  if (spot_.LotwMark.empty()) spot_.LotwMark = " ";
   MakeLoggerLine();
   if (steps_.list.SpotListBusy()) FeedListToLoggers();
   if (mark == Mark::Duplicate) return;
