@@ -10,9 +10,6 @@ namespace {
 
 using session::TimerId;
 
-// Comes with the program, so that there is always a node to talk to.
-const session::DefaultNode kPracticeNode = {"N0DE-1", "127.0.0.1", "7373"};
-
 }  // namespace
 
 Program::Program(const platform::Platform& platform, std::string folder, Needs needs)
@@ -21,6 +18,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       needs_(std::move(needs)),
       calendar(platform.clock),
       errorLog(platform.files, platform.dialogs, calendar, folder_),
+      practiceNode_(platform_, settings),
       chain_(*this),
       ties_(*this),
       session(platform_, calendar, settings,
@@ -49,7 +47,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                      spotParts.Disconnected();
                    },
                .onFault = errorLog.FaultHandler(),
-               .seed = needs_.seed}),
+               .seed = needs_.seed,
+               .wakeNode = [this] { return practiceNode_.Wake(); }}),
       spotParts(platform_, calendar, settings, errorLog, folder_, NeedsOfSpots()),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
                     session.keepAlive, ties_, userSettings),

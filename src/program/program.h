@@ -21,6 +21,7 @@
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
+#include "program/practice_node.h"
 #include "program/stand_ins.h"
 #include "program/start_options.h"
 #include "program/text_sizes.h"
@@ -94,6 +95,7 @@ class Program {
   Conditions conditions;
 
  private:
+  PracticeNode practiceNode_;
   LineChain chain_;
   Ties ties_;
   std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
