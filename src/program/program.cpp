@@ -27,7 +27,6 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .loggers = standIns,
                .requests = ties_,
                .clockWork = ties_,
-               .tncScript = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .lookUpAddress =

@@ -33,11 +33,12 @@ class TncScript {
 
   // What the script asks of the connection.
   struct Needs {
-    std::function<void()> beginning;          // an attempt begins
-    std::function<void()> stepBegins;         // and goes on
-    std::function<void()> linked;             // the last step has its reply
-    std::function<void(std::string)> ending;  // the session is over, and why, in a few words
-    std::function<void()> noScript;           // there is no step to begin with
+    std::function<void()> beginning;         // an attempt begins
+    std::function<void()> stepBegins;        // and goes on
+    std::function<void()> linked;            // the last step has its reply
+    std::function<void()> drop;              // what is unread belongs to a session that is over
+    std::function<void(std::string)> ended;  // the session is over; why, unless it is known
+    std::function<void()> noScript;          // there is no step to begin with
   };
 
   TncScript(const core::Settings& settings, SessionState& state, Outgoing& outgoing,
@@ -53,7 +54,7 @@ class TncScript {
   void DisconnectTNC();
   // The session has logged in: the script has done its work, wherever it was.
   void LoggedIn() { Stop(); }
-  // The port has gone, with all behind it.
+  // The port has gone, with all behind it: ends a session that has begun.
   void PortLost();
 
   // Line handler; true claims the line.
@@ -67,14 +68,14 @@ class TncScript {
 
   static std::vector<Step> StepsIn(const core::Settings& settings);
   const Step& Now() const { return script_[static_cast<std::size_t>(ScriptStep)]; }
-  void TellPort();
   void BeginStep();
-  void Mark(TncStepMark::Progress progress);
+  void Mark(TncStepMark::Progress progress, core::Colour colour);
   void Finish(std::string_view line);
   void TimedOut();
   void Stop();
   void HangUp();
   void End(std::string why);
+  std::string WhyNoReply() const;
 
   const core::Settings& settings_;
   SessionState& state_;
