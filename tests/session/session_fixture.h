@@ -40,8 +40,7 @@ class Station {
   };
 
   // What was asked of the program above the session.
-  class Above : public session::LoginRequests,
-                public session::ClockWork {
+  class Above : public session::LoginRequests, public session::ClockWork {
    public:
     Lines asked;
     void GetEm() override { asked.emplace_back("GetEm"); }
