@@ -38,7 +38,10 @@ TncLink::TncLink(platform::SerialPorts& ports, const core::Settings& settings,
       state_(state),
       timers_(timers),
       needs_(std::move(needs)) {
-  MSComm1->lost = [this](const std::string& why) { needs_.onFault("MSComm1", why); };
+  MSComm1->lost = [this](const std::string& why) {
+    Trouble.Set(why);
+    needs_.onFault("MSComm1", why);
+  };
   lblTnc.Visible.Set(false);
   ShowSession(false);
 }
@@ -56,7 +59,8 @@ bool TncLink::OpenComm1() {
   MSComm1->Settings = PortSettings();
   MSComm1->CommPort = needs_.portPath(settings_.TncPort);
   const std::string why = MSComm1->Open();
-  const bool news = why != std::exchange(toldWhy_, why);
+  const bool news = why != Trouble.Get();
+  Trouble.Set(why);
   if (!why.empty()) {
     if (news) needs_.onFault("OpenComm1", why);
     return false;
@@ -64,6 +68,11 @@ bool TncLink::OpenComm1() {
   MSComm1->Output({}, kRestOfANewPort);
   timers_.Enable(TimerId::Tnc);
   return true;
+}
+
+void TncLink::CloseComm1() {
+  MSComm1->Close();
+  Trouble.Set({});
 }
 
 void TncLink::ShowSession(bool loggedIn) {
