@@ -28,7 +28,6 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .loggers = standIns,
                .requests = ties_,
                .clockWork = ties_,
-               .tncScript = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .lookUpAddress =
@@ -50,7 +49,9 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                    },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed,
-               .portPath = [this](int number) { return portNames.Path(number); }}),
+               .portPath = [this](int number) { return portNames.Path(number); },
+               .askTncScript = [this] { tncForm.Show(); },
+               .localNetworkOff = [this] { commForm.NetworkStopped(); }}),
       commForm(
           platform_, settings, portNames, session,
           {.takeMode = [this] { TakeMode(); }, .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),

@@ -131,7 +131,7 @@ void CommForm::Watch() {
   // When the session tells that it has ended it is still about to put its own things in order.
   watching_.push_back(session_.state.Phase.Observe([this](LinkPhase phase) {
     if (ending_ && phase == LinkPhase::Disconnected)
-      storing_ = scheduler_.After(core::kPause, [this] { Store(); });
+      StoreInAWhile();
     else if (Open.Get() && !ending_)
       ShowWarning();
   }));
@@ -256,6 +256,16 @@ void CommForm::Apply() {
   session_.connection.cmdDisconnect.Press();
 }
 
+// The TNC is still being told to end its link when the session has ended already.
+void CommForm::StoreInAWhile() {
+  storing_ = scheduler_.After(core::kPause, [this] {
+    if (session_.tncLink.MSComm1->AllWritten())
+      Store();
+    else
+      StoreInAWhile();
+  });
+}
+
 void CommForm::Store() {
   ending_ = false;
   lblResult.Caption.Set({});
@@ -306,13 +316,9 @@ void CommForm::OpenPorts(bool tncIsNew, bool networkIsNew) {
   if (settings_.LocalNetwork) tell(local.OpenComm2(), network.Device(), local.Trouble.Get());
 }
 
-void CommForm::StopNetwork() {
-  settings_.LocalNetwork = false;
-  settings_.NetworkPort = 0;
+void CommForm::NetworkStopped() {
   chkNetwork.Value.Set(false);
   network.Clear();
-  session_.localNetwork.CloseComm2();
-  needs_.delayedWriteCfg();
   Changed();
 }
 

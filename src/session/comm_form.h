@@ -65,8 +65,8 @@ class CommForm {
   // Fills the fields and opens the form. One that is open stays as the user has it.
   void Show();
 
-  // The other computer feeds the node's text back: the local network is off, without a port.
-  void StopNetwork();
+  // The local network was switched off by the node, and has no port any more.
+  void NetworkStopped();
 
  private:
   void Caption();
@@ -79,6 +79,7 @@ class CommForm {
   void ShowWarning();
 
   void Apply();
+  void StoreInAWhile();
   void Store();
   bool NameDevices(const core::Settings& wanted);
   void OpenPorts(bool tncIsNew, bool networkIsNew);

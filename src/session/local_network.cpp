@@ -3,16 +3,20 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/text.h"
+
 namespace session {
 namespace {
 
 // What a command grows beyond this is lost.
 constexpr std::size_t kLongestCommand = std::size_t{64} * 1024;
 
+constexpr std::string_view kRunaway = "Runaway problem!. Please contact MOLVA via email.";
+
 }  // namespace
 
-LocalNetwork::LocalNetwork(platform::SerialPorts& ports, const core::Settings& settings,
-                           Timers& timers, Needs needs)
+LocalNetwork::LocalNetwork(platform::SerialPorts& ports, core::Settings& settings, Timers& timers,
+                           Needs needs)
     : MSComm2(ports.MakePort()), settings_(settings), timers_(timers), needs_(std::move(needs)) {
   MSComm2->lost = [this](const std::string& why) {
     NetworkLine.clear();
@@ -58,6 +62,15 @@ void LocalNetwork::ReadNetwork() {
 void LocalNetwork::TakeLine() {
   const std::string line = std::exchange(NetworkLine, {});
   if (!needs_.claimedHere(line)) needs_.sendAsIs(line);
+}
+
+void LocalNetwork::RunawayNotice(std::string_view line) {
+  const bool complaint = core::StartsWith(line, "Runa") && core::InStr(line, kRunaway) > 0;
+  if (!settings_.LocalNetwork || !complaint) return;
+  settings_.LocalNetwork = false;
+  settings_.NetworkPort = 0;
+  CloseComm2();
+  needs_.switchedOff();
 }
 
 void LocalNetwork::SendRS232(std::string_view text) { MSComm2->Output(std::string(text) + "\r\n"); }

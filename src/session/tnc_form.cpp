@@ -11,6 +11,9 @@ namespace {
 
 constexpr auto kNotOverTnc = "The program connects by telnet. Choose the TNC under Connection.";
 
+// By TncStepMark::Progress.
+constexpr std::array<const char*, 4> kProgressWords = {"", "waiting", "answered", "timed out"};
+
 // Double quotes are lost on the way to the file: without them what runs is what is kept.
 std::string Kept(const core::TextBox& box) {
   std::string text = box.Text.Get();
@@ -57,8 +60,8 @@ void TncForm::Watch() {
     if (Save()) lblResult.Caption.Set("Saved.");
   });
   add(cmdRun.Click, [this] { Run(); });
-  add(cmdConv.Click, [this] { Tell("conv"); });
-  add(cmdCmd.Click, [this] { Tell("^C"); });
+  add(cmdConv.Click, [this] { ShowSent(session_.outgoing.SendAsIs("conv")); });
+  add(cmdCmd.Click, [this] { ShowSent(session_.tncLink.SendCtrlC()); });
   add(cmdHelp.Click, [this] { needs_.openManual(); });
   add(cmdClose.Click, [this] { Open.Set(false); });
   watching_.push_back(session_.connection.cmdConnect.Enabled.Observe([this](bool) { TakeMode(); }));
@@ -99,7 +102,7 @@ void TncForm::TakeMode() {
 void TncForm::LimitTime(std::size_t step) {
   std::string digits = txtTimeOut[step].Text.Get();
   std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
-  const int seconds = std::min(core::ValInt(digits), kMostSeconds);
+  const int seconds = std::min(core::ValInt(digits), TncScript::kLongestTimeOut);
   txtTimeOut[step].Text.Set(digits.empty() ? "" : std::to_string(seconds));
 }
 
@@ -141,8 +144,7 @@ void TncForm::Run() {
   session_.connection.cmdConnect.Press();
 }
 
-void TncForm::Tell(const std::string& text) {
-  const bool sent = session_.outgoing.SendAsIs(text);
+void TncForm::ShowSent(bool sent) {
   lblResult.Caption.Set(sent ? "Sent." : "");
   const TncLink& link = session_.tncLink;
   lblProblem.Caption.Set(sent ? "" : PortAdvice(link.MSComm1->CommPort, link.Trouble.Get()));

@@ -8,6 +8,7 @@
 #include "core/controls.h"
 #include "core/settings.h"
 #include "session/session.h"
+#include "session/tnc_script.h"
 
 namespace session {
 
@@ -15,8 +16,7 @@ namespace session {
 // stores them. A step is in use if it has a time-out.
 class TncForm {
  public:
-  static constexpr std::size_t kSteps = 6;
-  static constexpr int kMostSeconds = 65;
+  static constexpr std::size_t kSteps = TncScript::kMostSteps;
 
   struct Needs {
     std::function<void()> saved;       // the settings have the script
@@ -38,6 +38,7 @@ class TncForm {
   std::array<core::TextBox, kSteps> txtCmd;
   std::array<core::TextBox, kSteps> txtScript;
   std::array<core::TextBox, kSteps> txtTimeOut;  // whole seconds; takes nothing else
+  std::array<core::Label, kSteps> lblStep;       // how far the script has come, in a word
 
   core::Label lblProblem;  // what is to be put right
   core::Label lblResult;   // what has been done
@@ -61,7 +62,7 @@ class TncForm {
   void LimitTime(std::size_t step);
   bool Save();
   void Run();
-  void Tell(const std::string& text);
+  void ShowSent(bool sent);
   std::string Problem() const;
   std::vector<core::TncStep> Steps() const;
 

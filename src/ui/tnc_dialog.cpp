@@ -16,9 +16,10 @@ using platform::qt::TextOf;
 constexpr QSize kUsualTncSize(680, 400);
 constexpr int kSecondsWidth = 56;
 constexpr int kClusterWidth = 140;
+constexpr int kProgressWidth = 72;
 constexpr int kHeadRows = 2;
 
-enum Column { kNumber, kCommand, kReply, kTime, kUnit };
+enum Column { kNumber, kCommand, kReply, kTime, kUnit, kProgress };
 
 }  // namespace
 
@@ -89,6 +90,11 @@ void TncDialog::AddStep(QGridLayout* grid, std::size_t step, session::TncForm& m
   auto* unit = new QLabel(tr("s"), this);
   unit->setProperty("dim", true);
   grid->addWidget(unit, row, kUnit);
+  auto* progress = new QLabel(this);
+  progress->setAccessibleName(tr("Step %1").arg(number));
+  progress->setFixedWidth(kProgressWidth);
+  grid->addWidget(progress, row, kProgress);
+  BindLabel(progress, model.lblStep[step], frames);
 }
 
 QLineEdit* TncDialog::AddCell(QGridLayout* grid, int row, int column, const QString& name,

@@ -84,6 +84,21 @@ TEST_F(TncDialogTest, AScriptIsTypedAndKept) {
   EXPECT_EQ(program->session.state.ConnectedNodeCall, "N0NODE");
 }
 
+TEST_F(TncDialogTest, RunShowsHowFarTheScriptHasCome) {
+  OpenOverTnc();
+  QDialog& dialog = OpenedTnc();
+  Type(dialog, "Step 1, connect string", "C N0NODE");
+  Type(dialog, "Step 1, connect response", "*** CONNECTED");
+  Type(dialog, "Step 1, time out in seconds", "30");
+  Click(dialog, "Run the script");
+  EXPECT_EQ(Written(), "C N0NODE\r");
+  EXPECT_EQ(Named<QLabel>(dialog, "Step 1")->accessibleName(), "Step 1: waiting");
+  device->Feed("*** CONNECTED to N0NODE\r\n");
+  Run(1s);
+  EXPECT_EQ(Named<QLabel>(dialog, "Step 1")->accessibleName(), "Step 1: answered");
+  EXPECT_FALSE(Named<QPushButton>(dialog, "Run the script")->isEnabled());
+}
+
 TEST_F(TncDialogTest, ReturnSaves) {
   OpenOverTnc();
   QDialog& dialog = OpenedTnc();
@@ -110,7 +125,7 @@ TEST_F(TncDialogTest, ConvAndCmdGoToTheTnc) {
   Click(dialog, "Send conv to the TNC");
   EXPECT_EQ(Written(), "conv\r");
   Click(dialog, "Send Ctrl-C to the TNC");
-  EXPECT_EQ(Written().front(), '\x03');
+  EXPECT_EQ(Written(), "\x03");
 }
 
 TEST_F(TncDialogTest, ByTelnetItSaysWhyNothingCanBeSent) {

@@ -391,12 +391,12 @@ TEST_F(CommFormTest, RunawayLeavesTheLocalNetworkOffAndWithoutAPort) {
   form.Show();
   form.chkNetwork.UserSets(true);
   Apply();
-  form.StopNetwork();
+  program.localNetwork.RunawayNotice("Runaway problem!. Please contact MOLVA via email.");
+  form.NetworkStopped();
   EXPECT_FALSE(settings.LocalNetwork);
   EXPECT_FALSE(NetworkIsOpen());
   EXPECT_FALSE(form.chkNetwork.Value.Get());
   EXPECT_EQ(form.network.Port(), 0);
-  EXPECT_EQ(configurationWrites, 1 + 1);
   form.cmdClose.Press();
   form.Show();
   EXPECT_EQ(form.network.Port(), 0);
@@ -509,24 +509,40 @@ TEST_F(CommFormTest, OverTheTncItsLineIsChangedOnceTheLinkHasEnded) {
   EXPECT_NE(Warning(), "");
   Apply();
   EXPECT_EQ(first.openedWith.baud, 1200);
-  program.connection.ForceClose();
-  LetPass(1s);
+  LetPass(2s);
   EXPECT_EQ(first.openedWith.baud, 300);
   EXPECT_EQ(settings.TncBaud, 300);
 }
 
-TEST_F(CommFormTest, FromTheTncToTelnetOnceTheLinkHasEnded) {
+TEST_F(CommFormTest, TheTncIsToldToEndItsLinkBeforeItsPortCloses) {
   RunOverTnc();
   program.connection.LoggedInSetup();
   Choose(CommForm::Telnet);
   Apply();
   EXPECT_TRUE(program.state.TncMode);
-  program.connection.ForceClose();
-  LetPass(1s);
+  LetPass(2s);
+  EXPECT_EQ(first.written,
+            "BYE\r\x03"
+            "DISC\r");
   EXPECT_FALSE(program.state.TncMode);
   EXPECT_FALSE(TncIsOpen());
   LogIn();
   EXPECT_TRUE(program.state.LoggedIn);
+}
+
+TEST_F(CommFormTest, SlowGoodbyeByWayOfAnotherNodeIsSaidToItsEnd) {
+  RunOverTnc();
+  program.outgoing.SendAsIs("ESC");
+  LetPass(1s);
+  first.written.clear();
+  program.connection.LoggedInSetup();
+  Choose(CommForm::Telnet);
+  Apply();
+  LetPass(10s);
+  EXPECT_EQ(first.written,
+            "BYE\r\x1b"
+            "D\r");
+  EXPECT_FALSE(TncIsOpen());
 }
 
 }  // namespace

@@ -174,21 +174,37 @@ TEST_F(TncFormTest, RunSavesAndConnects) {
   form.cmdRun.Press();
   EXPECT_THAT(settings.TncSteps, SizeIs(1));
   EXPECT_FALSE(program.state.UserDisconnected);
-  EXPECT_THAT(above.asked, ElementsAre("Connect"));
+  EXPECT_TRUE(program.tncScript.ScriptRunning);
+  EXPECT_EQ(Written(), "C N0NODE\r");
+}
+
+TEST_F(TncFormTest, EachStepSaysHowFarItHasCome) {
+  form.Show();
+  Fill(0, "C RELAY", "CONNECTED to RELAY", "30");
+  Fill(1, "C N0NODE", "Welcome", "10");
+  form.cmdRun.Press();
+  EXPECT_EQ(form.lblStep[0].Caption.Get(), "waiting");
+  EXPECT_EQ(form.lblStep[1].Caption.Get(), "");
+  program.tncScript.Netrom("*** connected to relay");
+  EXPECT_EQ(form.lblStep[0].Caption.Get(), "answered");
+  EXPECT_EQ(form.lblStep[0].ForeColour.Get(), settings.ColourNodeConn);
+  EXPECT_EQ(form.lblStep[1].Caption.Get(), "waiting");
+  LetPass(platform::Milliseconds{11000});
+  EXPECT_EQ(form.lblStep[1].Caption.Get(), "timed out");
 }
 
 TEST_F(TncFormTest, RunNeedsAStep) {
   form.Show();
   form.cmdRun.Press();
   EXPECT_EQ(Problem(), "There is no step to run. Enter what connects you, and a time-out.");
-  EXPECT_THAT(above.asked, IsEmpty());
+  EXPECT_FALSE(program.tncScript.ScriptRunning);
 }
 
 TEST_F(TncFormTest, RunWaitsForAStepToBePutRight) {
   form.Show();
   Fill(0, "C N0NODE", "", "");
   form.cmdRun.Press();
-  EXPECT_THAT(above.asked, IsEmpty());
+  EXPECT_FALSE(program.tncScript.ScriptRunning);
 }
 
 TEST_F(TncFormTest, RunCanNotBePressedWhileThereIsALink) {
@@ -222,7 +238,7 @@ TEST_F(TncFormTest, ConvSendsConv) {
 TEST_F(TncFormTest, CmdSendsCtrlC) {
   form.Show();
   form.cmdCmd.Press();
-  EXPECT_EQ(Written().front(), '\x03');
+  EXPECT_EQ(Written(), "\x03");
   EXPECT_EQ(CountInRawView("   <- ^C"), 1);
 }
 
