@@ -20,6 +20,7 @@ LocalNetwork::LocalNetwork(platform::SerialPorts& ports, core::Settings& setting
     : MSComm2(ports.MakePort()), settings_(settings), timers_(timers), needs_(std::move(needs)) {
   MSComm2->lost = [this](const std::string& why) {
     NetworkLine.clear();
+    Trouble.Set(why);
     needs_.onFault("MSComm2", why);
   };
 }
@@ -33,12 +34,19 @@ bool LocalNetwork::OpenComm2() {
                        .flow = platform::FlowControl::None};
   MSComm2->CommPort = needs_.portPath(settings_.NetworkPort);
   const std::string why = MSComm2->Open();
+  Trouble.Set(why);
   if (!why.empty()) {
     needs_.onFault("OpenComm2", why);
     return false;
   }
   timers_.Enable(TimerId::Tnc);
   return true;
+}
+
+void LocalNetwork::CloseComm2() {
+  MSComm2->Close();
+  NetworkLine.clear();
+  Trouble.Set({});
 }
 
 void LocalNetwork::ReadNetwork() {
@@ -61,8 +69,7 @@ void LocalNetwork::RunawayNotice(std::string_view line) {
   if (!settings_.LocalNetwork || !complaint) return;
   settings_.LocalNetwork = false;
   settings_.NetworkPort = 0;
-  MSComm2->Close();
-  NetworkLine.clear();
+  CloseComm2();
   needs_.switchedOff();
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/controls.h"
 #include "core/settings.h"
 #include "platform/serial.h"
 #include "platform/tasks.h"
@@ -28,9 +29,12 @@ class LocalNetwork {
   LocalNetwork(platform::SerialPorts& ports, core::Settings& settings, Timers& timers, Needs needs);
 
   const std::unique_ptr<platform::SerialPort> MSComm2;
+  core::Property<std::string> Trouble;  // why the port isn't open; empty: nothing is wrong
 
   // Opens the port with the settings, unless it is open. False if it can't be opened.
   bool OpenComm2();
+  // Lets other programs have the port.
+  void CloseComm2();
 
   // Polled: takes what has come in. One command a reading: what follows a line end counts as so
   // many empty lines.

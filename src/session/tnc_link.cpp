@@ -39,6 +39,7 @@ TncLink::TncLink(platform::SerialPorts& ports, const core::Settings& settings,
       timers_(timers),
       needs_(std::move(needs)) {
   MSComm1->lost = [this](const std::string& why) {
+    Trouble.Set(why);
     needs_.onFault("MSComm1", why);
     needs_.lost();
   };
@@ -59,7 +60,8 @@ bool TncLink::OpenComm1() {
   MSComm1->Settings = PortSettings();
   MSComm1->CommPort = needs_.portPath(settings_.TncPort);
   const std::string why = MSComm1->Open();
-  const bool news = why != std::exchange(toldWhy_, why);
+  const bool news = why != Trouble.Get();
+  Trouble.Set(why);
   if (!why.empty()) {
     if (news) needs_.onFault("OpenComm1", why);
     return false;
@@ -69,10 +71,15 @@ bool TncLink::OpenComm1() {
   return true;
 }
 
+void TncLink::CloseComm1() {
+  MSComm1->Close();
+  Trouble.Set({});
+}
+
 std::string TncLink::WhyClosed() const {
   const std::string path = needs_.portPath(settings_.TncPort);
   if (path.empty()) return "no port is chosen for the TNC";
-  return "the TNC's port " + path + " does not open (" + toldWhy_ + ")";
+  return "the TNC's port " + path + " does not open (" + Trouble.Get() + ")";
 }
 
 void TncLink::BeginLink() {

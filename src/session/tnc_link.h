@@ -35,10 +35,13 @@ class TncLink {
   bool BpqLink = false;  // the node in between has an attention character
   bool EscLink = false;  // and that is ESC, not "!"; such a node wants its text slowly
   core::Label lblTnc;    // the lamp lblTnc(0), on show in TNC mode; its tool tip says what it means
+  core::Property<std::string> Trouble;  // why the port isn't open; empty: nothing is wrong
 
   // Opens the port with the settings, unless it is open. What is written first goes out half a
   // second later. False if it can't be opened.
   bool OpenComm1();
+  // Lets other programs have the port.
+  void CloseComm1();
 
   // Sends text in TNC mode, with CR behind it, and shows `shown` for it in the raw view. Three
   // forms mean more than they say: "!..." and "ESC..." call the attention of the node in between,
@@ -82,7 +85,6 @@ class TncLink {
   const SessionState& state_;
   Timers& timers_;
   Needs needs_;
-  std::string toldWhy_;  // the port does not open
 };
 
 }  // namespace session

@@ -15,6 +15,10 @@
 #include "platform/sim/world.h"
 #include "session/session.h"
 
+// The prompts of a node of either kind.
+inline constexpr const char* kArPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z   arc >";
+inline constexpr const char* kSpiderPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z dxspider >";
+
 // A station whose operator K1TST-2 uses the node N0NODE at node.example:7300, in a simulated world.
 //
 // Its chain has the rows of the session itself, in their order, and three that a test can lay hands
