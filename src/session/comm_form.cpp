@@ -306,17 +306,24 @@ void CommForm::OpenPorts(bool tncIsNew, bool networkIsNew) {
   if (tncIsNew || !settings_.TncMode) link.CloseComm1();
   if (networkIsNew || !settings_.LocalNetwork) local.CloseComm2();
   Say(lblResult, "Applied.");
-  const auto tell = [this](bool opened, const std::string& device, const std::string& why) {
-    if (opened)
+  const auto tell = [this](const std::string& device, const std::string& trouble) {
+    if (trouble.empty())
       Say(lblResult, device + " is open.");
     else
-      Say(lblProblem, PortAdvice(device, why));
+      Say(lblProblem, PortAdvice(device, trouble));
   };
-  if (settings_.TncMode) tell(link.OpenComm1(), tnc.Device(), link.Trouble.Get());
-  if (settings_.LocalNetwork) tell(local.OpenComm2(), network.Device(), local.Trouble.Get());
+  if (settings_.TncMode) {
+    link.OpenComm1();
+    tell(tnc.Device(), link.Trouble.Get());
+  }
+  if (settings_.LocalNetwork) {
+    local.OpenComm2();
+    tell(network.Device(), local.Trouble.Get());
+  }
 }
 
 void CommForm::NetworkStopped() {
+  if (!Open.Get()) return;
   chkNetwork.Value.Set(false);
   network.Clear();
   Changed();
