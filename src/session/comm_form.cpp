@@ -12,8 +12,8 @@
 namespace session {
 namespace {
 
-constexpr int kMostMinutes = 14;
-constexpr int kFiveMinutes = 5;
+constexpr int kLongestKeepAlive = 14;
+constexpr int kKeepAliveInUse = 5;
 
 // What a setting is called in its list, and what is stored for it.
 struct Word {
@@ -40,18 +40,18 @@ constexpr std::array<WordList, CommForm::kLists> kWordLists = {{
     {&core::Settings::TncFlowControl, kFlows},
 }};
 
-int PlaceOf(std::span<const Word> words, std::string_view stored) {
+int PlaceOfWord(std::span<const Word> words, std::string_view stored) {
   const auto found = std::find_if(words.begin(), words.end(),
                                   [&](const Word& each) { return each.stored == stored; });
   return found == words.end() ? 0 : static_cast<int>(found - words.begin());
 }
 
-auto TncLine(const core::Settings& settings) {
+auto TncLineOf(const core::Settings& settings) {
   return std::tie(settings.TncPort, settings.TncBaud, settings.TncParity, settings.TncDataBits,
                   settings.TncStopBits, settings.TncFlowControl);
 }
 
-auto NetworkLine(const core::Settings& settings) {
+auto NetworkLineOf(const core::Settings& settings) {
   return std::tie(settings.NetworkPort, settings.NetworkBaud);
 }
 
@@ -87,7 +87,7 @@ void CommForm::Caption() {
   optMode.Options.Set({"Telnet", "TNC"});
   optKA.Options.Set({"Tx", "Rx"});
   std::vector<std::string> minutes;
-  for (int each = 0; each <= kMostMinutes; ++each) minutes.push_back(std::to_string(each));
+  for (int each = 0; each <= kLongestKeepAlive; ++each) minutes.push_back(std::to_string(each));
   cboKA.Options.Set(std::move(minutes));
   cboKA.ToolTip.Set("0: Disabled.  Cannot be disabled if \"Auto Reconnect\" is enabled.");
   for (std::size_t list = 0; list < kLists; ++list) {
@@ -151,7 +151,7 @@ void CommForm::Load() {
   tnc.Load(settings_.TncPort, settings_.TncBaud, present);
   for (std::size_t list = 0; list < kLists; ++list) {
     const WordList& each = kWordLists[list];
-    cboTNC[list].Selected.Set(PlaceOf(each.words, settings_.*each.setting));
+    cboTNC[list].Selected.Set(PlaceOfWord(each.words, settings_.*each.setting));
   }
   chkNetwork.Value.Set(settings_.LocalNetwork);
   network.Load(settings_.NetworkPort, settings_.NetworkBaud, present);
@@ -165,12 +165,12 @@ void CommForm::LoadKeepAlive() {
   const bool overTnc = optMode.Selected.Get() == Tnc;
   optKA.Selected.Set((overTnc ? settings_.TncKA : settings_.TelnetKA) == "Tx" ? Tx : Rx);
   cboKA.Selected.Set(
-      std::clamp(overTnc ? settings_.TncKAtime : settings_.TelnetKAtime, 0, kMostMinutes));
+      std::clamp(overTnc ? settings_.TncKAtime : settings_.TelnetKAtime, 0, kLongestKeepAlive));
 }
 
 void CommForm::ChooseMinutes() {
   const bool off = cboKA.Selected.Get() == 0;
-  if (off && session_.connection.AutoReconnect.Value.Get()) cboKA.Selected.Set(kFiveMinutes);
+  if (off && session_.connection.AutoReconnect.Value.Get()) cboKA.Selected.Set(kKeepAliveInUse);
 }
 
 void CommForm::Look() {
@@ -219,11 +219,11 @@ core::Settings CommForm::Wanted() const {
 }
 
 bool CommForm::TncLineIsNew(const core::Settings& wanted) const {
-  return TncLine(wanted) != TncLine(settings_) || tnc.Device() != names_.Path(wanted.TncPort);
+  return TncLineOf(wanted) != TncLineOf(settings_) || tnc.Device() != names_.Path(wanted.TncPort);
 }
 
 bool CommForm::NetworkLineIsNew(const core::Settings& wanted) const {
-  return NetworkLine(wanted) != NetworkLine(settings_) ||
+  return NetworkLineOf(wanted) != NetworkLineOf(settings_) ||
          network.Device() != names_.Path(wanted.NetworkPort);
 }
 
@@ -306,17 +306,24 @@ void CommForm::OpenPorts(bool tncIsNew, bool networkIsNew) {
   if (tncIsNew || !settings_.TncMode) link.CloseComm1();
   if (networkIsNew || !settings_.LocalNetwork) local.CloseComm2();
   Say(lblResult, "Applied.");
-  const auto tell = [this](bool opened, const std::string& device, const std::string& why) {
-    if (opened)
+  const auto tell = [this](const std::string& device, const std::string& trouble) {
+    if (trouble.empty())
       Say(lblResult, device + " is open.");
     else
-      Say(lblProblem, PortAdvice(device, why));
+      Say(lblProblem, PortAdvice(device, trouble));
   };
-  if (settings_.TncMode) tell(link.OpenComm1(), tnc.Device(), link.Trouble.Get());
-  if (settings_.LocalNetwork) tell(local.OpenComm2(), network.Device(), local.Trouble.Get());
+  if (settings_.TncMode) {
+    link.OpenComm1();
+    tell(tnc.Device(), link.Trouble.Get());
+  }
+  if (settings_.LocalNetwork) {
+    local.OpenComm2();
+    tell(network.Device(), local.Trouble.Get());
+  }
 }
 
 void CommForm::NetworkStopped() {
+  if (!Open.Get()) return;
   chkNetwork.Value.Set(false);
   network.Clear();
   Changed();

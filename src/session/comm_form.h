@@ -65,7 +65,8 @@ class CommForm {
   // Fills the fields and opens the form. One that is open stays as the user has it.
   void Show();
 
-  // The local network was switched off by the node, and has no port any more.
+  // The local network was switched off by the node, and has no port any more: an open form shows
+  // it.
   void NetworkStopped();
 
  private:

@@ -34,7 +34,9 @@ PortChoice::PortChoice(const PortNames& names)
         ShowDevices();
       })),
       deviceChosen_(cboDevice.Click.Add(
-          [this] { device_ = paths_[static_cast<std::size_t>(cboDevice.Selected.Get())]; })) {}
+          [this] { device_ = paths_[static_cast<std::size_t>(cboDevice.Selected.Get())]; })) {
+  ShowBaud(kUsualBaud);
+}
 
 void PortChoice::Load(int port, int baud, Devices present) {
   present_ = std::move(present);

@@ -65,6 +65,17 @@ void TncForm::Watch() {
   add(cmdHelp.Click, [this] { needs_.openManual(); });
   add(cmdClose.Click, [this] { Open.Set(false); });
   watching_.push_back(session_.connection.cmdConnect.Enabled.Observe([this](bool) { TakeMode(); }));
+  for (std::size_t step = 0; step < kSteps; ++step) WatchStep(step);
+}
+
+void TncForm::WatchStep(std::size_t step) {
+  TncStepMark& mark = session_.tncScript.steps[step];
+  core::Label& label = lblStep[step];
+  watching_.push_back(mark.progress.Observe([&label](TncStepMark::Progress progress) {
+    label.Caption.Set(kProgressWords[static_cast<std::size_t>(progress)]);
+  }));
+  watching_.push_back(
+      mark.ForeColour.Observe([&label](core::Colour colour) { label.ForeColour.Set(colour); }));
 }
 
 void TncForm::Show() {

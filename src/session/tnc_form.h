@@ -58,6 +58,7 @@ class TncForm {
  private:
   void Caption();
   void Watch();
+  void WatchStep(std::size_t step);
   void Load();
   void LimitTime(std::size_t step);
   bool Save();

@@ -19,7 +19,7 @@ constexpr int kClusterWidth = 140;
 constexpr int kProgressWidth = 72;
 constexpr int kHeadRows = 2;
 
-enum Column { kNumber, kCommand, kReply, kTime, kUnit, kProgress };
+enum StepColumn { kNumber, kCommand, kReply, kTime, kUnit, kProgress };
 
 }  // namespace
 

@@ -403,6 +403,15 @@ TEST_F(CommFormTest, RunawayLeavesTheLocalNetworkOffAndWithoutAPort) {
   EXPECT_FALSE(form.chkNetwork.Value.Get());
 }
 
+TEST_F(CommFormTest, RunawayBeforeTheFormWasEverOpenIsShownWhenItIs) {
+  settings.LocalNetwork = true;
+  program.localNetwork.RunawayNotice("Runaway problem!. Please contact MOLVA via email.");
+  form.NetworkStopped();
+  form.Show();
+  EXPECT_FALSE(form.chkNetwork.Value.Get());
+  EXPECT_EQ(form.network.Port(), 0);
+}
+
 // A link that is up.
 
 TEST_F(CommFormTest, WarnsBeforeALinkIsEnded) {
