@@ -19,6 +19,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       calendar(platform.clock),
       errorLog(platform.files, platform.dialogs, calendar, folder_),
       practiceNode_(platform_, settings),
+      portNames(platform.files, Path("ports.cfg")),
       chain_(*this),
       ties_(*this),
       session(platform_, calendar, settings,
@@ -26,7 +27,6 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .loggers = standIns,
                .requests = ties_,
                .clockWork = ties_,
-               .tncScript = standIns,
                .defaultNode = [this] { return DefaultNode(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .lookUpAddress =
@@ -48,7 +48,14 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                    },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed,
-               .wakeNode = [this] { return practiceNode_.Wake(); }}),
+               .wakeNode = [this] { return practiceNode_.Wake(); },
+               .portPath = [this](int number) { return portNames.Path(number); },
+               .askTncScript = [this] { tncForm.Show(); },
+               .localNetworkOff = [this] { commForm.NetworkStopped(); }}),
+      commForm(
+          platform_, settings, portNames, session,
+          {.takeMode = [this] { TakeMode(); }, .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+      tncForm(settings, session, NeedsOfTncForm()),
       spotParts(platform_, calendar, settings, errorLog, folder_, NeedsOfSpots()),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
                     session.keepAlive, ties_, userSettings),
@@ -68,6 +75,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       linkCondition_(conditions, session),
       clockWatched_(spotParts.lines.clockCheck.HourOut.Observe(
           [this](bool hourOut) { ShowClock(conditions, hourOut); })),
+      portCondition_(conditions, session, [this] { commForm.Show(); }),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),
@@ -96,6 +104,12 @@ StartOptions::Needs Program::NeedsOfStartOptions() {
                 state.WantMissedSpots = state.FirstConnect = wanted;
                 spotParts.lines.list.ShDxDone = !wanted;
               }};
+}
+
+session::TncForm::Needs Program::NeedsOfTncForm() {
+  session::TncForm::Needs needs{.saved = [this] { TakeScript(); }, .openManual = {}};
+  if (needs_.openManual) needs.openManual = [this] { needs_.openManual("tnc"); };
+  return needs;
 }
 
 spots::SpotParts::Needs Program::NeedsOfSpots() {
@@ -220,6 +234,23 @@ void Program::CaptionSetup() {
       (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
       (node.empty() ? "" : "  (" + node + (word.empty() ? "" : " ") + std::string(word) + ")"));
   views.FollowNode();
+}
+
+void Program::TakeMode() {
+  session::SessionState& state = session.state;
+  state.TncMode = settings.TncMode;
+  state.ConnectedNodeCall = settings.TncMode ? settings.TncCluster : "";
+  state.txtNode.Caption.Set(state.ConnectedNodeCall);
+  session.tncLink.lblTnc.Visible.Set(settings.TncMode);
+  session.keepAlivePanel.Load();
+  tncForm.TakeMode();
+  CaptionSetup();
+}
+
+// The cluster that the next link goes to.
+void Program::TakeScript() {
+  if (settings.TncMode && session.state.Phase.Get() == session::LinkPhase::Disconnected) TakeMode();
+  DelayedWriteCfg();
 }
 
 // The second of two linked copies is fed through the first, in the extended line forms.

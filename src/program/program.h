@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "core/configuration.h"
 #include "core/controls.h"
@@ -22,13 +23,17 @@
 #include "program/message_form.h"
 #include "program/offset_form.h"
 #include "program/practice_node.h"
+#include "program/port_condition.h"
 #include "program/stand_ins.h"
 #include "program/start_options.h"
 #include "program/text_sizes.h"
 #include "program/ties.h"
 #include "program/user_info.h"
 #include "program/views.h"
+#include "session/comm_form.h"
+#include "session/port_names.h"
 #include "session/session.h"
+#include "session/tnc_form.h"
 #include "spots/spot_parts.h"
 
 namespace program {
@@ -52,6 +57,8 @@ class Program {
   struct Needs {
     std::function<void()> quit;  // the shutdown is complete
     std::uint32_t seed = 0;      // of everything that is picked at random
+    // Shows a page of the manual; empty: there is none.
+    std::function<void(std::string_view page)> openManual = {};
   };
 
   // The country file that the system has, from its package of files for radio amateurs.
@@ -91,6 +98,7 @@ class Program {
   core::ErrorLog errorLog;
   core::Settings settings;
   core::Endpoints endpoints;
+  session::PortNames portNames;
   StandIns standIns;
   Conditions conditions;
 
@@ -102,6 +110,8 @@ class Program {
 
  public:
   session::Session session;
+  session::CommForm commForm;
+  session::TncForm tncForm;
   spots::SpotParts spotParts;
   filters::UserSettings userSettings;
   filters::ProfileReader profileReader;
@@ -140,6 +150,7 @@ class Program {
   void Quit();
 
   StartOptions::Needs NeedsOfStartOptions();
+  session::TncForm::Needs NeedsOfTncForm();
   spots::SpotParts::Needs NeedsOfSpots();
   void TellOfMembers(spots::Membership::List list);
   void ChooseLinking();
@@ -148,7 +159,8 @@ class Program {
   spots::SlotSwitches SlotSwitches() const;
   session::DefaultNode DefaultNode() const;
   void CaptionSetup();
-  void ShowTncCluster();
+  void TakeMode();
+  void TakeScript();
   std::string LinkWord() const;
   void ApplySettings();
   void WriteCfg();
@@ -161,6 +173,7 @@ class Program {
   bool configurationIsNew_ = false;
   LinkCondition linkCondition_;
   platform::Registration clockWatched_;
+  PortCondition portCondition_;
   platform::Registration autoReconnectTicked_;
   platform::Registration linkingTicked_;
   platform::Registration macrosFollowing_;

@@ -275,6 +275,34 @@ void Connection::GiveUp(std::string why) {
   timers_.Enable(TimerId::Reconnect);
 }
 
+void Connection::BeginOverTnc() {
+  state_.ConnectedNodeCall = settings_.TncCluster;
+  ConnectedAt = scheduler_.Now();
+  intake_.ClearLine();
+  needs_.onNodeKnown();
+  needs_.onConnected();
+}
+
+void Connection::GoOnOverTnc() {
+  timers_.Disable(TimerId::Reconnect);
+  state_.ConnectFailed = false;
+  state_.LoginMsgActive = true;
+  cmdConnect.Enabled.Set(false);
+  cmdDisconnect.Enabled.Set(true);
+  Show(LinkPhase::Trying);
+}
+
+void Connection::LinkedOverTnc(bool byAnotherNode) {
+  Show(LinkPhase::Connected);
+  // The node in between has told the cluster whose link it is: no prompt asks for the call.
+  if (byAnotherNode) LoggedInSetup();
+}
+
+void Connection::EndedOverTnc(std::string why) {
+  if (!why.empty() && !state_.UserDisconnected) WhyEnded = std::move(why);
+  Disconnected();
+}
+
 void Connection::LoggedInSetup() {
   ConnectTimeStamp = scheduler_.Now();
   ConnectedOnce = true;

@@ -18,6 +18,7 @@
 #include "session/session_state.h"
 #include "session/timers.h"
 #include "session/tnc_retry.h"
+#include "session/tnc_script.h"
 
 namespace session {
 
@@ -78,6 +79,13 @@ class Connection {
   void Try();
   // The same for a link that saw no login.
   void GiveUpLogin();
+
+  // An attempt over the TNC: it begins, it goes on, and its script has come to its end.
+  void BeginOverTnc();
+  void GoOnOverTnc();
+  void LinkedOverTnc(bool byAnotherNode);
+  // The session over the TNC has ended; why, unless that is known already.
+  void EndedOverTnc(std::string why);
 
   // Line handlers; true claims the line.
   bool QRX(std::string_view line);

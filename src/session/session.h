@@ -31,7 +31,9 @@
 #include "session/technical.h"
 #include "session/timers.h"
 #include "session/tnc_link.h"
+#include "session/tnc_notices.h"
 #include "session/tnc_retry.h"
+#include "session/tnc_script.h"
 
 namespace session {
 
@@ -44,7 +46,6 @@ class Session {
     LoggerServer& loggers;
     LoginRequests& requests;
     ClockWork& clockWork;
-    TncScript& tncScript;
     std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
     std::function<void()> lookUpAddress;  // of MOLVA-1
@@ -68,6 +69,8 @@ class Session {
     std::function<bool()> weatherInFront = [] { return false; };
     std::function<void()> beginFreshWeatherPage = [] {};
     std::function<void()> openChat = [] {};
+    std::function<void()> askTncScript = [] {};     // there is none to connect with
+    std::function<void()> localNetworkOff = [] {};  // its port is no longer a choice
   };
 
   Session(const platform::Platform& platform, const core::Calendar& calendar,
@@ -87,6 +90,7 @@ class Session {
   NodeAddress nodeAddress;
   Duelling duelling;
   TncRetry tncRetry;
+  TncScript tncScript;  // frmTNC
   LoginWatch loginWatch;
   Connection connection;
   LinkButtons linkButtons;
@@ -98,6 +102,7 @@ class Session {
   Ar17 ar17;
   LinkText linkText;
   Clockwork clockwork;
+  TncNotices tncNotices;
   KeepAlivePanel keepAlivePanel;
   Macros macros;
   LatencyMeter latency;

@@ -11,6 +11,7 @@
 
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/comm_dialog.h"
 #include "ui/conditions_bar.h"
 #include "ui/fix_spot_dialog.h"
 #include "ui/login_view.h"
@@ -19,6 +20,7 @@
 #include "ui/settings_page.h"
 #include "ui/spots_dialog.h"
 #include "ui/status_line.h"
+#include "ui/tnc_dialog.h"
 #include "ui/touch_watch.h"
 #include "ui/user_info_dialog.h"
 
@@ -167,6 +169,8 @@ void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
   spots::SpotParts& parts = program_.spotParts;
   new UserInfoDialog(program_.userInfo, frames, this);
   new OffsetDialog(program_.offsetForm, frames, this);
+  new CommDialog(program_.commForm, frames, this);
+  new TncDialog(program_.tncForm, frames, this);
   new MessageDialog(program_.messageForm, frames, this);
   new SpotsDialog(parts.spotsForm, frames, this);
   new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},

@@ -41,6 +41,7 @@ QWidget#CommandRow { background: {panel}; }
 QLabel { color: {text}; }
 QLabel[dim="true"] { color: {dim}; }
 QLabel[bad="true"], QLabel[tint="bad"] { color: {bad}; }
+QLabel[caution="true"] { color: {caution}; }
 QLabel[tint="good"] { color: {good}; }
 QLabel[tint="accent"] { color: {accent}; }
 QLabel[heading="true"] { font-weight: 600; }

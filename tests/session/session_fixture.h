@@ -44,9 +44,7 @@ class Station {
   };
 
   // What was asked of the program above the session.
-  class Above : public session::LoginRequests,
-                public session::ClockWork,
-                public session::TncScript {
+  class Above : public session::LoginRequests, public session::ClockWork {
    public:
     Lines asked;
     void GetEm() override { asked.emplace_back("GetEm"); }
@@ -56,8 +54,6 @@ class Station {
     void Sun() override { ++minutes; }
     void DayChange() override { asked.emplace_back("DayChange"); }
     void EnableLoggingSpots() override { asked.emplace_back("EnableLoggingSpots"); }
-    void Connect() override { asked.emplace_back("Connect"); }
-    void DisconnectTNC() override { asked.emplace_back("DisconnectTNC"); }
     int hours = 0;
     int minutes = 0;
   };
@@ -120,6 +116,8 @@ class Station {
   int profileAsked = 0;
   Lines faults;  // "<name>: <what>"
   int askedUserInfo = 0;
+  int askedTncScript = 0;
+  int localNetworkOff = 0;
   int configurationWrites = 0;
   session::Session program;
 
