@@ -17,20 +17,30 @@ TEST_F(LinkTest, ASignalToEndSaysGoodbyeToTheNode) {
   EXPECT_TRUE(Heard("BYE"));
 }
 
-TEST_F(LinkTest, ANodeThatHangsUpDoesNotEndTheClient) {
+TEST_F(LinkTest, ANodeThatHangsUpIsLoggedIntoAgain) {
   const auto client = StartLoggedIn();
+  const QString link = client->LinkTo(proxy->Port());
   proxy->HangUp();
   EXPECT_TRUE(PumpUntil([this] { return !proxy->Linked(); }, kPatience))
       << "the client has not closed its end";
-  EXPECT_TRUE(client->IsRunning());
+  ExpectLoggedInAgain(*client, link);
   EXPECT_EQ(client->Terminate(), "exit code 0");
-  EXPECT_FALSE(Heard("BYE"));
 }
 
-TEST_F(LinkTest, ALinkThatBreaksDoesNotEndTheClient) {
+TEST_F(LinkTest, ALinkThatBreaksIsMadeAgain) {
   const auto client = StartLoggedIn();
+  const QString link = client->LinkTo(proxy->Port());
   proxy->Cut();
+  ExpectLoggedInAgain(*client, link);
   EXPECT_EQ(client->Terminate(), "exit code 0");
+}
+
+TEST_F(LinkTest, WithoutALinkThereIsNobodyToSayGoodbyeTo) {
+  const auto client = StartLoggedIn();
+  proxy->HangUp();
+  EXPECT_TRUE(PumpUntil([this] { return !proxy->Linked(); }, kPatience));
+  EXPECT_EQ(client->Terminate(), "exit code 0");
+  EXPECT_FALSE(Heard("BYE"));
 }
 
 TEST_F(LinkTest, ASecondCopyLogsInUnderAnotherCall) {

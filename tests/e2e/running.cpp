@@ -15,6 +15,10 @@ QProcessEnvironment EnvironmentWith(const QString& home) {
   environment.remove("WAYLAND_DISPLAY");
   environment.insert("QT_QPA_PLATFORM", "offscreen");
   environment.insert("MOLVA_HOME", home);
+  environment.insert("LD_PRELOAD", SKIPPED_MINUTES);
+  // The sanitizers' library would be first otherwise.
+  environment.insert("ASAN_OPTIONS",
+                     environment.value("ASAN_OPTIONS") + ":verify_asan_link_order=0");
   return environment;
 }
 
@@ -34,12 +38,43 @@ Running::~Running() {
 }
 
 bool Running::HandlesSignals() const {
-  static const QRegularExpression kCaught("SigCgt:\\s*([0-9a-f]+)");
-  QFile status(QString("/proc/%1/status").arg(process_.processId()));
-  if (!status.open(QIODevice::ReadOnly)) return false;
-  const auto caught = kCaught.match(status.readAll()).captured(1).toULongLong(nullptr, 16);
+  const auto caught = Status("SigCgt").toULongLong(nullptr, 16);
   return (caught >> (SIGTERM - 1) & 1U) != 0;
 }
+
+int Running::Rests() const { return Status("voluntary_ctxt_switches").toInt(); }
+
+QString Running::Status(const QString& name) const {
+  QFile status(QString("/proc/%1/status").arg(process_.processId()));
+  if (!status.open(QIODevice::ReadOnly)) return {};
+  const QRegularExpression line("^" + name + ":\\s*(\\w+)", QRegularExpression::MultilineOption);
+  return line.match(status.readAll()).captured(1);
+}
+
+QString Running::LinkTo(quint16 port) const {
+  QFile connections(QString("/proc/%1/net/tcp").arg(process_.processId()));
+  if (!connections.open(QIODevice::ReadOnly)) return {};
+  // number: local address, remote address, state (1: up), 5 figures, the connection's number.
+  const QRegularExpression link(
+      QString(":\\s+\\S+\\s+\\S+:%1\\s+01(?:\\s+\\S+){5}\\s+(\\d+)").arg(port, 4, 16, QChar('0')),
+      QRegularExpression::CaseInsensitiveOption);
+  const auto found = link.globalMatch(connections.readAll());
+  for (const auto& each : found) {
+    QString name = "socket:[" + each.captured(1) + "]";
+    if (Holds(name)) return name;
+  }
+  return {};
+}
+
+bool Running::Holds(const QString& link) const {
+  const QDir open(QString("/proc/%1/fd").arg(process_.processId()));
+  const auto files = open.entryList(QDir::Files | QDir::System);
+  return std::any_of(files.begin(), files.end(), [&](const QString& file) {
+    return QFile::symLinkTarget(open.filePath(file)).endsWith(link);
+  });
+}
+
+void Running::SkipAMinute() { ::kill(static_cast<pid_t>(process_.processId()), SIGUSR1); }
 
 std::string Running::Terminate(std::chrono::seconds patience) {
   if (!IsRunning()) return "was not running any more";
@@ -54,9 +89,10 @@ QByteArray Running::Output() {
   return output_;
 }
 
-ClientTest::ClientTest() {
-  node = std::make_unique<Running>(PRACTICE_NODE, QStringList{"--port", "0", "--rate", "20"},
-                                   temporary.path());
+ClientTest::ClientTest(const QString& mischief) {
+  QStringList arguments = {"--port", "0", "--rate", "20"};
+  if (!mischief.isEmpty()) arguments << "--misbehave" << mischief;
+  node = std::make_unique<Running>(PRACTICE_NODE, arguments, temporary.path());
   static const QRegularExpression kPort("listening on 127\\.0\\.0\\.1:(\\d+) as");
   PumpUntil([this] { return kPort.match(node->Output()).hasMatch(); }, kPatience);
   const auto match = kPort.match(node->Output());
@@ -92,6 +128,23 @@ std::unique_ptr<Running> ClientTest::StartLoggedIn() {
   EXPECT_TRUE(PumpUntil([this] { return Heard("K1TST-2") && SpotsFlow(); }, kPatience))
       << "the client has not logged in";
   return client;
+}
+
+void ClientTest::ExpectLoggedInAgain(Running& client, const QString& lostLink) {
+  ASSERT_FALSE(lostLink.isEmpty());
+  const int calls = proxy->Calls();
+  ASSERT_TRUE(PumpUntil([&] { return !client.Holds(lostLink); }, kPatience))
+      << "the client has not noticed the loss";
+  // What it does about the loss comes in the turns behind it.
+  const int rests = client.Rests();
+  ASSERT_TRUE(PumpUntil([&] { return client.Rests() > rests + 3; }, kPatience));
+  EXPECT_EQ(proxy->Calls(), calls);
+  proxy->fromClients.clear();
+  proxy->fromNode.clear();
+  client.SkipAMinute();
+  EXPECT_TRUE(PumpUntil([this] { return Heard("K1TST-2") && SpotsFlow(); }, kPatience))
+      << "the client has not logged in again";
+  EXPECT_EQ(proxy->Calls(), calls + 1);
 }
 
 }  // namespace e2e

@@ -30,12 +30,23 @@ class Running {
   bool IsRunning() const { return process_.state() == QProcess::Running; }
   // Whether it has taken the signals to end into its own hands yet.
   bool HandlesSignals() const;
+  // Its connection to that port of this machine, by the system's name for it; empty if it has none.
+  QString LinkTo(quint16 port) const;
+  // Whether it keeps that connection, be it good or broken.
+  bool Holds(const QString& link) const;
+  // How often it has come to the end of all that it had to do, and waited.
+  int Rests() const;
+  // Lets a little more than a minute pass for all that it waits for.
+  void SkipAMinute();
   // Sends SIGTERM and waits for the end; the exit code, or why there is none.
   std::string Terminate(std::chrono::seconds patience = kPatience);
   // What it has printed so far.
   QByteArray Output();
 
  private:
+  // A line of what the system tells of it.
+  QString Status(const QString& name) const;
+
   QProcess process_;
   QByteArray output_;
 };
@@ -43,7 +54,8 @@ class Running {
 // A client with a folder of its own, and a node that it reaches through a proxy.
 class ClientTest : public ::testing::Test {
  protected:
-  ClientTest();
+  // The misbehaviour is the node's, in the words of its option.
+  explicit ClientTest(const QString& mischief = {});
 
   // A file in the client's folder.
   void WriteFile(const QString& name, const QByteArray& bytes);
@@ -54,6 +66,9 @@ class ClientTest : public ::testing::Test {
   std::unique_ptr<Running> StartClient();
   // Starts a client with that configuration and waits until spots come in.
   std::unique_ptr<Running> StartLoggedIn();
+  // Waits until the client has let go of a link that is lost, and then until it has logged in again
+  // by itself.
+  void ExpectLoggedInAgain(Running& client, const QString& lostLink);
   bool Heard(const QByteArray& line) const { return proxy->fromClients.contains(line + "\r\n"); }
   bool SpotsFlow() const { return proxy->fromNode.count("DX de ") >= 3; }
 
