@@ -34,8 +34,6 @@ class Running {
   QString LinkTo(quint16 port) const;
   // Whether it keeps that connection, be it good or broken.
   bool Holds(const QString& link) const;
-  // How often it has come to the end of all that it had to do, and waited.
-  int Rests() const;
   // Lets a little more than a minute pass for all that it waits for.
   void SkipAMinute();
   // Sends SIGTERM and waits for the end; the exit code, or why there is none.
@@ -44,9 +42,6 @@ class Running {
   QByteArray Output();
 
  private:
-  // A line of what the system tells of it.
-  QString Status(const QString& name) const;
-
   QProcess process_;
   QByteArray output_;
 };
@@ -54,8 +49,7 @@ class Running {
 // A client with a folder of its own, and a node that it reaches through a proxy.
 class ClientTest : public ::testing::Test {
  protected:
-  // The misbehaviour is the node's, in the words of its option.
-  explicit ClientTest(const QString& mischief = {});
+  ClientTest();
 
   // A file in the client's folder.
   void WriteFile(const QString& name, const QByteArray& bytes);
