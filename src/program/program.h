@@ -21,6 +21,7 @@
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
+#include "program/raw_pane.h"
 #include "program/stand_ins.h"
 #include "program/start_options.h"
 #include "program/text_sizes.h"
@@ -110,6 +111,7 @@ class Program {
   DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
+  RawPane rawPane;
   StartOptions startOptions;
 
  private:
