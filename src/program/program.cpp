@@ -71,6 +71,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       dxTab(views, spotParts.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
+      rawPane(session.commandLine.cmdRawplus[session::CommandLine::kRestoreRaw],
+              session.commandLine.cmdRawplus[session::CommandLine::kMaximiseRaw]),
       startOptions(settings, NeedsOfStartOptions()),
       linkCondition_(conditions, session),
       clockWatched_(spotParts.lines.clockCheck.HourOut.Observe(

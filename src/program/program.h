@@ -24,6 +24,7 @@
 #include "program/offset_form.h"
 #include "program/practice_node.h"
 #include "program/port_condition.h"
+#include "program/raw_pane.h"
 #include "program/stand_ins.h"
 #include "program/start_options.h"
 #include "program/text_sizes.h"
@@ -122,6 +123,7 @@ class Program {
   DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
+  RawPane rawPane;
   StartOptions startOptions;
 
  private:

@@ -10,7 +10,7 @@ set(expected
   share/applications/molva-desk.desktop
   share/doc/molva-desk/changelog
   share/doc/molva-desk/copyright
-  share/doc/molva-desk/manual.md
+  share/doc/molva-desk/manual/index.md
   share/icons/hicolor/scalable/apps/molva-desk.svg
   share/man/man1/molva-desk.1
   share/man/man1/molva-practice-node.1
