@@ -48,7 +48,7 @@ class TncLink {
   // and "^C" is the control character. False if the text is lost, because the port can't be opened.
   bool TncSend(std::string_view text, std::string_view shown);
 
-  // Why the port does not open, with what to do about it, in words for the operator.
+  // Why the port does not open, in a few words.
   std::string WhyClosed() const;
 
   // A text that is told from here on goes out 250 ms behind those before it.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/text.h"
+#include "session/port_advice.h"
 
 namespace session {
 namespace {
@@ -60,7 +61,8 @@ void TncScript::Connect() {
   ScriptRunning = true;
   tncLink_.BeginLink();
   needs_.beginning();
-  if (!tncLink_.OpenComm1()) outgoing_.updateText2(tncLink_.WhyClosed());
+  if (!tncLink_.OpenComm1())
+    outgoing_.updateText2(PortAdvice(tncLink_.MSComm1->CommPort, tncLink_.Trouble.Get()));
   BeginStep();
   state_.txtNode.Caption.Set(Now().texts.Command);
 }

@@ -353,7 +353,9 @@ TEST_F(TncScriptTest, LoginEndsTheGrowthOfTheWait) {
 TEST_F(TncScriptTest, BusyPortIsToldInWordsAndTheScriptTimesOut) {
   tnc->busy = true;
   PressConnect();
-  EXPECT_THAT(RawView(), ElementsAre("the TNC's port /dev/ttyUSB0 does not open (busy)"));
+  EXPECT_THAT(RawView(),
+              ElementsAre("/dev/ttyUSB0 is in use by another program. Close that program, or "
+                          "choose another device."));
   LetPass(30s);
   EXPECT_EQ(CountInRawView("Connect attempt time out."), 1);
   EXPECT_EQ(program.connection.WhyEnded, "the TNC's port /dev/ttyUSB0 does not open (busy)");
@@ -366,7 +368,7 @@ TEST_F(TncScriptTest, BusyPortIsToldInWordsAndTheScriptTimesOut) {
 TEST_F(TncScriptTest, PortThatNobodyChoseIsToldInWords) {
   settings.TncPort = 0;
   PressConnect();
-  EXPECT_THAT(RawView(), ElementsAre("no port is chosen for the TNC"));
+  EXPECT_THAT(RawView(), ElementsAre("No port is chosen. Choose one."));
 }
 
 TEST_F(TncScriptTest, DeviceThatVanishesEndsTheSessionAndItIsTriedAgain) {
