@@ -43,7 +43,10 @@ LinkText::LinkText(platform::Scheduler& scheduler, const core::Calendar& calenda
 
 void LinkText::Tick() {
   const bool named = session_.LoggedIn && !session_.ConnectedNodeCall.empty();
-  const std::string& wanted = session_.TncMode ? settings_.TncCluster : settings_.NodeCall;
+  const std::string& cluster = settings_.TncCluster;
+  const std::string wanted = !session_.TncMode ? settings_.NodeCall
+                             : cluster.empty() ? "TNC"  // until it has been named
+                                               : cluster;
   node.Caption.Set(named ? session_.ConnectedNodeCall : wanted);
   software.Caption.Set(std::string(DialectOf(session_.Kind).software));
   state.Caption.Set(StateNow());

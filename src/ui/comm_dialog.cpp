@@ -5,7 +5,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "ui/bind.h"
@@ -14,7 +13,7 @@
 namespace ui {
 namespace {
 
-constexpr int kDeviceLetters = 26;  // of its path and its product, in sight
+constexpr int kDeviceLetters = 30;  // of its path and its product, in sight
 constexpr int kPortNumberWidth = 72;
 
 }  // namespace
@@ -169,10 +168,8 @@ void CommDialog::AddFoot(QVBoxLayout* column, session::CommForm& model, Frames& 
   column->addLayout(row);
   AddButton(row, tr("Look for devices"), QStringLiteral("L"), model.cmdLook, frames);
   row->addStretch();
-  QPushButton* apply =
-      AddButton(row, tr("Apply the connection"), QStringLiteral("A"), model.cmdComm, frames);
-  apply->setProperty("primary", true);
-  apply->setDefault(true);
+  MakePrimary(
+      AddButton(row, tr("Apply the connection"), QStringLiteral("A"), model.cmdComm, frames));
   AddButton(row, tr("Close"), QStringLiteral("C"), model.cmdClose, frames);
 }
 

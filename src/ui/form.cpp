@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 
 #include "ui/bind.h"
 
@@ -94,6 +95,14 @@ void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, 
     row->addWidget(button);
   }
   form->addRow(row);
+}
+
+// The style sheet may have looked at the button before.
+void MakePrimary(QPushButton* button) {
+  button->setProperty("primary", true);
+  button->setDefault(true);
+  button->style()->unpolish(button);
+  button->style()->polish(button);
 }
 
 QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog) {

@@ -1,7 +1,6 @@
 #include "ui/tnc_dialog.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 
 #include "platform/qt/qt_text.h"
@@ -124,9 +123,7 @@ void TncDialog::AddFoot(QVBoxLayout* column, session::TncForm& model, Frames& fr
   add(tr("Help on the TNC"), "H", model.cmdHelp);
   row->addStretch();
   add(tr("Run the script"), "R", model.cmdRun);
-  QPushButton* save = add(tr("Save the script"), "a", model.cmdSave);
-  save->setProperty("primary", true);
-  save->setDefault(true);
+  MakePrimary(add(tr("Save the script"), "a", model.cmdSave));
   add(tr("Close"), "C", model.cmdClose);
 }
 
