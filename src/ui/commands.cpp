@@ -23,6 +23,10 @@ constexpr Command Tab(const char* keys, int tab, const char* entry, const char* 
 constexpr std::array kCommands = {
     Entry(Connection, "", Act::Connect, QT_TR_NOOP("&Connect"), QT_TR_NOOP("Connect")),
     Entry(Connection, "", Act::Disconnect, QT_TR_NOOP("&Disconnect"), QT_TR_NOOP("Disconnect")),
+    Entry(Connection, "", Act::LinkSettings, QT_TR_NOOP("-Telnet or &TNC, and ports..."),
+          QT_TR_NOOP("How the node is reached: telnet or TNC, and the serial ports")),
+    Entry(Connection, "", Act::TncScript, QT_TR_NOOP("&Script for the TNC..."),
+          QT_TR_NOOP("The way over a TNC to the cluster")),
     Entry(Connection, "Ctrl+Q", Act::Quit, QT_TR_NOOP("-&Quit"), QT_TR_NOOP("Quit")),
 
     Entry(Configuration, "", Act::UserInfo, QT_TR_NOOP("&User information..."),

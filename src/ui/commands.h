@@ -12,6 +12,8 @@ enum class Act {
   ConnectOrDisconnect,
   Connect,
   Disconnect,
+  LinkSettings,
+  TncScript,
   Quit,
   UserInfo,
   Columns,

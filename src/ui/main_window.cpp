@@ -221,6 +221,10 @@ void MainWindow::Do(const Command& command) {
       return connection.cmdConnect.Press();
     case Act::Disconnect:
       return connection.cmdDisconnect.Press();
+    case Act::LinkSettings:
+      return program_.commForm.Show();
+    case Act::TncScript:
+      return program_.tncForm.Show();
     case Act::Quit:
       return program_.RequestClose(program::Program::Close::Ask);
     case Act::UserInfo:

@@ -96,9 +96,15 @@ TEST_F(MenusTest, TheCorrectionOfFilterErrorsIsSwitched) {
 }
 
 TEST_F(MenusTest, DialogsAreOpenedWithoutHoldingAnythingUp) {
-  for (const char* entry :
-       {"User information...", "Columns...", "Spot log...", "Rejects...", "Corrections..."}) {
-    Entry("Configuration", entry).trigger();
+  for (const auto& [menu, entry] : std::vector<std::pair<const char*, const char*>>{
+           {"Connection", "Telnet or TNC, and ports..."},
+           {"Connection", "Script for the TNC..."},
+           {"Configuration", "User information..."},
+           {"Configuration", "Columns..."},
+           {"Configuration", "Spot log..."},
+           {"Configuration", "Rejects..."},
+           {"Configuration", "Corrections..."}}) {
+    Entry(menu, entry).trigger();
     Run(200ms);
     QDialog* open = nullptr;
     for (QDialog* each : window->findChildren<QDialog*>())
