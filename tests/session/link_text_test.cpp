@@ -38,15 +38,15 @@ TEST_F(LinkTextTest, SaysWhatIsBeingDoneAboutTheLink) {
 }
 
 TEST_F(LinkTextTest, NamesTheNodeThatTheNextLinkGoesTo) {
-  const auto node = [this] {
+  const auto shown = [this] {
     program.linkText.Tick();
     return program.linkText.node.Caption.Get();
   };
-  EXPECT_EQ(node(), "N0NODE");
+  EXPECT_EQ(shown(), "N0NODE");
   program.state.TncMode = true;
-  EXPECT_EQ(node(), "TNC") << "over the TNC, until the cluster has been named";
+  EXPECT_EQ(shown(), "TNC") << "over the TNC, until the cluster has been named";
   settings.TncCluster = "N0TNC";
-  EXPECT_EQ(node(), "N0TNC");
+  EXPECT_EQ(shown(), "N0TNC");
 }
 
 TEST_F(LinkTextTest, NodeThatSaysNothingIsNotShownAsConnected) {
