@@ -5,6 +5,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/name_lookup.h"
+#include "platform/programs.h"
 #include "platform/scheduler.h"
 #include "platform/serial.h"
 #include "platform/tcp.h"
@@ -21,6 +22,7 @@ struct Platform {
   Files& files;
   Dialogs& dialogs;
   Browser& browser;
+  Programs& programs;
 };
 
 }  // namespace platform

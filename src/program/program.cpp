@@ -2,15 +2,13 @@
 
 #include "core/password_file.h"
 #include "core/version.h"
+#include "program/clock_condition.h"
 #include "program/save_condition.h"
 
 namespace program {
 namespace {
 
 using session::TimerId;
-
-// Comes with the program, so that there is always a node to talk to.
-const session::DefaultNode kPracticeNode = {"N0DE-1", "127.0.0.1", "7373"};
 
 }  // namespace
 
@@ -21,6 +19,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       calendar(platform.clock),
       errorLog(platform.files, platform.dialogs, calendar, folder_),
       portNames(platform.files, Path("ports.cfg")),
+      practiceNode_(platform_, settings),
       chain_(*this),
       ties_(*this),
       session(platform_, calendar, settings,
@@ -49,6 +48,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                    },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed,
+               .wakeNode = [this] { return practiceNode_.Wake(); },
                .portPath = [this](int number) { return portNames.Path(number); },
                .askTncScript = [this] { tncForm.Show(); },
                .localNetworkOff = [this] { commForm.NetworkStopped(); }}),
@@ -71,8 +71,12 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       dxTab(views, spotParts.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
+      rawPane(session.commandLine.cmdRawplus[session::CommandLine::kRestoreRaw],
+              session.commandLine.cmdRawplus[session::CommandLine::kMaximiseRaw]),
       startOptions(settings, NeedsOfStartOptions()),
       linkCondition_(conditions, session),
+      clockWatched_(spotParts.lines.clockCheck.HourOut.Observe(
+          [this](bool hourOut) { ShowClock(conditions, hourOut); })),
       portCondition_(conditions, session, [this] { commForm.Show(); }),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),

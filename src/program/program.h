@@ -22,7 +22,9 @@
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
+#include "program/practice_node.h"
 #include "program/port_condition.h"
+#include "program/raw_pane.h"
 #include "program/stand_ins.h"
 #include "program/start_options.h"
 #include "program/text_sizes.h"
@@ -102,6 +104,7 @@ class Program {
   Conditions conditions;
 
  private:
+  PracticeNode practiceNode_;
   LineChain chain_;
   Ties ties_;
   std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
@@ -120,6 +123,7 @@ class Program {
   DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
+  RawPane rawPane;
   StartOptions startOptions;
 
  private:
@@ -170,6 +174,7 @@ class Program {
   bool folderIsNew_ = false;
   bool configurationIsNew_ = false;
   LinkCondition linkCondition_;
+  platform::Registration clockWatched_;
   PortCondition portCondition_;
   platform::Registration autoReconnectTicked_;
   platform::Registration linkingTicked_;

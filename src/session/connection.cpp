@@ -82,7 +82,8 @@ platform::Task<> Connection::ConnectNode() {
   timers_.Restart(TimerId::ConnectionTimeout);
   Show(LinkPhase::Trying);
   co_await Delay(2 * core::kPause);
-  if (!state_.UserDisconnected && !state_.ConnectFailed) OpenSocket();
+  if (MayOpen()) co_await needs_.wakeNode();
+  if (MayOpen()) OpenSocket();
   while (!state_.SocketConnected && !state_.ConnectFailed && !state_.UserDisconnected) {
     ShowState();
     co_await Delay(kPoll);

@@ -27,10 +27,11 @@ class Connection {
  public:
   // What the connection asks of the program around it.
   struct Needs {
-    std::function<void()> askUserInfo;      // the call is missing
-    std::function<void()> delayedWriteCfg;  // a setting has changed
-    std::function<void()> lookUpAddress;    // of MOLVA-1, which can't be reached
-    std::function<void()> onConnected;      // the link is up, nothing has been read
+    std::function<void()> askUserInfo;           // the call is missing
+    std::function<void()> delayedWriteCfg;       // a setting has changed
+    std::function<void()> lookUpAddress;         // of MOLVA-1, which can't be reached
+    std::function<platform::Task<>()> wakeNode;  // what is about to be called, if it needs that
+    std::function<void()> onConnected;           // the link is up, nothing has been read
     std::function<void()> onLoggedIn;
     std::function<void()> onNodeKnown;  // the node has said its call
     std::function<void()> onEnding;     // first of all, when a session ends
@@ -92,6 +93,7 @@ class Connection {
 
  private:
   platform::Task<> ConnectNode();
+  bool MayOpen() const { return !state_.UserDisconnected && !state_.ConnectFailed; }
   void OpenSocket();
   void ShowState();
   void ShowFailure();

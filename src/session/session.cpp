@@ -69,6 +69,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                  {.askUserInfo = needs.askUserInfo,
                   .delayedWriteCfg = needs.delayedWriteCfg,
                   .lookUpAddress = needs.lookUpAddress,
+                  .wakeNode = needs.wakeNode,
                   .onConnected = [this] { loginText.rtbLoginMsg.Clear(); },
                   .onLoggedIn = [this] { LoggedIn(); },
                   .onNodeKnown = needs.onNodeKnown,

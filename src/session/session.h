@@ -59,6 +59,8 @@ class Session {
     std::function<void()> onEnding;      // first of all, when a session ends
     platform::FaultHandler onFault;
     std::uint32_t seed = 0;  // of what is picked at random
+    // The chosen node is about to be called over the network; what this starts is waited for.
+    std::function<platform::Task<>()> wakeNode = []() -> platform::Task<> { co_return; };
     std::function<std::string(int number)> portPath = PortPath;
     // A command from the local network that is for this program alone.
     std::function<bool(std::string_view line)> localCommand = [](std::string_view) {

@@ -84,7 +84,13 @@ QDialog QListWidget::item { padding: 2px 4px; }
 QListWidget::item:selected { background: {selection}; color: {text}; }
 QFrame#DropPanel { background: {panel}; border: 1px solid {line}; border-radius: 4px; }
 QMenu { background: {panel}; color: {text}; border: 1px solid {line}; padding: 4px; }
-QMenu::item { padding: 5px 16px; border-radius: 4px; }
+QMenu::item { padding: 5px 16px 5px 28px; border-radius: 4px; }
+QMenu::item:disabled { color: {dim}; }
+QMenu::separator { height: 1px; background: {line}; margin: 4px 8px; }
+QMenuBar { background: {panel}; color: {text}; border-bottom: 1px solid {line}; }
+QMenuBar::item { padding: 4px 10px; }
+QMenuBar::item:selected { background: {selection}; }
+QTextBrowser { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px; }
 QMenu::item:selected { background: {selection}; }
 QListWidget#BandRail { background: {panel}; border: none; border-right: 1px solid {line};
                       outline: none; padding-top: 6px; }

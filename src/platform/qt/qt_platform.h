@@ -7,6 +7,7 @@
 #include "platform/qt/qt_files.h"
 #include "platform/qt/qt_name_lookup.h"
 #include "platform/qt/qt_network.h"
+#include "platform/qt/qt_programs.h"
 #include "platform/qt/qt_scheduler.h"
 #include "platform/qt/qt_serial.h"
 
@@ -28,6 +29,7 @@ class QtPlatform {
   QtFiles files_;
   QtDialogs dialogs_;
   QtBrowser browser_;
+  QtPrograms programs_;
 };
 
 }  // namespace platform::qt

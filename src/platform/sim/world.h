@@ -7,6 +7,7 @@
 #include "platform/sim/sim_dialogs.h"
 #include "platform/sim/sim_files.h"
 #include "platform/sim/sim_network.h"
+#include "platform/sim/sim_programs.h"
 #include "platform/sim/sim_serial.h"
 #include "platform/timer_queue.h"
 
@@ -59,9 +60,10 @@ class World {
   SimFiles files;
   SimDialogs dialogs;
   SimBrowser browser;
+  SimPrograms programs;
 
   Platform platform() {
-    return {scheduler, clock, network, network, serialPorts, files, dialogs, browser};
+    return {scheduler, clock, network, network, serialPorts, files, dialogs, browser, programs};
   }
 
   // Lets that much time pass.

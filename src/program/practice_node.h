@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+
+#include "core/settings.h"
+#include "platform/platform.h"
+#include "platform/task.h"
+#include "session/node_address.h"
+
+namespace program {
+
+// The node that comes with the program, so that there is always one to talk to.
+inline const session::DefaultNode kPracticeNode = {"N0DE-1", "127.0.0.1", "7373"};
+
+// Starts the practice node where it is wanted. What was started ends with this.
+class PracticeNode {
+ public:
+  // Both outlive it.
+  PracticeNode(const platform::Platform& platform, const core::Settings& settings);
+
+  // The chosen node is about to be called. If it is the practice node and nothing listens at its
+  // address, starts it, and ends when it listens, has ended, or takes too long. Otherwise ends at
+  // once.
+  platform::Task<> Wake();
+
+ private:
+  bool IsChosen() const;
+  bool AddressIsFree() const;
+  void Start();
+  bool IsStarting();
+
+  platform::Platform platform_;
+  const core::Settings& settings_;
+  std::unique_ptr<platform::ChildProgram> child_;
+};
+
+}  // namespace program
