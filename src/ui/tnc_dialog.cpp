@@ -1,7 +1,7 @@
 #include "ui/tnc_dialog.h"
 
+#include <QAction>
 #include <QLabel>
-#include <QShortcut>
 
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
@@ -42,8 +42,10 @@ TncDialog::TncDialog(session::TncForm& model, Frames& frames, QWidget* parent) :
     AddStep(grid, step, model, frames);
   whole->addStretch();
   AddFoot(whole, model, frames);
-  connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
-          [&model] { model.cmdHelp.Press(); });
+  auto* help = new QAction(this);
+  help->setShortcut(Qt::Key_F1);
+  connect(help, &QAction::triggered, this, [&model] { model.cmdHelp.Press(); });
+  addAction(help);
   BindDialog(this, model.Open, model.cmdClose, frames);
 }
 

@@ -103,20 +103,20 @@ TEST_F(CommDialogTest, TheTncIsChosenWithItsDevice) {
               testing::StartsWith("TNC: "));
 }
 
+// A button that is pressed by its mnemonic stays down for a moment, by Qt's own clock.
 TEST_F(CommDialogTest, KeysAloneAreEnough) {
   QDialog& dialog = OpenedComm();
   QApplication::setActiveWindow(&dialog);
-  Run(100ms);
   QTest::keyClick(&dialog, Qt::Key_N, Qt::AltModifier);
-  EXPECT_TRUE(Named<QRadioButton>(dialog, "Connect by TNC")->isChecked());
+  const auto* tnc = Named<QRadioButton>(dialog, "Connect by TNC");
+  EXPECT_TRUE(QTest::qWaitFor([tnc] { return tnc->isChecked(); }));
   QTest::keyClick(&dialog, Qt::Key_S, Qt::AltModifier);
   auto& stopBits = *Named<QComboBox>(dialog, "Stop bits of the TNC");
   EXPECT_TRUE(stopBits.hasFocus());
   QTest::keyClick(&stopBits, Qt::Key_Down);
   QTest::keyClick(&stopBits, Qt::Key_Down);
   QTest::keyClick(&dialog, Qt::Key_A, Qt::AltModifier);
-  Run(200ms);
-  EXPECT_TRUE(program->settings.TncMode);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return program->settings.TncMode; }));
   EXPECT_EQ(program->settings.TncStopBits, "2");
 }
 

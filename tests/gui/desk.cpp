@@ -29,7 +29,10 @@ void Desk::Open(const std::vector<std::string>& more) {
   world.files.content[program::Program::kCountryFile] = CtyText({});
   program = std::make_unique<program::Program>(
       world.platform(), kFolder,
-      program::Program::Needs{.quit = [this] { hasQuit = true; }, .seed = 1});
+      program::Program::Needs{
+          .quit = [this] { hasQuit = true; },
+          .seed = 1,
+          .openManual = [this](std::string_view page) { pagesOpened.emplace_back(page); }});
   window = std::make_unique<ui::MainWindow>(*program, frames, liveTheme);
   window->show();
   QApplication::setActiveWindow(window.get());

@@ -46,6 +46,7 @@ class Desk : public ::testing::Test {
   platform::sim::World world;
   ScriptedNode node{world};
   bool hasQuit = false;
+  std::vector<std::string> pagesOpened;  // of the manual
   ui::Frames frames{world.scheduler};
   const ui::Theme theme{ui::Theme::Kind::Light};  // what the window begins with
   ui::LiveTheme liveTheme{theme};

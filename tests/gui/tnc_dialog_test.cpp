@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QLineEdit>
 
 #include "gui/opened_dialog.h"
@@ -49,10 +50,10 @@ TEST_F(TncDialogTest, TabGoesThroughEachStepAndThenToTheButtons) {
   EXPECT_EQ(order.mid(0, 4),
             QStringList({"Cluster Callsign", "Step 1, connect string", "Step 1, connect response",
                          "Step 1, time out in seconds"}));
-  EXPECT_EQ(order.mid(16),
-            QStringList({"Step 6, connect string", "Step 6, connect response",
-                         "Step 6, time out in seconds", "Send conv to the TNC",
-                         "Send Ctrl-C to the TNC", "Run the script", "Save the script", "Close"}));
+  EXPECT_EQ(order.mid(16), QStringList({"Step 6, connect string", "Step 6, connect response",
+                                        "Step 6, time out in seconds", "Send conv to the TNC",
+                                        "Send Ctrl-C to the TNC", "Help on the TNC",
+                                        "Run the script", "Save the script", "Close"}));
 }
 
 TEST_F(TncDialogTest, TheHeadsAndTheTipsAreTheGivenOnes) {
@@ -142,6 +143,16 @@ TEST_F(TncDialogTest, ByTelnetItSaysWhyNothingCanBeSent) {
   program->commForm.cmdComm.Press();
   Run(200ms);
   EXPECT_TRUE(Named<QPushButton>(dialog, "Run the script")->isEnabled());
+}
+
+TEST_F(TncDialogTest, HelpAndF1OpenTheManualAtItsPage) {
+  OpenOverTnc();
+  QDialog& dialog = OpenedTnc();
+  Click(dialog, "Help on the TNC");
+  EXPECT_THAT(pagesOpened, ElementsAre("tnc"));
+  QApplication::setActiveWindow(&dialog);
+  QTest::keyClick(&dialog, Qt::Key_F1);
+  EXPECT_THAT(pagesOpened, ElementsAre("tnc", "tnc"));
 }
 
 TEST_F(TncDialogTest, EscapeClosesItAndItOpensAgain) {
