@@ -32,8 +32,14 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/molva-desk.svg")));
   platform::qt::QtPlatform qt;
   const platform::Platform platform = qt.Platform();
+  ui::MainWindow* shown = nullptr;
   program::Program program(platform, program::ProgramFolder(Variable),
-                           {.quit = [] { QApplication::exit(0); }, .seed = std::random_device{}()});
+                           {.quit = [] { QApplication::exit(0); },
+                            .seed = std::random_device{}(),
+                            .openManual =
+                                [&shown](std::string_view page) {
+                                  if (shown != nullptr) shown->OpenManual(page);
+                                }});
   platform::qt::QtEndSignals endSignals(
       [&program] { program.RequestClose(program::Program::Close::WithoutAsking); });
   const platform::qt::QtColourScheme colourScheme(
@@ -41,6 +47,7 @@ int main(int argc, char** argv) {
   ui::Wardrobe wardrobe(program.appearance, application);
   ui::Frames frames(platform.scheduler);
   ui::MainWindow window(program, frames, wardrobe.theme);
+  shown = &window;
   program.Start();
   window.show();
   return QApplication::exec();

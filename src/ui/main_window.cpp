@@ -42,6 +42,13 @@ bool OnSomeScreen(const QRect& place) {
   });
 }
 
+// The page of the manual for what is on show.
+std::string_view PageFor(int view) {
+  if (view == program::Views::Dx) return "dx";
+  if (view == program::Views::Settings) return "technical";
+  return "index";
+}
+
 // The focus is on it or on something in it.
 bool HasFocusWithin(const QWidget* widget) {
   const QWidget* focus = QApplication::focusWidget();
@@ -203,6 +210,7 @@ void MainWindow::AddKeys() {
                         .run = [this](const Command& command) { Do(command); }},
                        this));
   for (const Command& command : Commands()) {
+    if (!command.HasKey()) continue;
     for (const QKeySequence& keys : QKeySequence::listFromString(QLatin1String(command.keys)))
       connect(new QShortcut(keys, this), &QShortcut::activated, this,
               [this, &command] { Do(command); });
@@ -260,7 +268,7 @@ void MainWindow::Do(const Command& command) {
     case Act::SmallerText:
       return program_.textSizes.Change(ViewAtHand(), -1);
     case Act::Manual:
-      return OpenManual();
+      return OpenManual(PageFor(program_.views.onShow.Get()));
     case Act::ListKeys:
       return ListKeys();
     case Act::About:
@@ -331,13 +339,9 @@ void MainWindow::ListKeys() {
   keyList_->activateWindow();
 }
 
-// At the page for what is on show.
-void MainWindow::OpenManual() {
+void MainWindow::OpenManual(std::string_view page) {
   if (manual_ == nullptr) manual_ = new ManualWindow(this);
-  const int view = program_.views.onShow.Get();
-  manual_->Open(view == program::Views::Dx         ? QStringLiteral("dx")
-                : view == program::Views::Settings ? QStringLiteral("technical")
-                                                   : QStringLiteral("index"));
+  manual_->Open(platform::qt::TextOf(page));
 }
 
 void MainWindow::TellAbout() {

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <string_view>
 
 #include "program/program.h"
 #include "ui/command_row.h"
@@ -28,6 +29,9 @@ class MainWindow : public QMainWindow {
   // All three outlive the window.
   MainWindow(program::Program& program, Frames& frames, LiveTheme& theme);
 
+  // At a page of docs/manual, by its name without the ending.
+  void OpenManual(std::string_view page);
+
  protected:
   // Never closes by itself: the program asks, says goodbye to the node, and ends.
   void closeEvent(QCloseEvent* event) override;
@@ -46,7 +50,6 @@ class MainWindow : public QMainWindow {
   void ReturnToTable();
   void GoRound();
   void Find();
-  void OpenManual();
   void ListKeys();
   void TellAbout();
   program::TextSizes::View ViewAtHand() const;

@@ -7,17 +7,20 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${root}
 set(expected
   bin/molva-desk
   bin/molva-practice-node
+  bin/molva-practice-tnc
   share/applications/molva-desk.desktop
   share/doc/molva-desk/changelog
   share/doc/molva-desk/copyright
-  share/doc/molva-desk/manual/index.md
   share/icons/hicolor/scalable/apps/molva-desk.svg
   share/man/man1/molva-desk.1
   share/man/man1/molva-practice-node.1
   share/metainfo/molva.desk.client.metainfo.xml
 )
 file(GLOB_RECURSE found RELATIVE ${root} ${root}/*)
-list(FILTER found EXCLUDE REGEX "^share/doc/molva-desk/pictures/.*\\.png$")
+if(NOT "share/doc/molva-desk/manual/index.md" IN_LIST found)
+  message(FATAL_ERROR "there is no manual")
+endif()
+list(FILTER found EXCLUDE REGEX "^share/doc/molva-desk/(pictures/.*\\.png|manual/.*\\.md)$")
 if(NOT found STREQUAL expected)
   message(FATAL_ERROR "installed: ${found}")
 endif()
