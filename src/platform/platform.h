@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/http.h"
 #include "platform/name_lookup.h"
 #include "platform/scheduler.h"
 #include "platform/serial.h"
@@ -21,6 +22,7 @@ struct Platform {
   Files& files;
   Dialogs& dialogs;
   Browser& browser;
+  Http& http;
 };
 
 }  // namespace platform

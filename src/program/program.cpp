@@ -9,9 +9,6 @@ namespace {
 
 using session::TimerId;
 
-// Comes with the program, so that there is always a node to talk to.
-const session::DefaultNode kPracticeNode = {"N0DE-1", "127.0.0.1", "7373"};
-
 }  // namespace
 
 Program::Program(const platform::Platform& platform, std::string folder, Needs needs)
@@ -28,7 +25,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .requests = ties_,
                .clockWork = ties_,
                .tncScript = standIns,
-               .defaultNode = [this] { return DefaultNode(); },
+               .defaultNode = [this] { return nodeDirectory.Default(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .lookUpAddress =
                    [this] {
@@ -49,6 +46,17 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                    },
                .onFault = errorLog.FaultHandler(),
                .seed = needs_.seed}),
+      nodeDirectory(platform_.files, endpoints, folder_),
+      nodeUpdate(
+          platform_.scheduler, platform_.http, platform_.files, nodeDirectory, endpoints, settings,
+          errorLog,
+          {.delayedWriteCfg = [this] { DelayedWriteCfg(); }, .onFault = errorLog.FaultHandler()}),
+      nodeForm(nodeDirectory, nodeUpdate, settings, errorLog,
+               {.chosen =
+                    [this] {
+                      session.linkText.Tick();
+                      DelayedWriteCfg();
+                    }}),
       spotParts(platform_, calendar, settings, errorLog, folder_, NeedsOfSpots()),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
                     session.keepAlive, ties_, userSettings),
@@ -158,11 +166,6 @@ spots::SlotSwitches Program::SlotSwitches() const {
           .Grid = state(filters::kDxGrid),
           .Cq = state(filters::kCqZone),
           .Itu = state(filters::kItuZone)};
-}
-
-session::DefaultNode Program::DefaultNode() const {
-  if (endpoints.molva1.empty()) return kPracticeNode;
-  return {"MOLVA-1", endpoints.molva1, "23"};
 }
 
 void Program::DelayedWriteCfg() { session.timers.Restart(TimerId::WriteCfg); }

@@ -27,6 +27,7 @@
 #include "program/ties.h"
 #include "program/user_info.h"
 #include "program/views.h"
+#include "session/node_form.h"
 #include "session/session.h"
 #include "spots/spot_parts.h"
 
@@ -100,6 +101,9 @@ class Program {
 
  public:
   session::Session session;
+  session::NodeDirectory nodeDirectory;
+  session::NodeUpdate nodeUpdate;  // fraUpdate
+  session::NodeForm nodeForm;      // frmNode
   spots::SpotParts spotParts;
   filters::UserSettings userSettings;
   filters::ProfileReader profileReader;
@@ -144,7 +148,6 @@ class Program {
   void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;
   spots::SlotSwitches SlotSwitches() const;
-  session::DefaultNode DefaultNode() const;
   void CaptionSetup();
   void ShowTncCluster();
   std::string LinkWord() const;

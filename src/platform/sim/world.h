@@ -6,6 +6,7 @@
 #include "platform/sim/sim_browser.h"
 #include "platform/sim/sim_dialogs.h"
 #include "platform/sim/sim_files.h"
+#include "platform/sim/sim_http.h"
 #include "platform/sim/sim_network.h"
 #include "platform/sim/sim_serial.h"
 #include "platform/timer_queue.h"
@@ -59,9 +60,10 @@ class World {
   SimFiles files;
   SimDialogs dialogs;
   SimBrowser browser;
+  SimHttp http;
 
   Platform platform() {
-    return {scheduler, clock, network, network, serialPorts, files, dialogs, browser};
+    return {scheduler, clock, network, network, serialPorts, files, dialogs, browser, http};
   }
 
   // Lets that much time pass.
