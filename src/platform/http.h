@@ -40,7 +40,9 @@ class Http {
     Fault fault = Fault::None;
     int status = 0;           // of the server; 0 if it said none
     std::string description;  // of the fault, for the error log
-    std::string bytes;        // whole; empty with a fault
+    // Without that, bytes that broke off can't always be told from all there are.
+    bool lengthTold = false;
+    std::string bytes;  // empty with a fault
   };
 
   static constexpr int kMostRedirects = 5;

@@ -41,6 +41,11 @@ std::string WordsOf(Fault fault) {
   return {};
 }
 
+// An answer that told no length may have broken off anywhere.
+bool IsWhole(const Http::Answer& answer) {
+  return answer.lengthTold || core::EndsWith(answer.bytes, "\n");
+}
+
 bool HasNodes(std::string_view bytes, const NodeListFormat& format) {
   const std::string text = WithoutQuotes(bytes);
   return !ParseNodeList(text, format).rows.empty();
@@ -139,6 +144,7 @@ void NodeUpdate::ShowProgress(std::uint64_t received, std::uint64_t expected) {
 void NodeUpdate::Take(const Http::Answer& answer) {
   if (answer.fault != Fault::None)
     return Fail(WordsOf(answer.fault), answer.status, answer.description);
+  if (!IsWhole(answer)) return Fail(WordsOf(Fault::BrokenOff), 0, "The last line is not whole");
   if (!HasNodes(answer.bytes, directory_.Format())) return Fail(kNoList, 0, kNoList);
   const auto fault = files_.Replace(directory_.NodeFile(), answer.bytes);
   if (fault != platform::Files::Fault::None) {

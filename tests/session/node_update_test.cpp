@@ -175,6 +175,17 @@ TEST_F(NodeUpdateTest, ADownloadThatStopsHalfWayLeavesTheOldList) {
   EXPECT_THAT(Log(), HasSubstr("cmdNode_Click"));
 }
 
+TEST_F(NodeUpdateTest, WithoutALengthAListEndsWithAWholeLine) {
+  const std::string list(kNewerList);
+  Serve({.bytes = list, .brokenAfter = list.size() - 9, .tellsLength = false});
+  RunUpdate();
+  ExpectOldList();
+  EXPECT_THAT(Result(), HasSubstr("broke off"));
+  Serve({.bytes = list, .tellsLength = false});
+  RunUpdate();
+  EXPECT_EQ(Result(), "*** Update OK ***");
+}
+
 TEST_F(NodeUpdateTest, EveryFaultLeavesTheOldListAndIsToldInWords) {
   using Fault = Http::Fault;
   for (const Fault fault :

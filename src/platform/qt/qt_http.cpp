@@ -85,9 +85,9 @@ class Fetch {
   }
 
   void Take() {
+    // A server that says no has a page for that, too.
+    if (!reply_->isOpen() || Status() != kOk) return;
     const QByteArray piece = reply_->readAll();
-    // A server that says no has a page for that.
-    if (over || Status() != kOk) return;
     const auto size = static_cast<std::size_t>(piece.size());
     if (size > request_.mostBytes - answer.bytes.size()) return GiveUp();
     answer.bytes.append(piece.constData(), size);
@@ -106,6 +106,7 @@ class Fetch {
     Take();
     over = true;
     answer.status = Status();
+    answer.lengthTold = reply_->header(QNetworkRequest::ContentLengthHeader).isValid();
     if (answer.fault == Http::Fault::None) Judge();
     if (answer.fault != Http::Fault::None) answer.bytes.clear();
     ended.Notify();
@@ -141,6 +142,7 @@ Task<Http::Answer> QtHttp::Get(Request request) {
     co_return Answer{.fault = Http::Fault::BadAddress,
                      .status = 0,
                      .description = "No address of the web",
+                     .lengthTold = false,
                      .bytes = {}};
   Fetch fetch(manager_, url, std::move(request));
   if (!fetch.over) co_await fetch.ended.Next();

