@@ -19,7 +19,7 @@ namespace {
 
 using platform::qt::TextOf;
 
-constexpr QSize kNodeDialogSize(660, 640);
+constexpr QSize kNodeDialogSize(660, 660);
 constexpr std::array<int, NodeRows::kInfo> kColumnWidths = {120, 230, 64};
 constexpr int kPortWidth = 72;
 constexpr int kBarHeight = 8;
@@ -52,9 +52,10 @@ QString Marked(const std::string& caption, char key) {
 
 // Goes by its caption, unless it is given a name.
 QPushButton* AddButton(QBoxLayout* row, core::Button& model, char key, Frames& frames,
-                       QWidget* parent) {
+                       QWidget* parent, bool primary = false) {
   auto* button = new QPushButton(parent);
   button->setAutoDefault(false);
+  button->setProperty("primary", primary);
   BindButton(button, model, frames);
   BindProperty<std::string>(
       button, model.Caption, frames,
@@ -70,17 +71,25 @@ QCheckBox* MakeCheck(core::Check& model, char key, Frames& frames, QWidget* pare
   return box;
 }
 
-QLabel* MakeLabel(core::Label& model, Frames& frames, QWidget* parent, const QString& name = {}) {
+// `look` is a property that the style sheet knows: it has to be there before the first polish.
+QLabel* MakeLabel(core::Label& model, const char* look, Frames& frames, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setProperty(look, true);
+  BindLabel(label, model, frames);
+  return label;
+}
+
+QLabel* MakeNamed(core::Label& model, const QString& name, Frames& frames, QWidget* parent) {
   auto* label = new QLabel(parent);
   label->setAccessibleName(name);
-  label->setWordWrap(true);
   BindLabel(label, model, frames);
   return label;
 }
 
 // Speaks what it shows when that changes.
 QLabel* MakeResult(core::Label& model, const QString& name, Frames& frames, QWidget* parent) {
-  QLabel* label = MakeLabel(model, frames, parent, name);
+  QLabel* label = MakeNamed(model, name, frames, parent);
+  label->setWordWrap(true);
   BindProperty<std::string>(label, model.Caption, frames, [label](const std::string& text) {
     QAccessibleEvent alert(label, QAccessible::Alert);
     if (!text.empty()) QAccessible::updateAccessibility(&alert);
@@ -194,8 +203,7 @@ QLayout* NodeDialog::MakeButtons(Frames& frames) {
   QPushButton* add = AddButton(row, form.cmdNewNode, 'A', frames, this);
   AddButton(row, form.cmdDelete, 'D', frames, this);
   row->addStretch();
-  QPushButton* use = AddButton(row, form.cmdApply, 'U', frames, this);
-  use->setProperty("primary", true);
+  QPushButton* use = AddButton(row, form.cmdApply, 'U', frames, this, true);
   AddButton(row, form.cmdExit, 'l', frames, this);
   // Return does the one of the two that is right for the call in the field.
   BindProperty<bool>(add, form.cmdNewNode.Enabled, frames,
@@ -207,9 +215,7 @@ QLayout* NodeDialog::MakeUpdate(Frames& frames) {
   session::NodeUpdate& update = model_.update;
   auto* column = new QVBoxLayout;
   column->setSpacing(8);
-  QLabel* heading = MakeLabel(update.fraUpdate, frames, this);
-  heading->setProperty("heading", true);
-  column->addWidget(heading);
+  column->addWidget(MakeLabel(update.fraUpdate, "heading", frames, this));
   column->addLayout(MakeVersions(frames));
   auto* bar = new QProgressBar(this);
   bar->setAccessibleName(tr("Progress of the update"));
@@ -218,11 +224,8 @@ QLayout* NodeDialog::MakeUpdate(Frames& frames) {
   BindProperty<int>(bar, update.ProgressBar1, frames, [bar](int value) { bar->setValue(value); });
   column->addWidget(bar);
   column->addWidget(MakeResult(update.lblResult, tr("Result of the update"), frames, this));
-  for (core::Label& warning : update.lblWarning) {
-    QLabel* label = MakeLabel(warning, frames, this);
-    label->setProperty("dim", true);
-    column->addWidget(label);
-  }
+  for (core::Label& warning : update.lblWarning)
+    column->addWidget(MakeLabel(warning, "dim", frames, this));
   column->addWidget(MakeCheck(update.Check1, 'm', frames, this));
   return column;
 }
@@ -233,13 +236,8 @@ QLayout* NodeDialog::MakeVersions(Frames& frames) {
   const std::array values = {&update.lblInstalled, &update.lblAvailable};
   for (std::size_t i = 0; i < values.size(); ++i) {
     const QString says = TextOf(update.lblVersion[i].Caption.Get());
-    QLabel* label = MakeLabel(update.lblVersion[i], frames, this);
-    label->setProperty("dim", true);
-    label->setWordWrap(false);
-    QLabel* value = MakeLabel(*values[i], frames, this, tr("%1, value").arg(says));
-    value->setWordWrap(false);
-    row->addWidget(label);
-    row->addWidget(value);
+    row->addWidget(MakeLabel(update.lblVersion[i], "dim", frames, this));
+    row->addWidget(MakeNamed(*values[i], tr("%1, value").arg(says), frames, this));
     row->addSpacing(16);
   }
   row->addStretch();

@@ -202,7 +202,7 @@ TEST_F(NodeDialogTest, EscapeClosesItAndItOpensAsThingsAre) {
 
 TEST_F(NodeDialogTest, ANewListIsFetchedByItsButton) {
   std::string list = "W1LST,list.example,7300,Listed\r\n";
-  for (int i = 0; i < 500; ++i) list += "a broken line\r\n";
+  for (int i = 0; i < 5000; ++i) list += "a broken line\r\n";
   world.http.pages["https://lists.example/telnet/dxclusters.php"] = {.bytes = list};
   Click("Update the list of nodes");
   EXPECT_THAT(Says("Result of the update"), HasSubstr("Received: "));
