@@ -7,7 +7,6 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/setup.sh
 
-readonly PORT=7373
 readonly HOME_FOLDER=$PWD/build/home
 readonly SCREENSHOT=$PWD/build/screenshot.png
 readonly SECONDS_ON_VIRTUAL_DISPLAY=30
@@ -21,7 +20,7 @@ case "${1:-}" in
     ;;
 esac
 
-# The last one started goes first, so that the client can say goodbye to the node.
+# The last one started goes first: the client before its display.
 stop_all() {
   local i
   for ((i = ${#started[@]} - 1; i >= 0; i--)); do
@@ -60,21 +59,8 @@ prepare_home() {
   [ -e "$HOME_FOLDER/molva.cfg" ] && return
   printf '%s\r\n' '"My Call","K1TST-2"' '"My Name","ANNA"' '"My QTH","Ann Arbor, MI"' \
     '"My Grid","EN82DG"' '"Gmt Offset","Ok"' '"AutoStart",-1' '"AutoReconnect",-1' \
-    '"SelectedNode","N0DE-1"' '"SelectedNodesAddress","127.0.0.1"' "\"PrimaryPort\",\"$PORT\"" \
+    '"SelectedNode","N0DE-1"' '"SelectedNodesAddress","127.0.0.1"' '"PrimaryPort","7373"' \
     >"$HOME_FOLDER/molva.cfg"
-}
-
-node_listens() { (exec 3<>"/dev/tcp/127.0.0.1/$PORT"); }
-
-start_node() {
-  if node_listens 2>/dev/null; then
-    echo "Something listens on port $PORT already: the client will connect to that."
-    return
-  fi
-  build/release/tools/practice_node/molva-practice-node --port "$PORT" --rate 2 \
-    >build/practice-node.log 2>&1 &
-  started+=($!)
-  wait_until 10 "the practice node" node_listens
 }
 
 start_virtual_display() {
@@ -113,7 +99,6 @@ need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}"
 if [ "${1:-}" = --setup ]; then exit 0; fi
 build
 prepare_home
-start_node
 if [ -n "${DISPLAY:-}" ]; then
   MOLVA_HOME=$HOME_FOLDER build/release/src/molva-desk
 else

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QIcon>
 #include <cstdlib>
 #include <random>
 
@@ -27,6 +28,8 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("molva-desk"));
   QApplication::setApplicationDisplayName(QString());
   QApplication::setApplicationVersion(QString::fromLatin1(core::kProgramVersion));
+  QApplication::setDesktopFileName(QStringLiteral("molva-desk"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/molva-desk.svg")));
   platform::qt::QtPlatform qt;
   const platform::Platform platform = qt.Platform();
   program::Program program(platform, program::ProgramFolder(Variable),

@@ -1,11 +1,13 @@
-# Sourced by run.sh and test.sh: installs what is missing, without asking anything.
+# Sourced by run.sh, test.sh and package.sh: installs what is missing, without asking anything.
 
 # What the program is built with.
 BUILD_PACKAGES=(ccache cmake g++ lld ninja-build qt6-base-dev qt6-serialport-dev)
 # What it runs with, and what shows it where there is no display.
-RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono hamradio-files imagemagick xvfb)
+RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono hamradio-files imagemagick libqt6svg6 xvfb)
 # What its tests need besides.
-TEST_PACKAGES=(dbus-daemon googletest libgmock-dev libgtest-dev)
+TEST_PACKAGES=(appstream dbus-daemon desktop-file-utils googletest libgmock-dev libgtest-dev)
+# What the package is made with.
+PACKAGING_PACKAGES=(dpkg-dev file)
 # What the benchmarks are built with.
 BENCH_PACKAGES=(libbenchmark-dev)
 # What the second compiler and the lint need.

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/http.h"
 #include "platform/name_lookup.h"
+#include "platform/programs.h"
 #include "platform/scheduler.h"
 #include "platform/serial.h"
 #include "platform/tcp.h"
@@ -23,6 +24,7 @@ struct Platform {
   Dialogs& dialogs;
   Browser& browser;
   Http& http;
+  Programs& programs;
 };
 
 }  // namespace platform

@@ -61,6 +61,8 @@ class SerialPort {
   std::string Input();
   // Writes after everything told before, `gap` later than the piece before it. Lost if closed.
   void Output(std::string_view bytes, Milliseconds gap = Milliseconds{0});
+  // Nothing waits to be written.
+  bool AllWritten() const { return waiting_.empty(); }
 
   std::function<void(const std::string& why)> lost;
 

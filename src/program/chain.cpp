@@ -24,16 +24,22 @@ struct Row {
 bool Pass(Program&, Line) { return false; }
 
 constexpr std::array<Row, 65> kRows = {{
-    {1, "TncDisconnectNotice", Pass, Stop::Tail},
+    {1, "TncDisconnectNotice",
+     [](Program& p, Line l) { return p.session.tncNotices.TncDisconnectNotice(l); }, Stop::Tail},
     {2, "QRX", [](Program& p, Line l) { return p.session.connection.QRX(l); }, Stop::Tail},
-    {3, "TncConnectedNotice", Pass, Stop::Tail},
+    {3, "TncConnectedNotice",
+     [](Program& p, Line l) { return p.session.tncNotices.TncConnectedNotice(l); }, Stop::Tail},
     {4, "EmptySlot", Pass, Stop::Never},
-    {5, "frmTNC.Netrom", Pass, Stop::Tail},
+    {5, "frmTNC.Netrom", [](Program& p, Line l) { return p.session.tncScript.Netrom(l); }, Stop::Tail},
     {6, "ConnectToNode", [](Program& p, Line l) { return p.session.connection.ConnectToNode(l); },
      Stop::Tail},
     {7, "dx", [](Program& p, Line l) { return p.spotParts.lines.dx(l); }, Stop::Quiet},
     {8, "ar17", [](Program& p, Line l) { return p.spotParts.lines.ar17(l); }, Stop::Quiet},
-    {9, "RunawayNotice", Pass, Stop::Never},
+    {9, "RunawayNotice",
+     [](Program& p, Line l) {
+       p.session.localNetwork.RunawayNotice(l);
+       return false;
+     }, Stop::Never},
     {10, "ZV11CarrotCounter",
      [](Program& p, Line l) { return p.spotParts.lines.ZV11CarrotCounter(l); }, Stop::Quiet},
     {11, "AnnouncementLine", Pass, Stop::Tail},
@@ -61,7 +67,7 @@ constexpr std::array<Row, 65> kRows = {{
     {22, "WeatherList", Pass, Stop::Tail},
     {23, "ArFirstPrompt",
      [](Program& p, Line l) { return p.session.loginSequence.ArFirstPrompt(l); }, Stop::Tail},
-    {24, "ShTNC", Pass, Stop::Tail},
+    {24, "ShTNC", [](Program& p, Line l) { return p.session.tncNotices.ShTNC(l); }, Stop::Tail},
     {25, "DOS", Pass, Stop::Tail},
     {26, "ExtendedMailOrUserLine", Pass, Stop::Tail},
     {27, "Users", Pass, Stop::Tail},
@@ -87,8 +93,9 @@ constexpr std::array<Row, 65> kRows = {{
     {46, "frmMailTx.SendMailBody", Pass, Stop::Tail},
     {47, "frmMailTx.MailSent", Pass, Stop::Tail},
     {48, "MailNotice", Pass, Stop::Tail},
-    {49, "ReconnectedNotice", Pass, Stop::Tail},
-    {50, "RetryNotice", Pass, Stop::Tail},
+    {49, "ReconnectedNotice",
+     [](Program& p, Line l) { return p.session.tncNotices.ReconnectedNotice(l); }, Stop::Tail},
+    {50, "RetryNotice", [](Program& p, Line l) { return p.session.tncNotices.RetryNotice(l); }, Stop::Tail},
     {51, "StationInfo", Pass, Stop::Tail},
     {52, "YourInfo", [](Program& p, Line l) { return p.session.profileHints.YourInfo(l); },
      Stop::Tail},

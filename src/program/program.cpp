@@ -2,6 +2,7 @@
 
 #include "core/password_file.h"
 #include "core/version.h"
+#include "program/clock_condition.h"
 #include "program/save_condition.h"
 
 namespace program {
@@ -17,6 +18,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       needs_(std::move(needs)),
       calendar(platform.clock),
       errorLog(platform.files, platform.dialogs, calendar, folder_),
+      portNames(platform.files, Path("ports.cfg")),
+      practiceNode_(platform_, settings),
       chain_(*this),
       ties_(*this),
       session(platform_, calendar, settings,
@@ -24,7 +27,6 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .loggers = standIns,
                .requests = ties_,
                .clockWork = ties_,
-               .tncScript = standIns,
                .defaultNode = [this] { return nodeDirectory.Default(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .lookUpAddress =
@@ -45,7 +47,15 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                      spotParts.Disconnected();
                    },
                .onFault = errorLog.FaultHandler(),
-               .seed = needs_.seed}),
+               .seed = needs_.seed,
+               .wakeNode = [this] { return practiceNode_.Wake(); },
+               .portPath = [this](int number) { return portNames.Path(number); },
+               .askTncScript = [this] { tncForm.Show(); },
+               .localNetworkOff = [this] { commForm.NetworkStopped(); }}),
+      commForm(
+          platform_, settings, portNames, session,
+          {.takeMode = [this] { TakeMode(); }, .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+      tncForm(settings, session, NeedsOfTncForm()),
       nodeDirectory(platform_.files, endpoints, folder_),
       nodeUpdate(
           platform_.scheduler, platform_.http, platform_.files, nodeDirectory, endpoints, settings,
@@ -72,8 +82,13 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       dxTab(views, spotParts.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
+      rawPane(session.commandLine.cmdRawplus[session::CommandLine::kRestoreRaw],
+              session.commandLine.cmdRawplus[session::CommandLine::kMaximiseRaw]),
       startOptions(settings, NeedsOfStartOptions()),
       linkCondition_(conditions, session),
+      clockWatched_(spotParts.lines.clockCheck.HourOut.Observe(
+          [this](bool hourOut) { ShowClock(conditions, hourOut); })),
+      portCondition_(conditions, session, [this] { commForm.Show(); }),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),
@@ -102,6 +117,12 @@ StartOptions::Needs Program::NeedsOfStartOptions() {
                 state.WantMissedSpots = state.FirstConnect = wanted;
                 spotParts.lines.list.ShDxDone = !wanted;
               }};
+}
+
+session::TncForm::Needs Program::NeedsOfTncForm() {
+  session::TncForm::Needs needs{.saved = [this] { TakeScript(); }, .openManual = {}};
+  if (needs_.openManual) needs.openManual = [this] { needs_.openManual("tnc"); };
+  return needs;
 }
 
 spots::SpotParts::Needs Program::NeedsOfSpots() {
@@ -221,6 +242,23 @@ void Program::CaptionSetup() {
       (settings.MyCall.empty() ? "" : " @ " + settings.MyCall) +
       (node.empty() ? "" : "  (" + node + (word.empty() ? "" : " ") + std::string(word) + ")"));
   views.FollowNode();
+}
+
+void Program::TakeMode() {
+  session::SessionState& state = session.state;
+  state.TncMode = settings.TncMode;
+  state.ConnectedNodeCall = settings.TncMode ? settings.TncCluster : "";
+  state.txtNode.Caption.Set(state.ConnectedNodeCall);
+  session.tncLink.lblTnc.Visible.Set(settings.TncMode);
+  session.keepAlivePanel.Load();
+  tncForm.TakeMode();
+  CaptionSetup();
+}
+
+// The cluster that the next link goes to.
+void Program::TakeScript() {
+  if (settings.TncMode && session.state.Phase.Get() == session::LinkPhase::Disconnected) TakeMode();
+  DelayedWriteCfg();
 }
 
 // The second of two linked copies is fed through the first, in the extended line forms.

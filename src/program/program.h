@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "core/configuration.h"
 #include "core/controls.h"
@@ -21,14 +22,20 @@
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
+#include "program/port_condition.h"
+#include "program/practice_node.h"
+#include "program/raw_pane.h"
 #include "program/stand_ins.h"
 #include "program/start_options.h"
 #include "program/text_sizes.h"
 #include "program/ties.h"
 #include "program/user_info.h"
 #include "program/views.h"
+#include "session/comm_form.h"
 #include "session/node_form.h"
+#include "session/port_names.h"
 #include "session/session.h"
+#include "session/tnc_form.h"
 #include "spots/spot_parts.h"
 
 namespace program {
@@ -52,6 +59,8 @@ class Program {
   struct Needs {
     std::function<void()> quit;  // the shutdown is complete
     std::uint32_t seed = 0;      // of everything that is picked at random
+    // Shows a page of the manual; empty: there is none.
+    std::function<void(std::string_view page)> openManual = {};
   };
 
   // The country file that the system has, from its package of files for radio amateurs.
@@ -91,16 +100,20 @@ class Program {
   core::ErrorLog errorLog;
   core::Settings settings;
   core::Endpoints endpoints;
+  session::PortNames portNames;
   StandIns standIns;
   Conditions conditions;
 
  private:
+  PracticeNode practiceNode_;
   LineChain chain_;
   Ties ties_;
   std::unique_ptr<core::Configuration> configuration_;  // once the folder is known
 
  public:
   session::Session session;
+  session::CommForm commForm;
+  session::TncForm tncForm;
   session::NodeDirectory nodeDirectory;
   session::NodeUpdate nodeUpdate;  // fraUpdate
   session::NodeForm nodeForm;      // frmNode
@@ -114,6 +127,7 @@ class Program {
   DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
+  RawPane rawPane;
   StartOptions startOptions;
 
  private:
@@ -142,6 +156,7 @@ class Program {
   void Quit();
 
   StartOptions::Needs NeedsOfStartOptions();
+  session::TncForm::Needs NeedsOfTncForm();
   spots::SpotParts::Needs NeedsOfSpots();
   void TellOfMembers(spots::Membership::List list);
   void ChooseLinking();
@@ -149,7 +164,8 @@ class Program {
   spots::NodeFacts NodeFacts() const;
   spots::SlotSwitches SlotSwitches() const;
   void CaptionSetup();
-  void ShowTncCluster();
+  void TakeMode();
+  void TakeScript();
   std::string LinkWord() const;
   void ApplySettings();
   void WriteCfg();
@@ -161,6 +177,8 @@ class Program {
   bool folderIsNew_ = false;
   bool configurationIsNew_ = false;
   LinkCondition linkCondition_;
+  platform::Registration clockWatched_;
+  PortCondition portCondition_;
   platform::Registration autoReconnectTicked_;
   platform::Registration linkingTicked_;
   platform::Registration macrosFollowing_;

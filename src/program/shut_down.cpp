@@ -40,7 +40,7 @@ platform::Task<> Program::ShutDown(Close how) {
     co_await Delay(4 * core::kPause);
   }
   if (session.state.TncMode) {
-    standIns.DisconnectTNC();
+    session.tncScript.DisconnectTNC();
   } else if (session.WinsockOut->State() == platform::SocketState::Connected) {
     session.outgoing.Send("bye");
     co_await Delay(6 * core::kPause);

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "session/local_feed.h"
-#include "session/tnc_retry.h"
 #include "spots/local_reject.h"
 
 namespace program {
@@ -19,10 +18,7 @@ class MailSender {
 };
 
 // Takes the place of what this version doesn't have yet, and counts what it was asked for.
-class StandIns : public session::LoggerServer,
-                 public session::TncScript,
-                 public spots::CountryFilter,
-                 public MailSender {
+class StandIns : public session::LoggerServer, public spots::CountryFilter, public MailSender {
  public:
   std::map<std::string, int> calls;
   std::set<int> takenPorts;  // on which nothing can listen
@@ -45,8 +41,6 @@ class StandIns : public session::LoggerServer,
   void HourlyWork() { ++calls["HourlyWork"]; }
   void Sun() { ++calls["Sun"]; }
   void DayChange() { ++calls["DayChange"]; }
-  void Connect() override { ++calls["Connect"]; }
-  void DisconnectTNC() override { ++calls["DisconnectTNC"]; }
 };
 
 }  // namespace program

@@ -149,11 +149,8 @@ platform::Task<> Program::PrepareSession() {
   session.connection.AutoReconnect.Value.Set(settings.AutoReconnect);
   session.state.UserDisconnected = true;
   session.state.WantMissedSpots = session.state.FirstConnect = settings.GetMissedOnes;
-  session.state.TncMode = settings.TncMode;
-  session.tncLink.lblTnc.Visible.Set(settings.TncMode);
-  if (settings.TncMode) ShowTncCluster();
   session.nodeAddress.EnsureNode();
-  session.keepAlivePanel.Load();
+  TakeMode();
   session.timers.SetInterval(TimerId::Reconnect, RetryInterval(needs_.seed));
   form.Set({.left = settings.FormLeft,
             .top = settings.FormTop,
@@ -181,11 +178,6 @@ platform::Task<> Program::EndLoading() {
 platform::Task<> Program::BeginSpotLog() {
   spotParts.BeginLog();
   co_return;
-}
-
-void Program::ShowTncCluster() {
-  session.state.txtNode.Caption.Set(settings.TncCluster);
-  session.state.ConnectedNodeCall = settings.TncCluster;
 }
 
 // None of these forms holds anything up.

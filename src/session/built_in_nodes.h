@@ -11,10 +11,13 @@ struct BuiltInNode {
   std::string_view port;
 };
 
+// Comes with the program, so that there is always one to talk to.
+inline constexpr BuiltInNode kPracticeNode = {"N0DE-1", "127.0.0.1", "7373"};
+
 // The nodes that every directory begins with. The first whose host is known is the default one.
 inline constexpr std::array<BuiltInNode, 13> kBuiltInNodes = {{
     {"MOLVA-1", "", "23"},
-    {"N0DE-1", "127.0.0.1", "7373"},  // the practice node, which comes with the program
+    kPracticeNode,
     {"W3LPL-1", "dxc.w3lpl.net", "7373"},
     {"K1TTT", "k1ttt.net", "7373"},
     {"NC7J", "dxc.nc7j.com", "7373"},

@@ -28,12 +28,14 @@ class Clockwork {
   int DirTicks = 0;           // seconds since the directory was asked for
   int VersionPollMinutes = 0;
 
+  // Asks for the configuration of each known node.
+  void AskConfig();
+
  private:
   void Second();
   void Minute();
   void PollDirectory();
   void PollVersion();
-  void AskConfig();
 
   Timers& timers_;
   const core::Calendar& calendar_;

@@ -27,8 +27,8 @@ void CommandLine::ShowHistory() {
 
 void CommandLine::Enter() {
   const std::string line = txtCmdLine.Text.Get();
-  cmdRawplus[3].Enabled.Set(true);
-  cmdRawplus[7].Enabled.Set(true);
+  cmdRawplus[kRestoreRaw].Enabled.Set(true);
+  cmdRawplus[kMaximiseRaw].Enabled.Set(true);
   Put(line);
   if (!line.empty() && HistoryPos == 0) CommandHistory.push_front(line);
   HistoryPos = 0;

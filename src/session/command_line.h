@@ -26,6 +26,9 @@ class CommandLine {
   core::TextBox txtCmdLine;
   // The buttons beside the text pages. Each command enables [3] and [7].
   std::array<core::Button, 13> cmdRawplus;
+  // Those of the raw view itself.
+  static constexpr std::size_t kRestoreRaw = 3;
+  static constexpr std::size_t kMaximiseRaw = 7;
 
   // The Up and Down keys: the line typed before the one on show, and the one after it. They stop at
   // the ends.

@@ -82,7 +82,8 @@ platform::Task<> Connection::ConnectNode() {
   timers_.Restart(TimerId::ConnectionTimeout);
   Show(LinkPhase::Trying);
   co_await Delay(2 * core::kPause);
-  if (!state_.UserDisconnected && !state_.ConnectFailed) OpenSocket();
+  if (MayOpen()) co_await needs_.wakeNode();
+  if (MayOpen()) OpenSocket();
   while (!state_.SocketConnected && !state_.ConnectFailed && !state_.UserDisconnected) {
     ShowState();
     co_await Delay(kPoll);
@@ -272,6 +273,34 @@ void Connection::GiveUp(std::string why) {
   else
     ForceClose();
   timers_.Enable(TimerId::Reconnect);
+}
+
+void Connection::BeginOverTnc() {
+  state_.ConnectedNodeCall = settings_.TncCluster;
+  ConnectedAt = scheduler_.Now();
+  intake_.ClearLine();
+  needs_.onNodeKnown();
+  needs_.onConnected();
+}
+
+void Connection::GoOnOverTnc() {
+  timers_.Disable(TimerId::Reconnect);
+  state_.ConnectFailed = false;
+  state_.LoginMsgActive = true;
+  cmdConnect.Enabled.Set(false);
+  cmdDisconnect.Enabled.Set(true);
+  Show(LinkPhase::Trying);
+}
+
+void Connection::LinkedOverTnc(bool byAnotherNode) {
+  Show(LinkPhase::Connected);
+  // The node in between has told the cluster whose link it is: no prompt asks for the call.
+  if (byAnotherNode) LoggedInSetup();
+}
+
+void Connection::EndedOverTnc(std::string why) {
+  if (!why.empty() && !state_.UserDisconnected) WhyEnded = std::move(why);
+  Disconnected();
 }
 
 void Connection::LoggedInSetup() {

@@ -18,6 +18,7 @@
 #include "session/session_state.h"
 #include "session/timers.h"
 #include "session/tnc_retry.h"
+#include "session/tnc_script.h"
 
 namespace session {
 
@@ -26,10 +27,11 @@ class Connection {
  public:
   // What the connection asks of the program around it.
   struct Needs {
-    std::function<void()> askUserInfo;      // the call is missing
-    std::function<void()> delayedWriteCfg;  // a setting has changed
-    std::function<void()> lookUpAddress;    // of MOLVA-1, which can't be reached
-    std::function<void()> onConnected;      // the link is up, nothing has been read
+    std::function<void()> askUserInfo;           // the call is missing
+    std::function<void()> delayedWriteCfg;       // a setting has changed
+    std::function<void()> lookUpAddress;         // of MOLVA-1, which can't be reached
+    std::function<platform::Task<>()> wakeNode;  // what is about to be called, if it needs that
+    std::function<void()> onConnected;           // the link is up, nothing has been read
     std::function<void()> onLoggedIn;
     std::function<void()> onNodeKnown;  // the node has said its call
     std::function<void()> onEnding;     // first of all, when a session ends
@@ -78,12 +80,20 @@ class Connection {
   // The same for a link that saw no login.
   void GiveUpLogin();
 
+  // An attempt over the TNC: it begins, it goes on, and its script has come to its end.
+  void BeginOverTnc();
+  void GoOnOverTnc();
+  void LinkedOverTnc(bool byAnotherNode);
+  // The session over the TNC has ended; why, unless that is known already.
+  void EndedOverTnc(std::string why);
+
   // Line handlers; true claims the line.
   bool QRX(std::string_view line);
   bool ConnectToNode(std::string_view line);
 
  private:
   platform::Task<> ConnectNode();
+  bool MayOpen() const { return !state_.UserDisconnected && !state_.ConnectFailed; }
   void OpenSocket();
   void ShowState();
   void ShowFailure();

@@ -24,9 +24,7 @@ LinkButtons::LinkButtons(platform::Scheduler& scheduler, core::Settings& setting
       disconnectPressed_(connection.cmdDisconnect.Click.Add([this] {
         if (!Disconnecting) tasks_.Start("Disconnect", PressDisconnect());
       })),
-      tasks_(scheduler, needs_.onFault) {
-  timers_.SetDuty(TimerId::ConnectScript, [this] { timers_.Disable(TimerId::ConnectScript); });
-}
+      tasks_(scheduler, needs_.onFault) {}
 
 void LinkButtons::PressConnect() {
   loginWatch_.LoginPatience = 2;

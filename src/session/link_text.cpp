@@ -28,12 +28,14 @@ std::string SpanText(seconds span) {
 
 LinkText::LinkText(platform::Scheduler& scheduler, const core::Calendar& calendar,
                    const core::Settings& settings, const SessionState& session,
-                   const Connection& connection, const Intake& intake, const Timers& timers)
+                   const Connection& connection, const TncRetry& tncRetry, const Intake& intake,
+                   const Timers& timers)
     : scheduler_(scheduler),
       calendar_(calendar),
       settings_(settings),
       session_(session),
       connection_(connection),
+      tncRetry_(tncRetry),
       intake_(intake),
       timers_(timers) {
   lblclock[1].ToolTip.Set("UTC");
@@ -41,7 +43,11 @@ LinkText::LinkText(platform::Scheduler& scheduler, const core::Calendar& calenda
 
 void LinkText::Tick() {
   const bool named = session_.LoggedIn && !session_.ConnectedNodeCall.empty();
-  node.Caption.Set(named ? session_.ConnectedNodeCall : settings_.NodeCall);
+  const std::string& cluster = settings_.TncCluster;
+  const std::string wanted = !session_.TncMode ? settings_.NodeCall
+                             : cluster.empty() ? "TNC"  // until it has been named
+                                               : cluster;
+  node.Caption.Set(named ? session_.ConnectedNodeCall : wanted);
   software.Caption.Set(std::string(DialectOf(session_.Kind).software));
   state.Caption.Set(StateNow());
   age.Caption.Set(AgeNow());
@@ -57,15 +63,24 @@ std::string LinkText::StateNow() const {
   const std::string why = connection_.WhyEnded.empty() ? "" : "  ·  " + connection_.WhyEnded;
   const bool retries = connection_.AutoReconnect.Value.Get() && !session_.UserDisconnected;
   if (retries && timers_.Enabled(TimerId::Reconnect)) {
-    const auto left = std::chrono::ceil<seconds>(timers_.Remaining(TimerId::Reconnect));
+    const auto left = std::chrono::ceil<seconds>(UntilRetry());
     return "next try in " + SpanText(left) + why;
   }
   if (session_.Phase.Get() == LinkPhase::Disconnected) return "not connected" + why;
-  return session_.SocketConnected ? "waiting for the login" : "connecting";
+  return LinkStands() ? "waiting for the login" : "connecting";
+}
+
+bool LinkText::LinkStands() const {
+  return session_.SocketConnected ||
+         (session_.TncMode && session_.Phase.Get() == LinkPhase::Connected);
+}
+
+platform::Milliseconds LinkText::UntilRetry() const {
+  return session_.TncMode ? tncRetry_.Wait(timers_) : timers_.Remaining(TimerId::Reconnect);
 }
 
 std::string LinkText::AgeNow() const {
-  if (!session_.SocketConnected || intake_.LastLineAt < connection_.ConnectedAt) return {};
+  if (!LinkStands() || intake_.LastLineAt < connection_.ConnectedAt) return {};
   const auto silent = duration_cast<seconds>(scheduler_.Now() - intake_.LastLineAt);
   return "last line " + SpanText(silent) + " ago";
 }

@@ -15,7 +15,8 @@ class LinkText {
  public:
   LinkText(platform::Scheduler& scheduler, const core::Calendar& calendar,
            const core::Settings& settings, const SessionState& session,
-           const Connection& connection, const Intake& intake, const Timers& timers);
+           const Connection& connection, const TncRetry& tncRetry, const Intake& intake,
+           const Timers& timers);
 
   core::Label node;                     // the call of the node
   core::Label software;                 // of the node, empty while it is unknown
@@ -29,12 +30,15 @@ class LinkText {
  private:
   std::string StateNow() const;
   std::string AgeNow() const;
+  bool LinkStands() const;
+  platform::Milliseconds UntilRetry() const;
 
   platform::Scheduler& scheduler_;
   const core::Calendar& calendar_;
   const core::Settings& settings_;
   const SessionState& session_;
   const Connection& connection_;
+  const TncRetry& tncRetry_;
   const Intake& intake_;
   const Timers& timers_;
 };

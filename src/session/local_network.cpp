@@ -3,19 +3,24 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/text.h"
+
 namespace session {
 namespace {
 
 // What a command grows beyond this is lost.
 constexpr std::size_t kLongestCommand = std::size_t{64} * 1024;
 
+constexpr std::string_view kRunaway = "Runaway problem!. Please contact MOLVA via email.";
+
 }  // namespace
 
-LocalNetwork::LocalNetwork(platform::SerialPorts& ports, const core::Settings& settings,
-                           Timers& timers, Needs needs)
+LocalNetwork::LocalNetwork(platform::SerialPorts& ports, core::Settings& settings, Timers& timers,
+                           Needs needs)
     : MSComm2(ports.MakePort()), settings_(settings), timers_(timers), needs_(std::move(needs)) {
   MSComm2->lost = [this](const std::string& why) {
     NetworkLine.clear();
+    Trouble.Set(why);
     needs_.onFault("MSComm2", why);
   };
 }
@@ -29,12 +34,19 @@ bool LocalNetwork::OpenComm2() {
                        .flow = platform::FlowControl::None};
   MSComm2->CommPort = needs_.portPath(settings_.NetworkPort);
   const std::string why = MSComm2->Open();
+  Trouble.Set(why);
   if (!why.empty()) {
     needs_.onFault("OpenComm2", why);
     return false;
   }
   timers_.Enable(TimerId::Tnc);
   return true;
+}
+
+void LocalNetwork::CloseComm2() {
+  MSComm2->Close();
+  NetworkLine.clear();
+  Trouble.Set({});
 }
 
 void LocalNetwork::ReadNetwork() {
@@ -50,6 +62,15 @@ void LocalNetwork::ReadNetwork() {
 void LocalNetwork::TakeLine() {
   const std::string line = std::exchange(NetworkLine, {});
   if (!needs_.claimedHere(line)) needs_.sendAsIs(line);
+}
+
+void LocalNetwork::RunawayNotice(std::string_view line) {
+  const bool complaint = core::StartsWith(line, "Runa") && core::InStr(line, kRunaway) > 0;
+  if (!settings_.LocalNetwork || !complaint) return;
+  settings_.LocalNetwork = false;
+  settings_.NetworkPort = 0;
+  CloseComm2();
+  needs_.switchedOff();
 }
 
 void LocalNetwork::SendRS232(std::string_view text) { MSComm2->Output(std::string(text) + "\r\n"); }

@@ -21,11 +21,17 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                .intakeHeld = [this] { return intake.Held(); },
                .received = [this](std::string_view bytes) { intake.Receive(bytes); },
                .showRaw = [this](std::string_view line) { outgoing.updateText2(line); },
-               .onFault = needs.onFault}),
+               .onFault = needs.onFault,
+               .lost = [this] { tncScript.PortLost(); }}),
       localNetwork(platform.serialPorts, settings, timers,
                    {.portPath = needs.portPath,
                     .claimedHere = needs.localCommand,
                     .sendAsIs = [this](std::string_view line) { outgoing.SendAsIs(line); },
+                    .switchedOff =
+                        [off = needs.localNetworkOff, write = needs.delayedWriteCfg] {
+                          off();
+                          write();
+                        },
                     .onFault = needs.onFault}),
       localFeed(settings, state, needs.loggers,
                 {.sendRS232 = [this](std::string_view line) { localNetwork.SendRS232(line); },
@@ -49,13 +55,21 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                 .closeMessage = needs.closeMessage,
                 .seed = needs.seed}),
       tncRetry(state, technical),
+      tncScript(settings, state, outgoing, tncLink, timers,
+                {.beginning = [this] { connection.BeginOverTnc(); },
+                 .stepBegins = [this] { connection.GoOnOverTnc(); },
+                 .linked = [this] { connection.LinkedOverTnc(tncLink.BpqLink); },
+                 .drop = [this] { intake.Drop(); },
+                 .ended = [this](std::string why) { connection.EndedOverTnc(std::move(why)); },
+                 .noScript = needs.askTncScript}),
       loginWatch(settings, state, *WinsockOut, outgoing, intake, timers,
                  {.giveUp = [this] { connection.GiveUpLogin(); }}),
       connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
-                 nodeAddress, loginWatch, duelling, tncRetry, needs.tncScript, timers,
+                 nodeAddress, loginWatch, duelling, tncRetry, tncScript, timers,
                  {.askUserInfo = needs.askUserInfo,
                   .delayedWriteCfg = needs.delayedWriteCfg,
                   .lookUpAddress = needs.lookUpAddress,
+                  .wakeNode = needs.wakeNode,
                   .onConnected = [this] { loginText.rtbLoginMsg.Clear(); },
                   .onLoggedIn = [this] { LoggedIn(); },
                   .onNodeKnown = needs.onNodeKnown,
@@ -85,11 +99,12 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                   commandLine.txtCmdLine.Text.Set({});
                   settled();
                 }}),
-      linkText(platform.scheduler, calendar, settings, state, connection, intake, timers),
+      linkText(platform.scheduler, calendar, settings, state, connection, tncRetry, intake, timers),
       clockwork(timers, calendar, state, outgoing,
                 {.work = needs.clockWork,
                  .requests = needs.requests,
                  .second = [this] { linkText.Tick(); }}),
+      tncNotices(state, connection, outgoing, intake, tncLink, tncScript, clockwork, settings),
       keepAlivePanel(keepAlive, settings,
                      {.autoReconnect = [this] { return connection.AutoReconnect.Value.Get(); },
                       .writeCfg = needs.writeCfg}),
@@ -116,6 +131,7 @@ Session::~Session() = default;
 
 void Session::LoggedIn() {
   commandLine.txtCmdLine.Text.Set({});
+  tncScript.LoggedIn();
   if (state.TncMode) tncLink.ShowSession(true);
   keepAlive.LoggedIn();
   ar17.LoggedIn();

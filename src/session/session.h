@@ -31,7 +31,9 @@
 #include "session/technical.h"
 #include "session/timers.h"
 #include "session/tnc_link.h"
+#include "session/tnc_notices.h"
 #include "session/tnc_retry.h"
+#include "session/tnc_script.h"
 
 namespace session {
 
@@ -44,7 +46,6 @@ class Session {
     LoggerServer& loggers;
     LoginRequests& requests;
     ClockWork& clockWork;
-    TncScript& tncScript;
     std::function<DefaultNode()> defaultNode;
     std::function<void()> askUserInfo;
     std::function<void()> lookUpAddress;  // of MOLVA-1
@@ -58,6 +59,8 @@ class Session {
     std::function<void()> onEnding;      // first of all, when a session ends
     platform::FaultHandler onFault;
     std::uint32_t seed = 0;  // of what is picked at random
+    // The chosen node is about to be called over the network; what this starts is waited for.
+    std::function<platform::Task<>()> wakeNode = []() -> platform::Task<> { co_return; };
     std::function<std::string(int number)> portPath = PortPath;
     // A command from the local network that is for this program alone.
     std::function<bool(std::string_view line)> localCommand = [](std::string_view) {
@@ -66,6 +69,8 @@ class Session {
     std::function<bool()> weatherInFront = [] { return false; };
     std::function<void()> beginFreshWeatherPage = [] {};
     std::function<void()> openChat = [] {};
+    std::function<void()> askTncScript = [] {};     // there is none to connect with
+    std::function<void()> localNetworkOff = [] {};  // its port is no longer a choice
   };
 
   Session(const platform::Platform& platform, const core::Calendar& calendar,
@@ -85,6 +90,7 @@ class Session {
   NodeAddress nodeAddress;
   Duelling duelling;
   TncRetry tncRetry;
+  TncScript tncScript;  // frmTNC
   LoginWatch loginWatch;
   Connection connection;
   LinkButtons linkButtons;
@@ -96,6 +102,7 @@ class Session {
   Ar17 ar17;
   LinkText linkText;
   Clockwork clockwork;
+  TncNotices tncNotices;
   KeepAlivePanel keepAlivePanel;
   Macros macros;
   LatencyMeter latency;

@@ -38,7 +38,11 @@ TncLink::TncLink(platform::SerialPorts& ports, const core::Settings& settings,
       state_(state),
       timers_(timers),
       needs_(std::move(needs)) {
-  MSComm1->lost = [this](const std::string& why) { needs_.onFault("MSComm1", why); };
+  MSComm1->lost = [this](const std::string& why) {
+    Trouble.Set(why);
+    needs_.onFault("MSComm1", why);
+    needs_.lost();
+  };
   lblTnc.Visible.Set(false);
   ShowSession(false);
 }
@@ -56,7 +60,8 @@ bool TncLink::OpenComm1() {
   MSComm1->Settings = PortSettings();
   MSComm1->CommPort = needs_.portPath(settings_.TncPort);
   const std::string why = MSComm1->Open();
-  const bool news = why != std::exchange(toldWhy_, why);
+  const bool news = why != Trouble.Get();
+  Trouble.Set(why);
   if (!why.empty()) {
     if (news) needs_.onFault("OpenComm1", why);
     return false;
@@ -66,11 +71,42 @@ bool TncLink::OpenComm1() {
   return true;
 }
 
+void TncLink::CloseComm1() {
+  MSComm1->Close();
+  Trouble.Set({});
+}
+
+std::string TncLink::WhyClosed() const {
+  const std::string path = needs_.portPath(settings_.TncPort);
+  if (path.empty()) return "no port is chosen for the TNC";
+  return "the TNC's port " + path + " does not open (" + Trouble.Get() + ")";
+}
+
+void TncLink::BeginLink() {
+  BpqLink = false;
+  EscLink = false;
+  ShowSession(false);
+}
+
 void TncLink::ShowSession(bool loggedIn) {
-  lblTnc.ForeColour.Set(!loggedIn ? core::kThemeColour : BpqLink ? core::kBlue : core::kGreen);
-  lblTnc.ToolTip.Set(!loggedIn ? "not logged in"
-                     : BpqLink ? "logged in by way of another node"
-                               : "logged in");
+  if (loggedIn)
+    ShowLit("logged in");
+  else
+    Light(core::kThemeColour, "not logged in");
+}
+
+void TncLink::ShowLinked() { ShowLit("linked"); }
+
+void TncLink::ShowLost() { Light(core::kRed, "the link has gone"); }
+
+void TncLink::ShowLit(std::string means) {
+  if (BpqLink) means += " by way of another node";
+  Light(BpqLink ? core::kBlue : core::kGreen, std::move(means));
+}
+
+void TncLink::Light(core::Colour colour, std::string means) {
+  lblTnc.ForeColour.Set(colour);
+  lblTnc.ToolTip.Set(std::move(means));
 }
 
 bool TncLink::TncSend(std::string_view text, std::string_view shown) {
@@ -111,6 +147,19 @@ void TncLink::WriteSlowly(std::string_view text) {
   platform::Milliseconds gap{0};
   for (const char byte : std::string(text) + "\r")
     MSComm1->Output({&byte, 1}, std::exchange(gap, core::kPause));
+}
+
+bool TncLink::SendCtrlC() {
+  if (!OpenComm1()) return false;
+  MSComm1->Output("\x03");
+  needs_.showRaw("   <- ^C");
+  return true;
+}
+
+bool TncLink::CallAndDisconnect() {
+  if (!BpqLink) return false;
+  const std::string_view text = EscLink ? "ESCD" : "!D";
+  return TncSend(text, text);
 }
 
 bool TncLink::SendAutobaud() {

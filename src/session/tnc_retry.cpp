@@ -18,6 +18,11 @@ void TncRetry::LinkLost() {
   }
 }
 
+platform::Milliseconds TncRetry::Wait(const Timers& timers) const {
+  return timers.Remaining(TimerId::Reconnect) +
+         ReconnectCountdown * timers.Interval(TimerId::Reconnect);
+}
+
 bool TncRetry::Interval() {
   if (ReconnectCountdown < 1) {
     technical_.lblTechnical[1].Caption.Set("Retrying");

@@ -2,16 +2,9 @@
 
 #include "session/session_state.h"
 #include "session/technical.h"
+#include "session/timers.h"
 
 namespace session {
-
-// The connect script of a session over a TNC, and its end.
-class TncScript {
- public:
-  virtual ~TncScript() = default;
-  virtual void Connect() = 0;
-  virtual void DisconnectTNC() = 0;
-};
 
 // Over the radio each failure makes the wait for the next try one interval longer: the channel is
 // not the node's alone.
@@ -25,6 +18,8 @@ class TncRetry {
 
   // The link has gone, and no try is awaited yet.
   void LinkLost();
+  // How long it is until the next try, of which the timer that counts has so much left.
+  platform::Milliseconds Wait(const Timers& timers) const;
   // An interval has passed. True if it is time for a try.
   bool Interval();
   // A login, or the user's own try: the waiting begins anew.

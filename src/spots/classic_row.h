@@ -17,7 +17,6 @@ namespace spots {
 // as the layout says. A spotter and a frequency that leave no room for each other, and a call of
 // more than 12 characters, shift what stands behind them. Wide comments do so too.
 
-inline constexpr int kTableWidth = kDefaultSpotWidth;
 inline constexpr std::size_t kCallWidth = 12;
 inline constexpr std::size_t kTimeWidth = 5;
 

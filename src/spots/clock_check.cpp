@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <utility>
 
 #include "core/text.h"
 #include "spots/clock_time.h"
@@ -22,13 +21,11 @@ int Distance(int minutes, int other) {
 
 }  // namespace
 
-ClockCheck::ClockCheck(core::Calendar& calendar, std::function<void()> readUtcOffset)
-    : calendar_(calendar), readUtcOffset_(std::move(readUtcOffset)) {}
-
 void ClockCheck::Check(const Spot& spot) {
-  if (!core::SameIgnoringCase(calendar_.GmtOffset, "Ok") || !IsClockTime(spot.SpotTime)) return;
+  if (!IsClockTime(spot.SpotTime)) return;
+  const bool automatic = core::SameIgnoringCase(calendar_.GmtOffset, "Ok");
   const int distance = Distance(MinutesOfDay(spot.SpotHHMM), MomentNow(calendar_).minutes);
-  if (distance >= kLeast && distance <= kMost) readUtcOffset_();
+  HourOut.Set(automatic && distance >= kLeast && distance <= kMost);
 }
 
 }  // namespace spots

@@ -30,6 +30,16 @@ platform::Message NotFoundMessage(Fault fault, const std::string& folder) {
           .kind = platform::Message::Kind::Critical};
 }
 
+platform::Message DamagedMessage(const std::string& folder) {
+  return {.title = "Molva Desk",
+          .text =
+              "The file cty.dat is damaged: it holds too few countries\n"
+              "Delete it, and the next start of this program puts a good one in its place.\n"
+              "Directory " +
+              folder,
+          .kind = platform::Message::Kind::Critical};
+}
+
 }  // namespace
 
 void ReadWLCty(platform::Files& files, platform::Dialogs& dialogs, const std::string& folder,
@@ -43,6 +53,7 @@ void ReadWLCty(platform::Files& files, platform::Dialogs& dialogs, const std::st
   }
   // Without a place on the disk for the new text the old one does as well at the next start.
   if (const auto completed = table.Read(content.bytes)) files.Replace(path, *completed);
+  if (table.CtyCount() < 0) dialogs.Tell(DamagedMessage(folder));
 }
 
 }  // namespace spots

@@ -40,8 +40,10 @@ class Duplicates {
   // Both outlive this.
   Duplicates(core::Calendar& calendar, const core::Settings& settings, Needs needs);
 
-  core::Label SkimmerDupes;     // "Skimmer Dupes =  12.50%", on show if the settings say so
-  bool SkimmerConfirm = false;  // Skimmers' calls must be heard twice: the node's user wants it so
+  core::Label SkimmerDupes;  // "Skimmer Dupes =  12.50%", on show if the settings say so
+  // Skimmers' calls must be heard twice. A wish that the user has told his node: for those to set
+  // who read it there.
+  bool SkimmerConfirm = false;
 
   // What the last look for a Skimmer's call has left: there was none within reach. It decides on
   // the spots of others too, until the next look.

@@ -17,6 +17,7 @@ constexpr int kRowsAhead = 30;  // the clocks of nodes are fast, by so many minu
 constexpr int kTakenAsNow = 20;
 constexpr int kGrowth = 20;
 constexpr int kWholeHour = 60;
+constexpr int kMostAtOnce = 5;    // minutes between two calls, unless the clock has been set
 constexpr double kSameSpot = 30;  // kHz
 
 bool IsLastHourOfDay(const SortMoment& now) { return now.minutes >= kLastHourOfDay; }
@@ -91,10 +92,11 @@ void DxSort::Refresh(const SortMoment& now) {
   FitRoom(now);
 }
 
-bool DxSort::EntersLastHourOfDay(const SortMoment& now) {
+bool DxSort::CountsAnew(const SortMoment& now) {
   const bool enters = dayFlag_ && IsLastHourOfDay(now);
   dayFlag_ = !IsLastHourOfDay(now);
-  return enters;
+  const int passed = std::abs(now.minutes - std::exchange(minute_, now.minutes));
+  return enters || std::min(passed, kDay - passed) > kMostAtOnce;
 }
 
 void DxSort::Grow(std::size_t calls) {

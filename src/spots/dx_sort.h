@@ -27,9 +27,9 @@ class DxSort {
   // Lets go of what has become too old, or too much.
   void Refresh(const SortMoment& now);
 
-  // Whether the hour before midnight has begun, so that the times count anew: once, for the first
-  // who asks. A rebuild is due.
-  bool EntersLastHourOfDay(const SortMoment& now);
+  // Whether the times count anew since it was asked last: the hour before midnight has begun, or
+  // the clock has been set, and what was let go of may be of the last hour again. A rebuild is due.
+  bool CountsAnew(const SortMoment& now);
 
   // As many items are kept; 0: any number.
   void SetRoom(std::size_t items) { room_ = items; }
@@ -64,6 +64,7 @@ class DxSort {
   int window_ = 60;
   std::size_t room_ = 0;
   bool dayFlag_ = false;  // it has been before the last hour of the day
+  int minute_ = 0;        // of the day, when CountsAnew was asked last
 };
 
 }  // namespace spots

@@ -20,6 +20,8 @@ bool Holds(std::string_view text, std::string_view what) {
   return text.find(what) != std::string_view::npos;
 }
 
+bool MayBeCall(std::string_view text) { return !text.empty() && text.size() <= kLongestMember; }
+
 void TakeColumn(std::string_view column, LotwFile& file) {
   if (Holds(column, "+)")) {
     ++file.skipped;
@@ -36,18 +38,19 @@ std::size_t SortedCount(std::string_view title) {
 }
 
 void TakeSorted(std::string_view text, EqslFile& file) {
-  const std::size_t count = SortedCount(file.title);
+  const std::size_t count = std::min(SortedCount(file.title), kMostMembers);
   while (!text.empty() && file.calls.size() < count) {
     const std::string_view call = core::TakeLine(text);
-    if (!call.empty()) file.calls.push_back(call);
+    if (MayBeCall(call)) file.calls.push_back(call);
   }
 }
 
 void TakeFetched(std::string_view text, EqslFile& file) {
-  while (!text.empty()) {
+  while (!text.empty() && file.calls.size() < kMostMembers) {
     const std::string_view call = core::LTrim(core::TakeLine(text));
-    if (!call.empty()) file.calls.push_back(call);
+    if (MayBeCall(call)) file.calls.push_back(call);
   }
+  file.whole = text.empty();
   std::sort(file.calls.begin(), file.calls.end());
 }
 
@@ -58,7 +61,7 @@ std::optional<LotwFile> ParseLotw(std::string_view text) {
   LotwFile file;
   std::size_t lines = 1;
   bool ended = false;
-  for (; !text.empty(); ++lines) {
+  for (; !text.empty() && file.calls.size() < kMostMembers; ++lines) {
     const std::string_view line = core::TakeLine(text);
     ended = ended || line.starts_with("&&");
     if (ended || line.starts_with("&")) continue;

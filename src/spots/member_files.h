@@ -9,6 +9,11 @@
 // The files of the members of LoTW and eQSL. Text in, calls out; the calls point into the text.
 namespace spots {
 
+// Several times what the lists hold; of a longer file the first calls count.
+inline constexpr std::size_t kMostMembers = 1'000'000;
+// What is longer is no call.
+inline constexpr std::size_t kLongestMember = 32;
+
 struct LotwFile {
   std::vector<std::string_view> calls;
   std::size_t skipped = 0;  // columns that are marked as no call to list
@@ -20,6 +25,7 @@ struct EqslFile {
   std::string_view title;
   std::vector<std::string_view> calls;
   bool sorted = false;  // was rewritten with its calls in order
+  bool whole = true;    // all its calls are here
 };
 // The text is in upper case. Nothing if it is not such a file. `calls` of a file as it was fetched
 // come sorted by their bytes.

@@ -139,7 +139,7 @@ void Membership::ReadeQSL() {
   eqslCalls_ = CallTable(file ? file->calls : std::vector<std::string_view>{});
   if (!file) return;
   showeqsl.Caption.Set(eqslCalls_.Empty() ? kEmpty[1] : Users("eQSL", eqslCalls_));
-  if (!file->sorted) files_.Replace(path, FormatEqsl(*file));
+  if (!file->sorted && file->whole) files_.Replace(path, FormatEqsl(*file));
 }
 
 void Membership::FindLotw(std::string_view call) {

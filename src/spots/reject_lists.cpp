@@ -11,6 +11,8 @@
 namespace spots {
 namespace {
 
+using Fault = platform::Files::Fault;
+
 // By Kind.
 constexpr std::array<std::string_view, RejectLists::kKinds> kKindWords = {"Dx", "Call", "Comment"};
 
@@ -34,14 +36,26 @@ void RejectLists::ReadReject() {
     Forget(kind);
   }
   const auto content = files_.Read(path_);
-  for (std::string_view rest = content.bytes; !rest.empty();) {
-    const core::RecordPair pair = core::SplitRecord(core::TakeLine(rest));
+  const bool unread = content.fault != Fault::None && content.fault != Fault::NotFound;
+  fileHoldsMore_ = unread || content.bytes.size() > kMostBytes;
+  Take(std::string_view(content.bytes).substr(0, kMostBytes));
+}
+
+void RejectLists::Take(std::string_view text) {
+  while (!text.empty()) {
+    const core::RecordPair pair = core::SplitRecord(core::TakeLine(text));
     const auto word = std::find(kKindWords.begin(), kKindWords.end(), pair.first);
-    if (word != kKindWords.end()) Add(static_cast<Kind>(word - kKindWords.begin()), pair.second);
+    if (word == kKindWords.end()) continue;
+    const auto kind = static_cast<Kind>(word - kKindWords.begin());
+    if (IsFull(kind))
+      fileHoldsMore_ = true;
+    else
+      Add(kind, pair.second);
   }
 }
 
-platform::Files::Fault RejectLists::WriteReject() const {
+Fault RejectLists::WriteReject() const {
+  if (fileHoldsMore_) return Fault::Other;
   std::string text;
   for (const Kind kind : {kDx, kCall, kComment})
     for (const std::string& entry : lstReject[kind].Items())
@@ -51,6 +65,7 @@ platform::Files::Fault RejectLists::WriteReject() const {
 
 bool RejectLists::Add(Kind kind, std::string_view text) {
   std::string entry = AsKept(text);
+  if (IsFull(kind)) return false;
   if (core::Trim(entry).empty() || entries_[kind].Exact(entry)) return false;
   Index(kind, entry);
   lstReject[kind].Add(std::move(entry));

@@ -24,6 +24,9 @@ class RejectLists {
  public:
   enum Kind : std::size_t { kDx, kCall, kComment };
   static constexpr std::size_t kKinds = 3;
+  // What a list holds, and what counts of a longer file.
+  static constexpr std::size_t kMostEntries = 10'000;
+  static constexpr std::size_t kMostBytes = std::size_t{4} << 20;
 
   // The first two outlive this. The switches are those of the settings.
   RejectLists(platform::Files& files, const core::Settings& settings, std::string path);
@@ -35,10 +38,11 @@ class RejectLists {
   // Takes the lists from the file. Without one, or with one that can't be read, they are empty.
   // What is blank or held already is skipped, and so are other kinds.
   void ReadReject();
+  // A file that could not be read, or not whole, is not written over until it is: that is a fault.
   platform::Files::Fault WriteReject() const;
 
   // Adds an entry at the end; its double quotes are left out and line ends become blanks, as in the
-  // file. False if it is blank or held already.
+  // file. False if it is blank or held already, or if the list is full.
   bool Add(Kind kind, std::string_view text);
   // There must be an entry at that place.
   void Remove(Kind kind, std::size_t place);
@@ -62,6 +66,8 @@ class RejectLists {
   RejectedCalls::Place FindCall(const Spot& spot) const;
   void Count(std::string reason);
   const std::string& Entry(Kind kind, std::size_t place) const;
+  void Take(std::string_view text);
+  bool IsFull(Kind kind) const { return lstReject[kind].Items().size() >= kMostEntries; }
   void Forget(Kind kind);
   void Index(Kind kind, const std::string& entry);
 
@@ -70,6 +76,7 @@ class RejectLists {
   std::string path_;
   std::array<RejectedCalls, kKinds> entries_;
   RejectedWords words_;  // the comments once more
+  bool fileHoldsMore_ = false;
   std::uint64_t rejected_ = 0;
 };
 

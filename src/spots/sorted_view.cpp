@@ -45,14 +45,14 @@ void SortedView::Run(const std::deque<TableRow>& rows, const SortMoment& now) {
 
 void SortedView::Refresh(const std::deque<TableRow>& rows, const SortMoment& now) {
   if (HasWork() || button_ != kLastHour) return Run(rows, now);
-  if (dxSort_.EntersLastHourOfDay(now))
+  if (dxSort_.CountsAnew(now))
     dxSort_.Rebuild(rows, now);
   else
     dxSort_.Refresh(now);
 }
 
 void SortedView::RunDxSort(const std::deque<TableRow>& rows, const SortMoment& now) {
-  const bool anew = dxSort_.EntersLastHourOfDay(now) || renew_;
+  const bool anew = dxSort_.CountsAnew(now) || renew_;
   if (anew)
     dxSort_.Rebuild(rows, now);
   else

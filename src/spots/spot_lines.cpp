@@ -19,12 +19,12 @@ constexpr std::size_t kShortRow = 74;
 
 SpotLines::SpotLines(platform::Scheduler& scheduler, core::Calendar& calendar, Spot& spot,
                      Needs needs)
-    : list(scheduler, ListNeeds()),
+    : clockCheck(calendar),
+      list(scheduler, ListNeeds()),
       calendar_(calendar),
       spot_(spot),
       needs_(std::move(needs)),
-      settling_(scheduler, needs_.sendEmptyLine),
-      clockCheck_(calendar, needs_.readUtcOffset) {}
+      settling_(scheduler, needs_.sendEmptyLine) {}
 
 SpotList::Needs SpotLines::ListNeeds() {
   return {
@@ -60,7 +60,7 @@ bool SpotLines::ar17(std::string_view line) {
       errors.CountAr17();
       break;
     case LineOutcome::Spot:
-      clockCheck_.Check(spot_);
+      clockCheck.Check(spot_);
       Display();
       break;
     case LineOutcome::None:
@@ -87,7 +87,7 @@ void SpotLines::ReadZV11(std::string_view line) {
   if (outcome != LineOutcome::Spot) return;
   if (spot_.ExpandedLine) {
     Link(line);
-    clockCheck_.Check(spot_);
+    if (!list.ShDxCollecting()) clockCheck.Check(spot_);  // a list may be of any age
   }
   if (keepsGrids) RecordGrids();
   Display();
@@ -130,6 +130,7 @@ void SpotLines::Disconnected() {
   Zv11Seen = false;
   list.Disconnected();
   errors.Forget();
+  clockCheck.Forget();
 }
 
 }  // namespace spots

@@ -32,7 +32,6 @@ class SpotLines {
     std::function<bool()> keepsGrids;  // there is a list of grids by calls
     // Takes the grid of a call.
     std::function<void(std::string_view grid, std::string_view call)> RecordGrid;
-    std::function<void()> readUtcOffset;
     std::function<void()> DisplayDx;  // the route of the spot that has been read
     std::function<bool(std::string_view line)> RcvdPrompt;
     std::function<bool()> directoryRuns;              // a list of mail is being read
@@ -44,6 +43,7 @@ class SpotLines {
   SpotLines(platform::Scheduler& scheduler, core::Calendar& calendar, Spot& spot, Needs needs);
 
   SpotErrors errors;
+  ClockCheck clockCheck;
   SpotList list;
 
   bool Zv11Seen = false;  // the session sends its spots in extended lines: plain ones say no more
@@ -70,7 +70,6 @@ class SpotLines {
   Spot& spot_;
   Needs needs_;
   Settling settling_;
-  ClockCheck clockCheck_;
   std::string linked_;  // being sent
 };
 

@@ -78,6 +78,7 @@ bool SpotList::CollectShDxLine(std::string_view line) {
   }
   if (!collecting_ && SaysNoRecords(line)) {
     Begin();
+    WaitForSilence();
     return true;
   }
   if (!collecting_ && SaysNotFound(line)) Prompted();
@@ -93,7 +94,7 @@ void SpotList::Store(std::string_view row) {
   if (count_ == 1) ShowTimes();
   if (count_ > kSlots) return;
   if (row.size() <= kLongestLine) ShDxBuffer_[kSlots - count_] = row;
-  WaitForSilence(promptedFirst_ ? kSilence : kLongSilence);
+  WaitForSilence();
 }
 
 bool SpotList::EndedTooSoon() const {
@@ -118,7 +119,7 @@ void SpotList::Prompted() {
     if (!OnlySilenceEnds()) End();
   } else if (!ShDxDone && !promptedFirst_) {
     promptedFirst_ = true;
-    WaitForSilence(kSilence);
+    WaitForSilence();
   }
 }
 
@@ -128,7 +129,8 @@ bool SpotList::OnlySilenceEnds() const {
   return promptedFirst_ && count_ > 0 && !ShDxBuffer_.back().starts_with(kZv11Start);
 }
 
-void SpotList::WaitForSilence(Milliseconds silence) {
+void SpotList::WaitForSilence() {
+  const Milliseconds silence = promptedFirst_ ? kSilence : kLongSilence;
   silence_ = scheduler_.After(silence, [this] { End(); });
 }
 

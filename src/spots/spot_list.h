@@ -15,7 +15,8 @@ namespace spots {
 // then go into the table, the oldest first.
 //
 // A list ends with the node's prompt. Some nodes prompt first: such a list ends when no row has
-// come for a second. One whose prompt nobody knows ends when none has come for ten.
+// come for a second. One whose prompt nobody knows ends when none has come for ten, also if the
+// node has only said that there are none.
 class SpotList {
  public:
   struct Needs {
@@ -62,7 +63,7 @@ class SpotList {
   void ShowTimes();
   void Prompted();
   bool OnlySilenceEnds() const;
-  void WaitForSilence(platform::Milliseconds silence);
+  void WaitForSilence();
   bool EndedTooSoon() const;
   void Reopen();
   void End();

@@ -7,10 +7,7 @@ SpotNumbers::SpotNumbers(const core::Settings& settings) : settings_(settings) {
   SetupSpotNrs();
 }
 
-void SpotNumbers::SetupSpotNrs() {
-  Shown.Set(settings_.ShowSpotNrs);
-  txtrtb2.Visible.Set(settings_.ShowSpotNrs);
-}
+void SpotNumbers::SetupSpotNrs() { txtrtb2.Visible.Set(settings_.ShowSpotNrs); }
 
 std::string FixNr(int n) {
   const std::string number = std::to_string(n) + " ";

@@ -8,14 +8,13 @@
 
 namespace spots {
 
-// The display of "Show Spot Nrs": how many rows the view holds, and the counts beside the bands.
+// The display of "Show Spot Nrs": how many rows the view holds.
 class SpotNumbers {
  public:
   // The settings outlive it.
   explicit SpotNumbers(const core::Settings& settings);
 
-  core::Property<bool> Shown{false};  // the counts beside the bands
-  core::Label txtrtb2;                // the rows in the view
+  core::Label txtrtb2;
 
   // The setting has been read or changed.
   void SetupSpotNrs();

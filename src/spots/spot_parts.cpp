@@ -63,7 +63,7 @@ SpotParts::SpotParts(const platform::Platform& platform, core::Calendar& calenda
   });
   reloading_ = reload.Reloading.Observe([this](bool reloading) { FollowReload(reloading); });
   counting_ = table.RtbDx.Observe([this](const DxPane::Change&) {
-    if (numbers.Shown.Get()) numbers.ShowRows(table.RtbDx.Rows().size());
+    if (numbers.txtrtb2.Visible.Get()) numbers.ShowRows(table.RtbDx.Rows().size());
   });
 }
 
@@ -104,7 +104,6 @@ SpotLines::Needs SpotParts::NeedsOfLines() {
               [this](std::string_view grid, std::string_view call) {
                 gridRecorder_.RecordGrid(grid, call, needs_.nodeFacts());
               },
-          .readUtcOffset = [] {},
           .DisplayDx = [this] { pipeline.DisplayDx(); },
           .RcvdPrompt = needs_.RcvdPrompt,
           .directoryRuns = [] { return false; },
@@ -130,8 +129,7 @@ SpotReload::Needs SpotParts::NeedsOfReload() {
                 std::swap(spot, each);
                 pipeline.DisplayDxPart2(SpotPipeline::Mark::None);
                 std::swap(spot, each);
-              },
-          .redraw = [] {}};
+              }};
 }
 
 SpotRequests::Needs SpotParts::NeedsOfRequests() {
@@ -143,10 +141,7 @@ SpotRequests::Needs SpotParts::NeedsOfRequests() {
               },
           .filter = [] { return MissedFilter{}; },
           .sendAsIs = needs_.sendAsIs,
-          .setSpotListBusy =
-              [this](bool busy) {
-                if (busy) lines.list.AskedForSpots();
-              },
+          .listRequested = [this] { lines.list.AskedForSpots(); },
           .setShDxDone = [this](bool done) { lines.list.ShDxDone = done; },
           .missedRequested = [this] { lines.list.AskedForMissed(); },
           .settingsChanged = needs_.delayedWriteCfg};
@@ -191,16 +186,23 @@ void SpotParts::BeginLog() {
     spotsForm.Show();
     reload.ReloadSpots();
   }
+  // A reload may want files that are too old to be kept.
+  deleting_ = reload.Reloading.Observe([this](bool reloading) {
+    if (!reloading) DeleteOldLogs();
+  });
+}
+
+void SpotParts::DeleteOldLogs() {
   if (settings_.DeleteDxLogs)
     DeleteLogFiles(platform_.files, calendar_, folder_, settings_.KeepSpotsDays);
 }
 
 void SpotParts::FollowReload(bool reloading) {
   pipeline.Reloading = reloading;
-  if (reloading)
-    table.BeginReload();
-  else
-    table.EndReload();
+  if (!reloading) return table.EndReload();
+  table.BeginReload();
+  // What is on show stands in the log: it would be there twice.
+  if (settings_.LogDxSpots) ClearSpots();
 }
 
 void SpotParts::Tick() {

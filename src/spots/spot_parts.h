@@ -127,12 +127,14 @@ class SpotParts {
   void TakeDisplay();
   void ShowNumbers();
   void FollowReload(bool reloading);
+  void DeleteOldLogs();
 
   int minute_ = -1;  // of the last tick, of the day
   std::vector<platform::Registration> kept_;
   platform::Registration displayed_;
   platform::Registration reloading_;
   platform::Registration counting_;
+  platform::Registration deleting_;
 };
 
 }  // namespace spots

@@ -133,8 +133,10 @@ void SpotPipeline::UpdateText5(std::size_t commentField) {
   if (band == kAllBands) return;
   const TableRow row(row_, skimmer ? TableRow::Kind::Skimmer : TableRow::Kind::Other, band,
                      RowSpotOf(spot_, Packed(steps_.display.Layout().shape), commentField));
-  if (receivers.CheckAlarm(spot_, row_)) table.AddAlarm(row);
+  const bool alarm = receivers.CheckAlarm(spot_, row_);
+  if (alarm) table.AddAlarm(row);
   table.rail.Increment(BandAt(band).label);
+  if (alarm && !Reloading) receivers.WaveQue("Alert");
   if (!Reloading) FeedLoggers();
   table.CountUnseen(band);
   table.Add(row);

@@ -89,7 +89,6 @@ platform::Task<> SpotReload::Reload() {
   for (int day = limit_ / core::kMinutesOfDay; day <= today && !stop_; ++day)
     co_await ReloadDay(day);
   reloading.Release();
-  needs_.redraw();
   needs_.showRaw(stop_ ? "Reload Aborted" : "Reload Complete");
 }
 

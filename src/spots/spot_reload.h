@@ -28,7 +28,6 @@ class SpotReload {
     std::function<void(const Spot& spot)> record;
     std::function<bool(const Spot& spot)> rejectCounty;  // true drops it from the table alone
     std::function<void(Spot& spot)> show;
-    std::function<void()> redraw;  // the table, once at the end
   };
 
   // The references outlive it; `folder` is the program's. `scheduler` and `onFault` are those of
@@ -37,7 +36,7 @@ class SpotReload {
              const core::Settings& settings, std::string folder, Needs needs,
              platform::FaultHandler onFault);
 
-  core::Property<bool> Reloading{false};       // no sound, no drawing while it lasts
+  core::Property<bool> Reloading{false};       // no sound, no drawing while it lasts; its end draws
   core::Property<std::uint64_t> SpotsRead{0};  // in this reload, duplicates included; by hundreds
 
   // Begins. Nothing if a reload is under way.

@@ -69,7 +69,7 @@ void SpotRequests::cmdGetSpots(std::string_view bandWord, std::string_view call)
   else
     sent = needs_.sendAsIs(std::string("sh/DX/99 ").append(wanted));
   if (!sent) return;
-  needs_.setSpotListBusy(true);
+  needs_.listRequested();
   needs_.setShDxDone(false);
 }
 

@@ -26,7 +26,7 @@ class SpotRequests {
     std::function<MissedFilter()> filter;
     // Sends the text as it stands; false if it is lost.
     std::function<bool(std::string_view text)> sendAsIs;
-    std::function<void(bool busy)> setSpotListBusy;
+    std::function<void()> listRequested;  // of a band or a call: it runs until the node has sent it
     std::function<void(bool done)> setShDxDone;
     std::function<void()> missedRequested;  // starts the time, clears what is shown of it
     std::function<void()> settingsChanged;

@@ -1,7 +1,9 @@
 #include "ui/band_rail_view.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <utility>
 
 #include "program/dx_tab.h"
 #include "ui/bind.h"
@@ -50,6 +52,7 @@ class BandRailView::Painter : public QStyledItemDelegate {
     const bool chosen = index.row() == view_.model_.SelectedBand();
     if (chosen) painter->fillRect(option.rect, theme[Token::Selection]);
     if (chosen && view_.hasFocus()) {
+      painter->setBrush(Qt::NoBrush);  // that of the bar of the row before
       painter->setPen(theme[Token::Accent]);
       painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
@@ -89,6 +92,37 @@ class BandRailView::Painter : public QStyledItemDelegate {
   LiveTheme& theme_;
 };
 
+// What it shows and what is spoken of it stand in the model: counts that change many times a second
+// cost no more than their painting.
+class BandRailView::Band : public QListWidgetItem {
+  Q_DECLARE_TR_FUNCTIONS(ui::BandRailView)
+
+ public:
+  Band(const spots::BandRail& model, int band) : model_(model), band_(band) {}
+
+  QVariant data(int role) const override {
+    if (role == Qt::DisplayRole)
+      return TextOf(model_.optBand.Options.Get()[static_cast<std::size_t>(band_)]);
+    if (role == Qt::AccessibleTextRole) return Spoken();
+    return QListWidgetItem::data(role);
+  }
+
+ private:
+  QString Spoken() const {
+    const auto place = static_cast<std::size_t>(band_);
+    const std::string_view words = program::BandWords(band_);
+    const QString name = words.empty() ? text() : TextOf(words);
+    const core::Label& unseen = model_.lblUnseen[place];
+    const QString unseenText =
+        unseen.Visible.Get() ? tr("%1 unseen, ").arg(TextOf(unseen.Caption.Get())) : QString();
+    return tr("%1, %2%3 in all")
+        .arg(name, unseenText, TextOf(model_.lblTotal[place].Caption.Get()));
+  }
+
+  const spots::BandRail& model_;
+  const int band_;
+};
+
 BandRailView::BandRailView(spots::BandRail& model, const core::Settings& settings, Frames& frames,
                            LiveTheme& theme, QWidget* parent)
     : QListWidget(parent), model_(model) {
@@ -99,7 +133,8 @@ BandRailView::BandRailView(spots::BandRail& model, const core::Settings& setting
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   setItemDelegate(new Painter(*this, settings, theme));
-  for (const std::string& caption : model.optBand.Options.Get()) addItem(TextOf(caption));
+  for (int band = 0; band < static_cast<int>(changed_.size()); ++band)
+    addItem(new Band(model, band));
   Watch(frames);
   BindProperty<Theme>(this, theme, frames, [this](const Theme&) { viewport()->update(); });
   connect(this, &QListWidget::currentRowChanged, this, [this](int band) {
@@ -109,10 +144,11 @@ BandRailView::BandRailView(spots::BandRail& model, const core::Settings& setting
 
 void BandRailView::Watch(Frames& frames) {
   item_ = frames.Add([this] { ShowCounts(); });
-  const auto changed = [this](const auto&) {
-    if (isVisible()) item_->Changed();
-  };
-  for (std::size_t band = 0; band < model_.lblTotal.size(); ++band) {
+  for (std::size_t band = 0; band < changed_.size(); ++band) {
+    const auto changed = [this, band](const auto&) {
+      changed_[band] = true;
+      if (isVisible()) item_->Changed();
+    };
     watching_.push_back(model_.lblUnseen[band].Caption.Observe(changed));
     watching_.push_back(model_.lblUnseen[band].Visible.Observe(changed));
     watching_.push_back(model_.lblTotal[band].Caption.Observe(changed));
@@ -121,25 +157,10 @@ void BandRailView::Watch(Frames& frames) {
   watching_.push_back(model_.optBand.Selected.Observe([this](int band) { setCurrentRow(band); }));
 }
 
-void BandRailView::showEvent(QShowEvent* event) {
-  QListWidget::showEvent(event);
-  item_->Changed();
-}
-
 void BandRailView::ShowCounts() {
-  for (int band = 0; band < count(); ++band) {
-    const auto place = static_cast<std::size_t>(band);
-    const std::string_view words = program::BandWords(band);
-    const QString name = words.empty() ? item(band)->text() : TextOf(words);
-    const core::Label& unseen = model_.lblUnseen[place];
-    const QString unseenText =
-        unseen.Visible.Get() ? tr("%1 unseen, ").arg(TextOf(unseen.Caption.Get())) : QString();
-    const QString spoken =
-        tr("%1, %2%3 in all").arg(name, unseenText, TextOf(model_.lblTotal[place].Caption.Get()));
-    if (item(band)->data(Qt::AccessibleTextRole) == spoken) continue;
-    item(band)->setData(Qt::AccessibleTextRole, spoken);
-    update(indexFromItem(item(band)));
-  }
+  for (int band = 0; band < count(); ++band)
+    if (std::exchange(changed_[static_cast<std::size_t>(band)], false))
+      viewport()->update(visualItemRect(item(band)));
 }
 
 }  // namespace ui

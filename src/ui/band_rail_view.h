@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QListWidget>
+#include <array>
 #include <vector>
 
 #include "core/settings.h"
 #include "spots/band_rail.h"
+#include "spots/bands.h"
 #include "ui/frames.h"
 #include "ui/theme.h"
 
@@ -18,17 +20,16 @@ class BandRailView : public QListWidget {
   BandRailView(spots::BandRail& model, const core::Settings& settings, Frames& frames,
                LiveTheme& theme, QWidget* parent);
 
- protected:
-  void showEvent(QShowEvent* event) override;
-
  private:
   class Painter;
+  class Band;
 
   void Watch(Frames& frames);
   void ShowCounts();
 
   spots::BandRail& model_;
   std::shared_ptr<Frames::Item> item_;
+  std::array<bool, spots::kBands.size()> changed_{};  // since it was last asked to be painted
   std::vector<platform::Registration> watching_;
 };
 

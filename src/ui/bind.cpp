@@ -44,16 +44,22 @@ void BindTint(QWidget* widget, core::Control& model, Frames& frames) {
   });
 }
 
+// The text with the mark of its mnemonic, which must not be an "&".
+QString Marked(QString text, const QString& letter) {
+  const auto at = letter.isEmpty() ? -1 : text.indexOf(letter, 0, Qt::CaseInsensitive);
+  return at < 0 ? text : text.insert(at, QLatin1Char('&'));
+}
+
 // Shows text of the rules as it stands: an "&" in it is no mnemonic. Without a name of its own the
 // widget goes by that text.
 void BindCaption(QAbstractButton* widget, core::Control& model, Frames& frames) {
   const bool named = !widget->accessibleName().isEmpty();
-  BindProperty<std::string>(widget, model.Caption, frames,
-                            [widget, named](const std::string& text) {
-                              const QString line = OneLine(text, kLongestLabel);
-                              widget->setText(Literally(line));
-                              if (!named) widget->setAccessibleName(line);
-                            });
+  BindProperty<std::string>(
+      widget, model.Caption, frames, [widget, named](const std::string& text) {
+        const QString line = OneLine(text, kLongestLabel);
+        widget->setText(Marked(Literally(line), widget->property("mnemonic").toString()));
+        if (!named) widget->setAccessibleName(line);
+      });
 }
 
 void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {

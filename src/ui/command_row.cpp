@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPushButton>
 
 #include "ui/bind.h"
 #include "ui/fonts.h"
@@ -14,7 +15,15 @@ CommandRow::CommandRow(session::Session& session, Frames& frames, QWidget* paren
   setAttribute(Qt::WA_StyledBackground);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(12, 8, 12, 8);
-  row->addWidget(line_);
+  row->setSpacing(8);
+  row->addWidget(line_, 1);
+  for (const std::size_t which :
+       {session::CommandLine::kRestoreRaw, session::CommandLine::kMaximiseRaw}) {
+    auto* button = new QPushButton(this);
+    button->setAutoDefault(false);
+    BindButton(button, session.commandLine.cmdRawplus[which], frames);
+    row->addWidget(button);
+  }
   line_->setFont(FixedFont());
   line_->setPlaceholderText(tr("Command to the node   (↑ history, Ctrl+L)"));
   line_->setAccessibleName(tr("Command to the node"));

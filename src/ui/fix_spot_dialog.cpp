@@ -21,7 +21,7 @@ namespace {
 
 using platform::qt::TextOf;
 
-constexpr QSize kUsualSize(640, 620);
+constexpr QSize kUsualSize(680, 620);  // so that the last head has room
 constexpr int kCallWidth = 150;
 constexpr int kFieldWidth = 68;
 

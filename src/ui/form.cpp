@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 
 #include "ui/bind.h"
 
@@ -10,6 +11,15 @@ namespace ui {
 namespace {
 
 QString SpokenName(QString label) { return label.remove(QLatin1Char('&')); }
+
+void BindNotice(QLabel* notice, core::Label& model, Frames& frames) {
+  BindLabel(notice, model, frames);
+  BindProperty<std::string>(notice, model.Caption, frames, [notice](const std::string& text) {
+    notice->setVisible(!text.empty());
+    QAccessibleEvent alert(notice, QAccessible::Alert);
+    if (!text.empty()) QAccessible::updateAccessibility(&alert);
+  });
+}
 
 QHBoxLayout* MakeCloseButton(QDialog* dialog) {
   auto* close = new QPushButton(QObject::tr("Close"), dialog);
@@ -48,12 +58,27 @@ void AddProblem(QFormLayout* form, core::Label& model, Frames& frames) {
   problem->setWordWrap(true);
   problem->setAccessibleName(QObject::tr("What is to be put right"));
   form->addRow(problem);
-  BindLabel(problem, model, frames);
-  BindProperty<std::string>(problem, model.Caption, frames, [problem](const std::string& text) {
-    problem->setVisible(!text.empty());
-    QAccessibleEvent alert(problem, QAccessible::Alert);
-    if (!text.empty()) QAccessible::updateAccessibility(&alert);
-  });
+  BindNotice(problem, model, frames);
+}
+
+QLabel* AddNotice(QBoxLayout* column, const QString& name, core::Label& model, Frames& frames) {
+  auto* notice = new QLabel(column->parentWidget());
+  notice->setWordWrap(true);
+  notice->setAccessibleName(name);
+  column->addWidget(notice);
+  BindNotice(notice, model, frames);
+  return notice;
+}
+
+QPushButton* AddButton(QBoxLayout* row, const QString& name, const QString& mnemonic,
+                       core::Button& model, Frames& frames) {
+  auto* button = new QPushButton(row->parentWidget());
+  button->setAutoDefault(false);
+  button->setAccessibleName(name);
+  button->setProperty("mnemonic", mnemonic);
+  row->addWidget(button);
+  BindButton(button, model, frames);
+  return button;
 }
 
 void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, Frames& frames) {
@@ -70,6 +95,14 @@ void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, 
     row->addWidget(button);
   }
   form->addRow(row);
+}
+
+// The style sheet may have looked at the button before.
+void MakePrimary(QPushButton* button) {
+  button->setProperty("primary", true);
+  button->setDefault(true);
+  button->style()->unpolish(button);
+  button->style()->polish(button);
 }
 
 QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog) {

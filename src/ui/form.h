@@ -3,7 +3,9 @@
 #include <QDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "core/controls.h"
 #include "ui/frames.h"
@@ -20,6 +22,16 @@ void AddProblem(QFormLayout* form, core::Label& model, Frames& frames);
 
 // Adds the buttons in their order, at the right; Return presses the first.
 void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, Frames& frames);
+
+// Adds a button that Return does not press; `mnemonic` is a letter of its caption.
+QPushButton* AddButton(QBoxLayout* row, const QString& name, const QString& mnemonic,
+                       core::Button& model, Frames& frames);
+
+// Makes it the one that Return presses, and shows that.
+void MakePrimary(QPushButton* button);
+
+// Adds a line that is there only while it says something; spoken when it changes.
+QLabel* AddNotice(QBoxLayout* column, const QString& name, core::Label& model, Frames& frames);
 
 // Adds the foot of a dialog in which every act holds at once: a button that closes it, at the
 // right. Return does not press it.

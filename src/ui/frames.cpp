@@ -6,24 +6,22 @@
 namespace ui {
 
 void Frames::Item::Changed() {
-  changed_ = true;
-  frames_.Ask();
+  if (!std::exchange(changed_, true)) frames_.Ask(weak_from_this());
 }
 
 std::shared_ptr<Frames::Item> Frames::Add(std::function<void()> repaint) {
-  std::shared_ptr<Item> item(new Item(*this, std::move(repaint)));
-  items_.push_back(item);
-  return item;
+  return std::shared_ptr<Item>(new Item(*this, std::move(repaint)));
 }
 
 void Frames::Touched() {
   const bool quiet = Frame() == kQuietFrame;
   touched_ = scheduler_.Now();
-  if (asked_ && quiet) Wait();  // what is due comes sooner now
+  if (!changed_.empty() && quiet) Wait();  // what is due comes sooner now
 }
 
-void Frames::Ask() {
-  if (!std::exchange(asked_, true)) Wait();
+void Frames::Ask(std::weak_ptr<Item> item) {
+  changed_.push_back(std::move(item));
+  if (changed_.size() == 1) Wait();
 }
 
 void Frames::Wait() {
@@ -36,12 +34,12 @@ platform::Milliseconds Frames::Frame() const {
 }
 
 void Frames::Paint() {
-  asked_ = false;
   last_ = scheduler_.Now();
-  std::erase_if(items_, [](const auto& item) { return item.expired(); });
-  for (std::size_t i = 0; i < items_.size(); ++i) {
-    const auto item = items_[i].lock();
-    if (item && std::exchange(item->changed_, false)) item->repaint_();
+  for (const auto& each : std::exchange(changed_, {})) {
+    const auto item = each.lock();
+    if (!item) continue;
+    item->changed_ = false;
+    item->repaint_();
   }
 }
 

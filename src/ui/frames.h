@@ -13,7 +13,7 @@ namespace ui {
 class Frames {
  public:
   // Something on the screen. Marked as changed it is repainted with the next frame.
-  class Item {
+  class Item : public std::enable_shared_from_this<Item> {
    public:
     void Changed();
 
@@ -41,16 +41,15 @@ class Frames {
   std::shared_ptr<Item> Add(std::function<void()> repaint);
 
  private:
-  void Ask();
+  void Ask(std::weak_ptr<Item> item);
   void Wait();
   void Paint();
   platform::Milliseconds Frame() const;
 
   platform::Scheduler& scheduler_;
-  std::vector<std::weak_ptr<Item>> items_;
+  std::vector<std::weak_ptr<Item>> changed_;  // in the order of their changes
   platform::Milliseconds last_{-kQuietFrame};
   platform::Milliseconds touched_{-kTouch};
-  bool asked_ = false;
   platform::Registration next_;
 };
 

@@ -5,7 +5,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "ui/keys.h"
+#include "ui/commands.h"
 
 namespace ui {
 namespace {
@@ -13,9 +13,9 @@ namespace {
 constexpr QSize kUsualSize(480, 560);
 constexpr int kKeyWidth = 130;
 
-QString Spelled(const Key& key) {
+QString Spelled(const Command& command) {
   QStringList names;
-  for (const QKeySequence& each : QKeySequence::listFromString(QString::fromLatin1(key.keys)))
+  for (const QKeySequence& each : QKeySequence::listFromString(QString::fromLatin1(command.keys)))
     names << each.toString(QKeySequence::NativeText);
   return names.join(QStringLiteral(",  "));
 }
@@ -32,8 +32,9 @@ KeyList::KeyList(QWidget* parent) : QDialog(parent) {
   list->setRootIsDecorated(false);
   list->setIndentation(0);
   list->setUniformRowHeights(true);
-  for (const Key& key : Keys())
-    list->addTopLevelItem(new QTreeWidgetItem(QStringList{Spelled(key), tr(key.says)}));
+  for (const Command& command : Commands())
+    if (command.HasKey())
+      list->addTopLevelItem(new QTreeWidgetItem(QStringList{Spelled(command), tr(command.says)}));
   list->setCurrentItem(list->topLevelItem(0));
   list->setColumnWidth(0, kKeyWidth);
   auto* column = new QVBoxLayout(this);

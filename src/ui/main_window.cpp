@@ -9,8 +9,10 @@
 #include <algorithm>
 #include <array>
 
+#include "core/version.h"
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/comm_dialog.h"
 #include "ui/conditions_bar.h"
 #include "ui/fix_spot_dialog.h"
 #include "ui/login_view.h"
@@ -20,6 +22,7 @@
 #include "ui/settings_page.h"
 #include "ui/spots_dialog.h"
 #include "ui/status_line.h"
+#include "ui/tnc_dialog.h"
 #include "ui/touch_watch.h"
 #include "ui/user_info_dialog.h"
 
@@ -73,6 +76,7 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
     setWindowTitle(platform::qt::TextOf(title));
   });
   placing_ = program.form.Observe([this](const program::FormPlace& place) { Place(place); });
+  alone_ = program.rawPane.Maximised.Observe([this](bool alone) { pages_->setVisible(!alone); });
   connect(splitter_, &QSplitter::splitterMoved, this, [this] { StorePlace(); });
   commandRow_->Line()->setFocus();
 }
@@ -100,7 +104,7 @@ void MainWindow::StorePlace() {
   if (!isVisible() || isMinimized()) return;
   program::FormPlace place = placed_;
   place.maximised = isMaximized();
-  place.inputHeight = Twips(raw_->height());
+  if (!program_.rawPane.Maximised.Get()) place.inputHeight = Twips(raw_->height());
   if (!place.maximised) {
     place.left = Twips(x());
     place.top = Twips(y());
@@ -168,6 +172,8 @@ void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
   spots::SpotParts& parts = program_.spotParts;
   new UserInfoDialog(program_.userInfo, frames, this);
   new OffsetDialog(program_.offsetForm, frames, this);
+  new CommDialog(program_.commForm, frames, this);
+  new TncDialog(program_.tncForm, frames, this);
   new MessageDialog(program_.messageForm, frames, this);
   new NodeDialog({.form = program_.nodeForm,
                   .update = program_.nodeUpdate,
@@ -198,19 +204,50 @@ void MainWindow::Lay(Frames& frames, LiveTheme& theme) {
 }
 
 void MainWindow::AddKeys() {
-  for (const ui::Key& key : Keys()) {
-    for (const QKeySequence& keys : QKeySequence::listFromString(QLatin1String(key.keys)))
-      connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, &key] { Do(key); });
+  setMenuBar(new Menus({.state = [this](const Command& command) { return StateOf(command); },
+                        .run = [this](const Command& command) { Do(command); }},
+                       this));
+  for (const Command& command : Commands()) {
+    for (const QKeySequence& keys : QKeySequence::listFromString(QLatin1String(command.keys)))
+      connect(new QShortcut(keys, this), &QShortcut::activated, this,
+              [this, &command] { Do(command); });
   }
 }
 
-void MainWindow::Do(const Key& key) {
+void MainWindow::Do(const Command& command) {
   session::Connection& connection = program_.session.connection;
-  switch (key.act) {
+  spots::SpotParts& parts = program_.spotParts;
+  switch (command.act) {
+    case Act::ConnectOrDisconnect:
+      return (connection.cmdConnect.Enabled.Get() ? connection.cmdConnect
+                                                  : connection.cmdDisconnect)
+          .Press();
+    case Act::Connect:
+      return connection.cmdConnect.Press();
+    case Act::Disconnect:
+      return connection.cmdDisconnect.Press();
+    case Act::Quit:
+      return program_.RequestClose(program::Program::Close::Ask);
+    case Act::UserInfo:
+      return program_.userInfo.Show();
+    case Act::Columns:
+      return columns_->Show();
+    case Act::SpotLog:
+      return parts.spotsForm.Show();
+    case Act::Rejects:
+      return rejects_->Show();
+    case Act::Corrections:
+      return parts.fixForm.Show();
+    case Act::CorrectErrors:
+      return parts.localReject.CorrectErrors.UserSets(!parts.localReject.CorrectErrors.Value.Get());
+    case Act::ChooseTheme:
+      return program_.appearance.optTheme.UserSelects(command.number);
     case Act::ChooseTab:
-      return program_.views.Choose(key.number);
+      return program_.views.Choose(command.number);
     case Act::ChooseBand:
-      return program_.dxTab.ChooseBand(key.number);
+      return program_.dxTab.ChooseBand(command.number);
+    case Act::RawView:
+      return program_.rawPane.Turn();
     case Act::CommandLine:
       return commandRow_->Line()->setFocus();
     case Act::ReturnToTable:
@@ -223,16 +260,49 @@ void MainWindow::Do(const Key& key) {
       return program_.textSizes.Change(ViewAtHand(), 1);
     case Act::SmallerText:
       return program_.textSizes.Change(ViewAtHand(), -1);
-    case Act::ConnectOrDisconnect:
-      return (connection.cmdConnect.Enabled.Get() ? connection.cmdConnect
-                                                  : connection.cmdDisconnect)
-          .Press();
+    case Act::Manual:
+      return OpenManual();
     case Act::ListKeys:
       return ListKeys();
+    case Act::About:
+      return TellAbout();
+  }
+}
+
+Menus::State MainWindow::StateOf(const Command& command) const {
+  const session::Connection& connection = program_.session.connection;
+  switch (command.act) {
+    case Act::Connect:
+      return {.enabled = connection.cmdConnect.Enabled.Get(),
+              .ticked = {},
+              .why = tr("There is a link already.")};
+    case Act::Disconnect:
+      return {.enabled = connection.cmdDisconnect.Enabled.Get(),
+              .ticked = {},
+              .why = tr("There is no link.")};
+    case Act::CorrectErrors: {
+      const core::Check& errors = program_.spotParts.localReject.CorrectErrors;
+      return {.enabled = errors.Enabled.Get(),
+              .ticked = errors.Value.Get(),
+              .why = tr("The node says nothing that would tell an error.")};
+    }
+    case Act::ChooseTheme:
+      return {.ticked = program_.appearance.optTheme.Selected.Get() == command.number, .why = {}};
+    case Act::ChooseTab: {
+      const core::Label& tab = program_.views.tab[static_cast<std::size_t>(command.number)];
+      return {.enabled = tab.Enabled.Get(),
+              .ticked = program_.views.onShow.Get() == command.number,
+              .why = platform::qt::TextOf(tab.ToolTip.Get())};
+    }
+    case Act::RawView:
+      return {.ticked = program_.rawPane.Maximised.Get(), .why = {}};
+    default:
+      return {};
   }
 }
 
 void MainWindow::ReturnToTable() {
+  if (program_.rawPane.Maximised.Get()) program_.rawPane.Turn();
   program_.views.Choose(program::Views::Dx);
   dx_->setFocus(Qt::OtherFocusReason);
 }
@@ -240,7 +310,8 @@ void MainWindow::ReturnToTable() {
 void MainWindow::GoRound() {
   QPushButton* link =
       linkBar_->Connect()->isVisible() ? linkBar_->Connect() : linkBar_->Disconnect();
-  const std::array<QWidget*, 5> places = {link, tabs_, pages_->currentWidget(), raw_,
+  const bool alone = program_.rawPane.Maximised.Get();
+  const std::array<QWidget*, 5> places = {link, tabs_, alone ? raw_ : pages_->currentWidget(), raw_,
                                           commandRow_->Line()};
   std::size_t next = 0;
   for (std::size_t i = 0; i < places.size(); ++i)
@@ -259,6 +330,21 @@ void MainWindow::ListKeys() {
   if (keyList_ == nullptr) keyList_ = new KeyList(this);
   keyList_->show();
   keyList_->activateWindow();
+}
+
+// At the page for what is on show.
+void MainWindow::OpenManual() {
+  if (manual_ == nullptr) manual_ = new ManualWindow(this);
+  const int view = program_.views.onShow.Get();
+  manual_->Open(view == program::Views::Dx         ? QStringLiteral("dx")
+                : view == program::Views::Settings ? QStringLiteral("technical")
+                                                   : QStringLiteral("index"));
+}
+
+void MainWindow::TellAbout() {
+  program_.messageForm.Show("About Molva Desk",
+                            "Molva Desk " + std::string(core::kProgramVersion) +
+                                "\n\nA client for the DX clusters of radio amateurs.");
 }
 
 program::TextSizes::View MainWindow::ViewAtHand() const {

@@ -6,13 +6,15 @@
 
 #include "program/program.h"
 #include "ui/command_row.h"
+#include "ui/commands.h"
 #include "ui/display_dialog.h"
 #include "ui/dx_page.h"
 #include "ui/find_bar.h"
 #include "ui/frames.h"
 #include "ui/key_list.h"
-#include "ui/keys.h"
 #include "ui/link_bar.h"
+#include "ui/manual_window.h"
+#include "ui/menus.h"
 #include "ui/reject_dialog.h"
 #include "ui/text_page_view.h"
 #include "ui/theme.h"
@@ -39,11 +41,14 @@ class MainWindow : public QMainWindow {
   void Do(const spots::Click& click);
   void Lay(Frames& frames, LiveTheme& theme);
   void AddKeys();
-  void Do(const Key& key);
+  void Do(const Command& command);
+  Menus::State StateOf(const Command& command) const;
   void ReturnToTable();
   void GoRound();
   void Find();
+  void OpenManual();
   void ListKeys();
+  void TellAbout();
   program::TextSizes::View ViewAtHand() const;
   void Place(const program::FormPlace& place);
   void StorePlace();
@@ -61,10 +66,12 @@ class MainWindow : public QMainWindow {
   CommandRow* commandRow_;
   DisplayDialog* columns_;
   RejectDialog* rejects_;
-  KeyList* keyList_ = nullptr;             // once it was asked for
+  ManualWindow* manual_ = nullptr;         // once it was asked for
+  KeyList* keyList_ = nullptr;             // likewise
   program::FormPlace placed_{.left = -1};  // as last applied or stored
   platform::Registration placing_;
   platform::Registration following_;
+  platform::Registration alone_;
 };
 
 }  // namespace ui

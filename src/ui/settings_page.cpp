@@ -49,6 +49,7 @@ SettingsPage::SettingsPage(program::Program& program, Frames& frames, QWidget* p
   columns_->setSpacing(kBetweenColumns);
   QVBoxLayout* left = AddColumn();
   FillUserInfo(AddGroup(left, tr("User information")), program.userInfo, frames);
+  FillConnection(AddGroup(left, tr("Way to the node")), program, frames);
   FillStart(AddGroup(left, tr("Start and login")), program.startOptions, frames);
   FillKeepAlive(AddGroup(left, tr("Keep-alive")), program.session, frames);
   FillLinking(AddGroup(left, tr("Linked copies")), program.MultiNode, frames);
@@ -113,6 +114,19 @@ void SettingsPage::FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Fr
   row->addWidget(change);
   row->addStretch();
   setFocusProxy(change);
+}
+
+void SettingsPage::FillConnection(QVBoxLayout* group, program::Program& program, Frames& frames) {
+  QHBoxLayout* row = AddRow(group);
+  const auto add = [&](const QString& name, core::Button& model) {
+    auto* button = new QPushButton(page_);
+    button->setAccessibleName(name);
+    BindButton(button, model, frames);
+    row->addWidget(button);
+  };
+  add(tr("Connection: telnet or TNC, and serial ports"), program.commForm.cmdOpen);
+  add(tr("TNC: the way to the cluster"), program.tncForm.cmdOpen);
+  row->addStretch();
 }
 
 void SettingsPage::FillStart(QVBoxLayout* group, program::StartOptions& model, Frames& frames) {

@@ -25,6 +25,7 @@ class SettingsPage : public QScrollArea {
   void AddCheck(QVBoxLayout* group, core::Check& model, Frames& frames);
 
   void FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Frames& frames);
+  void FillConnection(QVBoxLayout* group, program::Program& program, Frames& frames);
   void FillStart(QVBoxLayout* group, program::StartOptions& model, Frames& frames);
   void FillKeepAlive(QVBoxLayout* group, session::Session& session, Frames& frames);
   void FillLinking(QVBoxLayout* group, core::Check& model, Frames& frames);

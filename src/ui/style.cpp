@@ -41,6 +41,7 @@ QWidget#CommandRow { background: {panel}; }
 QLabel { color: {text}; }
 QLabel[dim="true"] { color: {dim}; }
 QLabel[bad="true"], QLabel[tint="bad"] { color: {bad}; }
+QLabel[caution="true"] { color: {caution}; }
 QLabel[tint="good"] { color: {good}; }
 QLabel[tint="accent"] { color: {accent}; }
 QLabel[heading="true"] { font-weight: 600; }
@@ -85,7 +86,13 @@ QProgressBar { background: {ground}; border: 1px solid {line}; border-radius: 4p
 QProgressBar::chunk { background: {accent}; border-radius: 3px; }
 QFrame#DropPanel { background: {panel}; border: 1px solid {line}; border-radius: 4px; }
 QMenu { background: {panel}; color: {text}; border: 1px solid {line}; padding: 4px; }
-QMenu::item { padding: 5px 16px; border-radius: 4px; }
+QMenu::item { padding: 5px 16px 5px 28px; border-radius: 4px; }
+QMenu::item:disabled { color: {dim}; }
+QMenu::separator { height: 1px; background: {line}; margin: 4px 8px; }
+QMenuBar { background: {panel}; color: {text}; border-bottom: 1px solid {line}; }
+QMenuBar::item { padding: 4px 10px; }
+QMenuBar::item:selected { background: {selection}; }
+QTextBrowser { background: {ground}; color: {text}; border: 1px solid {line}; border-radius: 4px; }
 QMenu::item:selected { background: {selection}; }
 QListWidget#BandRail { background: {panel}; border: none; border-right: 1px solid {line};
                       outline: none; padding-top: 6px; }

@@ -25,6 +25,7 @@ TechnicalPanel::TechnicalPanel(program::Program& program, Frames& frames, QWidge
   column_->setSpacing(4);
   session::Session& session = program.session;
   Add(tr("Inactivity"), session.keepAlive.lblInactivity, frames);
+  Add(tr("Links that the TNC gave up"), session.tncNotices.lblRetriedOut, frames);
   Add(tr("Keep-alives sent"), session.keepAlive.lblKA[0], frames);
   Add(tr("Nulls received"), session.keepAlive.lblKA[1], frames);
   Add(tr("Links given up"), session.keepAlive.lblKA[2], frames);

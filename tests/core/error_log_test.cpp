@@ -13,7 +13,6 @@ namespace core {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::EndsWith;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -66,7 +65,7 @@ TEST_F(ErrorLogTest, AFailingDiskLosesTheLineAndCountsIt) {
   world.files.denied.clear();
   log.ReportError("nossid", 5, "x");
   EXPECT_EQ(log.LostLines(), 2U);
-  EXPECT_THAT(Written(), EndsWith("nossid - Error #5 x\"\r\n"));
+  EXPECT_THAT(Written(), testing::EndsWith("nossid - Error #5 x\"\r\n"));
 }
 
 TEST_F(ErrorLogTest, NothingIsShownUsually) {
@@ -83,7 +82,7 @@ TEST_F(ErrorLogTest, DebugModeShowsTheReportToo) {
   EXPECT_EQ(message.text, "Unexpected error #53 occurred: File not found\n");
   EXPECT_THAT(message.answers,
               testing::ElementsAre(platform::Answer::Retry, platform::Answer::Cancel));
-  EXPECT_THAT(Written(), EndsWith("ReadCfg - Error #53 File not found\"\r\n"));
+  EXPECT_THAT(Written(), testing::EndsWith("ReadCfg - Error #53 File not found\"\r\n"));
 }
 
 platform::Task<> FailingTask() {
@@ -95,7 +94,7 @@ TEST_F(ErrorLogTest, AFailedTaskIsReportedUnderItsName) {
   platform::Tasks tasks{world.scheduler, log.FaultHandler()};
   tasks.Start("LoadTables", FailingTask());
   world.Run(1s);
-  EXPECT_THAT(Written(), EndsWith("  LoadTables - Error #0 no such table\"\r\n"));
+  EXPECT_THAT(Written(), testing::EndsWith("  LoadTables - Error #0 no such table\"\r\n"));
 }
 
 }  // namespace

@@ -27,9 +27,15 @@ TEST_F(LinkTest, ANodeThatHangsUpDoesNotEndTheClient) {
   EXPECT_FALSE(Heard("BYE"));
 }
 
-TEST_F(LinkTest, ALinkThatBreaksDoesNotEndTheClient) {
+TEST_F(LinkTest, ALinkThatBreaksOrIsClosedIsMadeAgain) {
   const auto client = StartLoggedIn();
+  const QString broken = client->LinkTo(proxy->Port());
   proxy->Cut();
+  ExpectLoggedInAgain(*client, broken);
+  const QString closed = client->LinkTo(proxy->Port());
+  EXPECT_NE(closed, broken);
+  proxy->HangUp();
+  ExpectLoggedInAgain(*client, closed);
   EXPECT_EQ(client->Terminate(), "exit code 0");
 }
 

@@ -1,9 +1,11 @@
 #include "e2e/running.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <algorithm>
 #include <csignal>
 
 namespace e2e {
@@ -15,6 +17,10 @@ QProcessEnvironment EnvironmentWith(const QString& home) {
   environment.remove("WAYLAND_DISPLAY");
   environment.insert("QT_QPA_PLATFORM", "offscreen");
   environment.insert("MOLVA_HOME", home);
+  environment.insert("LD_PRELOAD", SKIPPED_MINUTES);
+  // The sanitizers' library would be first otherwise.
+  environment.insert("ASAN_OPTIONS",
+                     environment.value("ASAN_OPTIONS") + ":verify_asan_link_order=0");
   return environment;
 }
 
@@ -40,6 +46,31 @@ bool Running::HandlesSignals() const {
   const auto caught = kCaught.match(status.readAll()).captured(1).toULongLong(nullptr, 16);
   return (caught >> (SIGTERM - 1) & 1U) != 0;
 }
+
+QString Running::LinkTo(quint16 port) const {
+  QFile connections(QString("/proc/%1/net/tcp").arg(process_.processId()));
+  if (!connections.open(QIODevice::ReadOnly)) return {};
+  // number: local address, remote address, state (1: up), 5 figures, the connection's number.
+  const QRegularExpression link(
+      QString(":\\s+\\S+\\s+\\S+:%1\\s+01(?:\\s+\\S+){5}\\s+(\\d+)").arg(port, 4, 16, QChar('0')),
+      QRegularExpression::CaseInsensitiveOption);
+  const auto found = link.globalMatch(connections.readAll());
+  for (const auto& each : found) {
+    QString name = "socket:[" + each.captured(1) + "]";
+    if (Holds(name)) return name;
+  }
+  return {};
+}
+
+bool Running::Holds(const QString& link) const {
+  const QDir open(QString("/proc/%1/fd").arg(process_.processId()));
+  const auto files = open.entryList(QDir::Files | QDir::System);
+  return std::any_of(files.begin(), files.end(), [&](const QString& file) {
+    return QFile::symLinkTarget(open.filePath(file)).endsWith(link);
+  });
+}
+
+void Running::SkipAMinute() { ::kill(static_cast<pid_t>(process_.processId()), SIGUSR1); }
 
 std::string Running::Terminate(std::chrono::seconds patience) {
   if (!IsRunning()) return "was not running any more";
@@ -92,6 +123,29 @@ std::unique_ptr<Running> ClientTest::StartLoggedIn() {
   EXPECT_TRUE(PumpUntil([this] { return Heard("K1TST-2") && SpotsFlow(); }, kPatience))
       << "the client has not logged in";
   return client;
+}
+
+void ClientTest::ExpectLoggedInAgain(Running& client, const QString& lostLink) {
+  ASSERT_FALSE(lostLink.isEmpty());
+  const int calls = proxy->Calls();
+  ASSERT_TRUE(PumpUntil([&] { return !client.Holds(lostLink); }, kPatience))
+      << "the client has not noticed the loss";
+  proxy->fromClients.clear();
+  proxy->fromNode.clear();
+  // The loss counts, and the wait for the next try begins, behind all that the node said before it.
+  QDeadlineTimer next;
+  EXPECT_TRUE(PumpUntil(
+      [&] {
+        if (proxy->Calls() > calls) return true;
+        if (!next.hasExpired()) return false;
+        client.SkipAMinute();
+        next.setRemainingTime(1s);
+        return false;
+      },
+      kPatience))
+      << "the client has not tried again";
+  EXPECT_TRUE(PumpUntil([this] { return Heard("K1TST-2") && SpotsFlow(); }, kPatience))
+      << "the client has not logged in again";
 }
 
 }  // namespace e2e

@@ -30,6 +30,12 @@ class Running {
   bool IsRunning() const { return process_.state() == QProcess::Running; }
   // Whether it has taken the signals to end into its own hands yet.
   bool HandlesSignals() const;
+  // Its connection to that port of this machine, by the system's name for it; empty if it has none.
+  QString LinkTo(quint16 port) const;
+  // Whether it keeps that connection, be it good or broken.
+  bool Holds(const QString& link) const;
+  // Lets a little more than a minute pass for all that it waits for.
+  void SkipAMinute();
   // Sends SIGTERM and waits for the end; the exit code, or why there is none.
   std::string Terminate(std::chrono::seconds patience = kPatience);
   // What it has printed so far.
@@ -54,6 +60,9 @@ class ClientTest : public ::testing::Test {
   std::unique_ptr<Running> StartClient();
   // Starts a client with that configuration and waits until spots come in.
   std::unique_ptr<Running> StartLoggedIn();
+  // Waits until the client has let go of a link that is lost, and then until it has logged in again
+  // by itself.
+  void ExpectLoggedInAgain(Running& client, const QString& lostLink);
   bool Heard(const QByteArray& line) const { return proxy->fromClients.contains(line + "\r\n"); }
   bool SpotsFlow() const { return proxy->fromNode.count("DX de ") >= 3; }
 

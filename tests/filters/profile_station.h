@@ -8,7 +8,6 @@
 
 inline constexpr const char* kOwnPrompt = "%C de %M %D %T 2.4315  dxspider >";
 inline constexpr const char* kSetPrompt = "set/prompt %C de %M %D %T 2.4315  dxspider >";
-inline constexpr const char* kSpiderPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z dxspider >";
 
 struct Row {
   std::string label;

@@ -157,6 +157,18 @@ TEST_F(DxPageTest, F6ReachesTheTable) {
   EXPECT_TRUE(Raw().hasFocus());
 }
 
+TEST_F(DxPageTest, TheChosenBandIsFramedAndNotFilledWhereTheRailHasTheFocus) {
+  Press(Qt::Key_6, Qt::ControlModifier);
+  const auto ground = [this] {
+    const QPoint row = Rail().visualItemRect(Rail().item(k20m)).topLeft();
+    return Rail().viewport()->grab().toImage().pixelColor(row + QPoint(60, 5));
+  };
+  Rail().clearFocus();
+  const QColor without = ground();
+  Rail().setFocus();
+  EXPECT_EQ(ground(), without);
+}
+
 TEST_F(DxPageTest, WhatHasTheFocusLooksLikeIt) {
   Spot(14025, "3Y0J");
   for (const char* name : {"Spots", "Bands of the spots", "Show Skimmer spots", "Find in table"}) {

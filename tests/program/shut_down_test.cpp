@@ -99,6 +99,21 @@ TEST_F(ShutDownTest, WithoutALinkItTakesAboutTwoSeconds) {
   EXPECT_EQ(desk.quits, 1);
 }
 
+// Spots come until the very end, and no timer is waited for.
+TEST_F(ShutDownTest, LastSpotsAreInTheLog) {
+  Program& program = desk.Start();
+  program.settings.LogDxSpots = true;
+  program.RequestClose(Program::Close::WithoutAsking);
+  desk.world.Run(1900ms);
+  spots::Spot spot;
+  spot.Freq = 14025;
+  spot.DxCall = "3Y0J";
+  spot.SpotDate = "20-Nov-2026";
+  program.spotParts.log.Write(spot);
+  ASSERT_TRUE(desk.world.RunUntil([this] { return desk.quits == 1; }));
+  EXPECT_THAT(desk.Content("2026/dx-20-Nov-2026.txt"), HasSubstr("3Y0J"));
+}
+
 TEST_F(ShutDownTest, QuietExitDoesNotAsk) {
   desk.HasUsualConfiguration("\"DoNotAsk\",-1\r\n");
   desk.Start().RequestClose(Program::Close::Ask);

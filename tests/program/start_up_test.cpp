@@ -6,6 +6,7 @@ using namespace std::chrono_literals;
 using platform::Answer;
 using session::TimerId;
 using testing::HasSubstr;
+using testing::SizeIs;
 
 namespace {
 
@@ -118,6 +119,32 @@ TEST_F(StartUpTest, MissingDataFileIsPutInPlaceAndAPresentOneStays) {
   desk.Content("endpoints.cfg") = "mine";
   desk.Start();
   EXPECT_EQ(desk.Content("endpoints.cfg"), "mine");
+}
+
+TEST_F(StartUpTest, CountriesAndStatesAreBroughtAtEachStartThatLacksThem) {
+  desk.HasUsualConfiguration();
+  for (int start = 0; start < 2; ++start) {
+    program::Program& program = desk.Start();
+    EXPECT_EQ(desk.Content("cty.dat"), CtyText({}));
+    EXPECT_EQ(program.spotParts.reference.countries.CountryName("ZS8"), "PR. EDWARD & MARION IS.");
+    EXPECT_EQ(program.spotParts.reference.states.StateCount(), 65);
+    desk.world.files.content.erase(desk.File("cty.dat"));
+    desk.world.files.content.erase(desk.File("state.dat"));
+  }
+  desk.Content("cty.dat") = "mine";
+  desk.Start();
+  EXPECT_EQ(desk.Content("cty.dat"), "mine");
+}
+
+TEST_F(StartUpTest, StartGoesOnWithoutCountriesAndSaysSo) {
+  desk.HasUsualConfiguration("\"AutoStart\",\"True\"\r\n");
+  desk.StartNode();
+  desk.world.files.content.erase(program::Program::kCountryFile);
+  program::Program& program = desk.Start();
+  EXPECT_FALSE(program.Loading);
+  ASSERT_THAT(desk.world.dialogs.shown, SizeIs(1));
+  EXPECT_THAT(desk.world.dialogs.shown[0].text, HasSubstr("The file cty.dat was not found"));
+  EXPECT_TRUE(desk.world.RunUntil([&] { return program.session.state.LoggedIn; }, 10s));
 }
 
 TEST_F(StartUpTest, DebugSwitchLastsForOneRun) {

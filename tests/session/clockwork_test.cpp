@@ -34,6 +34,27 @@ TEST_F(ClockworkTest, HourlyWorkIsDoneAtEachNewHour) {
   EXPECT_EQ(above.hours, before + 5);
 }
 
+TEST_F(ClockworkTest, ClockThatJumpsAnHourEitherWayIsANewHourOnce) {
+  LetPass(5s);
+  for (const auto jump : {1h, -1h}) {
+    const int before = above.hours;
+    world.clock.Set(world.clock.UtcNow() + jump);
+    LetPass(10min);
+    EXPECT_EQ(above.hours, before + 1);
+  }
+  EXPECT_THAT(above.asked, IsEmpty());
+}
+
+TEST_F(ClockworkTest, ClockThatJumpsOverMidnightAndBackIsANewDayEachTime) {
+  LetPass(2h + 55min);
+  for (const auto jump : {1h, -1h}) {
+    world.clock.Set(world.clock.UtcNow() + jump);
+    LetPass(90s);
+    EXPECT_THAT(above.asked, ElementsAre("DayChange", "EnableLoggingSpots"));
+    above.asked.clear();
+  }
+}
+
 TEST_F(ClockworkTest, SunIsServedEachMinute) {
   LetPass(10min + 5s);
   EXPECT_EQ(above.minutes, 10);

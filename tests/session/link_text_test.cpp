@@ -37,6 +37,18 @@ TEST_F(LinkTextTest, SaysWhatIsBeingDoneAboutTheLink) {
   EXPECT_EQ(State(), "waiting for the login");
 }
 
+TEST_F(LinkTextTest, NamesTheNodeThatTheNextLinkGoesTo) {
+  const auto named = [this] {
+    program.linkText.Tick();
+    return program.linkText.node.Caption.Get();
+  };
+  EXPECT_EQ(named(), "N0NODE");
+  program.state.TncMode = true;
+  EXPECT_EQ(named(), "TNC") << "over the TNC, until the cluster has been named";
+  settings.TncCluster = "N0TNC";
+  EXPECT_EQ(named(), "N0TNC");
+}
+
 TEST_F(LinkTextTest, NodeThatSaysNothingIsNotShownAsConnected) {
   PressConnect();
   LetPass(5s);

@@ -106,10 +106,8 @@ TEST(AddressOfTest, NothingButTheWebIsOpened) {
 }
 
 TEST(AddressOfTest, WhatIsShownIsWhatIsOpened) {
-  EXPECT_EQ(AddressOf("http://a.org/\xe2\x80\xae"
-                      "gro"),
-            "")
-      << "turns the text round";
+  const std::string turnsRound = {'\xe2', '\x80', '\xae'};
+  EXPECT_EQ(AddressOf("http://a.org/" + turnsRound + "gro"), "");
   EXPECT_EQ(AddressOf("http://\xd0\xb0.org/"), "") << "a letter that looks like another";
   EXPECT_EQ(AddressOf("http://bank.org@a.org/"), "") << "the host is not what it seems to be";
   EXPECT_EQ(AddressOf("http://bank.org\\@a.org/"), "");

@@ -43,6 +43,7 @@ class LocalNetworkTest : public testing::Test {
   Lines asked;    // what the filter was asked about
   Lines claimed;  // what it claims
   Lines sent;
+  int switchedOff = 0;
   session::LocalNetwork network{
       world.serialPorts,
       settings,
@@ -54,6 +55,7 @@ class LocalNetworkTest : public testing::Test {
              return std::find(claimed.begin(), claimed.end(), line) != claimed.end();
            },
        .sendAsIs = [this](std::string_view line) { sent.emplace_back(line); },
+       .switchedOff = [this] { ++switchedOff; },
        .onFault = [this](std::string_view name,
                          std::string_view what) { Report(faults, name, what); }}};
 };
@@ -185,6 +187,35 @@ TEST_F(LocalNetworkOpen, PortThatVanishesIsReportedAndItsHalfCommandForgotten) {
   again.Feed("dx\r");
   network.ReadNetwork();
   EXPECT_THAT(sent, ElementsAre("dx"));
+}
+
+constexpr const char* kComplaint = "Runaway!  Runaway problem!. Please contact MOLVA via email. 73";
+
+TEST_F(LocalNetworkOpen, ComplaintAboutARunawaySwitchesTheNetworkOffAndForgetsItsPort) {
+  settings.LocalNetwork = true;
+  Says("half a comm");
+  network.RunawayNotice(kComplaint);
+  EXPECT_FALSE(settings.LocalNetwork);
+  EXPECT_EQ(settings.NetworkPort, 0);
+  EXPECT_EQ(switchedOff, 1);
+  device.Feed("and\r");
+  network.ReadNetwork();
+  EXPECT_THAT(sent, IsEmpty());
+}
+
+TEST_F(LocalNetworkOpen, ComplaintCountsWhileTheNetworkIsOnAlone) {
+  network.RunawayNotice(kComplaint);
+  EXPECT_EQ(switchedOff, 0);
+  EXPECT_EQ(settings.NetworkPort, 2);
+}
+
+TEST_F(LocalNetworkOpen, ComplaintCountsInFullAlone) {
+  settings.LocalNetwork = true;
+  network.RunawayNotice("Runaway problem!. Please contact MOLVA");
+  network.RunawayNotice("Runaway PROBLEM!. Please contact MOLVA via email.");
+  network.RunawayNotice("A Runaway problem!. Please contact MOLVA via email.");
+  network.RunawayNotice("Runa");
+  EXPECT_TRUE(settings.LocalNetwork);
 }
 
 }  // namespace

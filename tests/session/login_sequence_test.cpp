@@ -13,9 +13,6 @@ using testing::Not;
 
 namespace {
 
-constexpr const char* kArPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z   arc >";
-constexpr const char* kSpiderPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z dxspider >";
-
 class LoginSequenceTest : public SessionFixture {
  protected:
   // Up to the line that names the software; what was sent up to the call is gone.

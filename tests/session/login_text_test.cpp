@@ -11,8 +11,6 @@ using testing::Not;
 
 namespace {
 
-constexpr const char* kArPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z   arc >";
-constexpr const char* kSpiderPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z dxspider >";
 constexpr const char* kClxPrompt = "k1tst-2 de n0node 2101Z clx >";
 
 class LoginTextTest : public SessionFixture {

@@ -76,4 +76,14 @@ TEST_F(SerialFeed, PortThatVanishesDoesNotDisturbTheSession) {
   EXPECT_THAT(faults, ElementsAre("MSComm2: the device has gone"));
 }
 
+TEST_F(SerialFeed, ComplaintAboutARunawayIsClaimedByNobodyAndNotFedBack) {
+  Receive("Runaway problem!. Please contact MOLVA via email.");
+  EXPECT_FALSE(settings.LocalNetwork);
+  EXPECT_FALSE(program.localNetwork.MSComm2->PortOpen());
+  EXPECT_EQ(localNetworkOff, 1);
+  EXPECT_EQ(configurationWrites, 2) << "one of them at the connect";
+  EXPECT_EQ(device.written, "");
+  EXPECT_EQ(log.Of("First").back(), "Runaway problem!. Please contact MOLVA via email.");
+}
+
 }  // namespace

@@ -58,7 +58,6 @@ session::Session::Needs Station::Needs() {
           .loggers = log,
           .requests = above,
           .clockWork = above,
-          .tncScript = above,
           .defaultNode =
               [] {
                 return session::DefaultNode{"N0DE-1", "127.0.0.1", "7373"};
@@ -78,7 +77,9 @@ session::Session::Needs Station::Needs() {
               [this](std::string_view name, std::string_view what) {
                 faults.push_back(std::string(name) + ": " + std::string(what));
               },
-          .seed = 1};
+          .seed = 1,
+          .askTncScript = [this] { ++askedTncScript; },
+          .localNetworkOff = [this] { ++localNetworkOff; }};
 }
 
 Station::Claim Station::Offer(const std::string& row, std::string_view line) {
@@ -95,17 +96,30 @@ void Station::AddRows() {
     chain.Add(name, [handler](std::string_view line) { return TailIf(handler(line)); });
   };
   using Line = std::string_view;
+  row("TncDisconnectNotice",
+      [this](Line line) { return program.tncNotices.TncDisconnectNotice(line); });
   row("QRX", [this](Line line) { return program.connection.QRX(line); });
+  row("TncConnectedNotice",
+      [this](Line line) { return program.tncNotices.TncConnectedNotice(line); });
+  row("frmTNC.Netrom", [this](Line line) { return program.tncScript.Netrom(line); });
   row("ConnectToNode", [this](Line line) { return program.connection.ConnectToNode(line); });
+  row("RunawayNotice", [this](Line line) {
+    program.localNetwork.RunawayNotice(line);
+    return false;
+  });
   own("First");
   row("LoginPrompt", [this](Line line) { return program.login.LoginPrompt(line); });
   row("PagePrompt", [this](Line line) {
     return session::PagePrompt(line, program.state, program.outgoing, program.intake);
   });
   row("ArFirstPrompt", [this](Line line) { return program.loginSequence.ArFirstPrompt(line); });
+  row("ShTNC", [this](Line line) { return program.tncNotices.ShTNC(line); });
   own("Second");
   row("NoName", [this](Line line) { return program.profileHints.NoName(line); });
   row("SetEmail", [this](Line line) { return program.profileHints.SetEmail(line); });
+  row("ReconnectedNotice",
+      [this](Line line) { return program.tncNotices.ReconnectedNotice(line); });
+  row("RetryNotice", [this](Line line) { return program.tncNotices.RetryNotice(line); });
   row("YourInfo", [this](Line line) { return program.profileHints.YourInfo(line); });
   row("ArpcReply", [this](Line line) { return program.ar17.ArpcReply(line); });
   row("SeventyThree", [this](Line line) { return program.duelling.SeventyThree(line); });
@@ -119,7 +133,7 @@ void Station::AddRows() {
     program.loginSequence.Run(line);
     return false;
   });
-  chain.firstRowForSession = 5;
+  chain.firstRowForSession = 9;
 }
 
 void Station::LetPassUntil(platform::Milliseconds sincePress) {

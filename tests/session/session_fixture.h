@@ -15,6 +15,10 @@
 #include "platform/sim/world.h"
 #include "session/session.h"
 
+// The prompts of a node of either kind.
+inline constexpr const char* kArPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z   arc >";
+inline constexpr const char* kSpiderPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z dxspider >";
+
 // A station whose operator K1TST-2 uses the node N0NODE at node.example:7300, in a simulated world.
 //
 // Its chain has the rows of the session itself, in their order, and three that a test can lay hands
@@ -40,9 +44,7 @@ class Station {
   };
 
   // What was asked of the program above the session.
-  class Above : public session::LoginRequests,
-                public session::ClockWork,
-                public session::TncScript {
+  class Above : public session::LoginRequests, public session::ClockWork {
    public:
     Lines asked;
     void GetEm() override { asked.emplace_back("GetEm"); }
@@ -52,8 +54,6 @@ class Station {
     void Sun() override { ++minutes; }
     void DayChange() override { asked.emplace_back("DayChange"); }
     void EnableLoggingSpots() override { asked.emplace_back("EnableLoggingSpots"); }
-    void Connect() override { asked.emplace_back("Connect"); }
-    void DisconnectTNC() override { asked.emplace_back("DisconnectTNC"); }
     int hours = 0;
     int minutes = 0;
   };
@@ -116,6 +116,8 @@ class Station {
   int profileAsked = 0;
   Lines faults;  // "<name>: <what>"
   int askedUserInfo = 0;
+  int askedTncScript = 0;
+  int localNetworkOff = 0;
   int configurationWrites = 0;
   session::Session program;
 

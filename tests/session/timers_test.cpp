@@ -153,12 +153,12 @@ TEST_F(TimersTest, TimerWithoutADutyDoesNoHarm) {
 }
 
 // An interval of -1 stands for one that is chosen elsewhere or means nothing.
-struct Row {
+struct TimerRow {
   std::size_t index;
   int interval;
   bool on;
 };
-constexpr Row kTable[] = {
+constexpr TimerRow kTimerRows[] = {
     {0, 250, false},   {1, 1000, true},    {2, 5000, false},  {4, 15000, false},
     {5, 5000, false},  {6, 5000, false},   {7, 250, true},    {8, 500, false},
     {9, 2000, false},  {10, 60000, false}, {11, 2000, false}, {12, 60000, true},
@@ -171,8 +171,8 @@ constexpr Row kTable[] = {
 };
 
 TEST_F(TimersTest, EachHasTheIntervalAndTheSwitchOfItsRow) {
-  static_assert(std::size(kTable) == Timers::kCount);
-  for (const Row& row : kTable) {
+  static_assert(std::size(kTimerRows) == Timers::kCount);
+  for (const TimerRow& row : kTimerRows) {
     const auto timer = static_cast<TimerId>(row.index);
     if (row.interval >= 0) {
       EXPECT_EQ(timers.Interval(timer), Milliseconds{row.interval}) << row.index;

@@ -11,13 +11,12 @@ namespace {
 
 using session::NodeKind;
 
-constexpr Moment kNow = {.dayNumber = 20777, .date = "20-Nov-2026", .minutes = 21 * 60};
 constexpr NodeSwitch kOn = NodeSwitch::On;
 constexpr NodeSwitch kOff = NodeSwitch::Off;
 constexpr NodeSwitch kUnknown = NodeSwitch::Unknown;
 
 bool IsPrefix(std::string_view word) {
-  for (const std::string_view prefix : {"K", "DL", "OH", "VK9X", "3Y/B", "4U1UN"})
+  for (const std::string_view prefix : {"K", "DL", "OH", "VK9X", "3Y/B", "4U1UN", "4U1UNX"})
     if (core::SameIgnoringCase(word, prefix)) return true;
   return false;
 }
@@ -26,14 +25,14 @@ const WordFacts kTable = {.CountriesLoaded = true, .isPrefix = IsPrefix};
 
 struct Ending {
   std::string call = "3Y0J";
-  std::string comment = "";
-  std::string tail = "";
+  std::string comment{};
+  std::string tail{};
 };
 
 Spot Read(const Ending& ending, NodeKind kind, const WordFacts& words) {
   Spot spot;
   const Line line = {.call = ending.call, .comment = ending.comment, .tail = ending.tail};
-  EXPECT_TRUE(ParseDxLine(line.Text(), {.kind = kind}, words, kNow, spot));
+  EXPECT_TRUE(ParseDxLine(line.Text(), {.kind = kind}, words, kDeskTime, spot));
   return spot;
 }
 
@@ -88,7 +87,7 @@ TEST(AddedCountry, NeedsTwentyFourCharactersBeforeTheTime) {
   for (const std::size_t width : {22u, 23u}) {
     Spot spot;
     const std::string line = head + WithWord("CW", "DL", width) + " 2116Z";
-    ASSERT_TRUE(ParseDxLine(line, {}, kTable, kNow, spot));
+    ASSERT_TRUE(ParseDxLine(line, {}, kTable, kDeskTime, spot));
     EXPECT_EQ(spot.DxCty, width == 23 ? "DL" : "");
   }
 }

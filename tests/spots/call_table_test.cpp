@@ -32,6 +32,7 @@ TEST(CallTableTest, CallThatStandsTwiceCountsTwice) {
 
 TEST(CallTableTest, EachOfManyCallsIsFoundAndNoOther) {
   std::vector<std::string> calls;
+  calls.reserve(30'000);
   for (int i = 0; i < 30'000; ++i) calls.push_back("K" + std::to_string(i) + "AB");
   const CallTable table({calls.begin(), calls.end()});
   EXPECT_EQ(table.Count(), calls.size());
@@ -43,6 +44,7 @@ TEST(CallTableTest, EachOfManyCallsIsFoundAndNoOther) {
 
 TEST(CallTableTest, TableTakesFewBytesACall) {
   std::vector<std::string> calls;
+  calls.reserve(300'000);
   for (int i = 100'000; i < 400'000; ++i) calls.push_back("K" + std::to_string(i));
   const CallTable table({calls.begin(), calls.end()});
   EXPECT_LT(table.Memory(), calls.size() * 20);

@@ -119,7 +119,7 @@ TEST(LookUpCallsTest, FollowsAShiftedRow) {
 }
 
 TEST(LookUpCallsTest, CallOfASeparatorIsAsterisks) {
-  const std::string row = Stars(kTableWidth);
+  const std::string row = Stars(kDefaultSpotWidth);
   EXPECT_EQ(LookUpCalls(row).call, "************");
   EXPECT_EQ(LookUpCalls(row).spotter, "");
 }

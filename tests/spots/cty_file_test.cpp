@@ -67,10 +67,16 @@ TEST_F(CtyFileTest, ThatHasGoneLeavesNothingOfTheLastOne) {
   EXPECT_EQ(table.CtyCount(), -1);
 }
 
-TEST_F(CtyFileTest, OfFewLinesIsIgnoredWithoutAWord) {
-  Read(Country{}.Line() + "\r\n");
+TEST_F(CtyFileTest, OfFewLinesIsToldAsDamagedAndStays) {
+  const std::string text = CtyText({}).substr(0, 5000);
+  Read(text);
   EXPECT_EQ(table.CtyCount(), -1);
-  EXPECT_THAT(dialogs.shown, IsEmpty());
+  EXPECT_EQ(files.content[path], text);
+  ASSERT_THAT(dialogs.shown, SizeIs(1));
+  EXPECT_EQ(dialogs.shown[0].text,
+            "The file cty.dat is damaged: it holds too few countries\n"
+            "Delete it, and the next start of this program puts a good one in its place.\n"
+            "Directory /molva");
 }
 
 TEST_F(CtyFileTest, WithoutMarionIslandIsRewrittenOnce) {

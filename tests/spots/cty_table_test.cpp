@@ -16,7 +16,7 @@ using testing::EndsWith;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-enum Column { NA, EU, AF, AS, SA, OC };
+enum ContinentColumn { NA, EU, AF, AS, SA, OC };
 
 class CtyTableTest : public testing::Test {
  protected:

@@ -94,6 +94,14 @@ TEST_F(DuplicatesTest, SkimmersSpot301HertzOffIsNone) {
   EXPECT_EQ(Receive(spot), Shown);
 }
 
+TEST_F(DuplicatesTest, HertzAreThoseOfTheDecimalFrequency) {
+  Spot spot = Skimmed();
+  spot.Freq = 8192.3;  // a little less in binary
+  EXPECT_EQ(Receive(spot), Shown);
+  spot.Freq = 8192.6;
+  EXPECT_EQ(Receive(spot), Dupe);
+}
+
 TEST_F(DuplicatesTest, SkimmersSpotTwoMinutesLaterIsOneAndThreeMinutesLaterNone) {
   EXPECT_EQ(Receive(Skimmed("2100")), Shown);
   EXPECT_EQ(Receive(Skimmed("2102")), Dupe);

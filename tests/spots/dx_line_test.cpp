@@ -9,11 +9,9 @@
 namespace spots {
 namespace {
 
-constexpr Moment kNow = {.dayNumber = 20777, .date = "20-Nov-2026", .minutes = 21 * 60};
-
 std::optional<Spot> Parse(std::string_view line, const NodeFacts& node = {}) {
   Spot spot;
-  return ParseDxLine(line, node, {}, kNow, spot) ? std::optional(spot) : std::nullopt;
+  return ParseDxLine(line, node, {}, kDeskTime, spot) ? std::optional(spot) : std::nullopt;
 }
 
 // The spot of a line that must be one.
@@ -259,7 +257,7 @@ TEST(DxLine, NothingOfTheSpotBeforeIsLeft) {
                        &spot.SpotterIp, &spot.OrigLocation};
   for (auto* field : fields) *field = "old";
   spot.ExpandedLine = true;
-  ASSERT_TRUE(ParseDxLine(Line{.comment = ""}.Text(), {}, {}, kNow, spot));
+  ASSERT_TRUE(ParseDxLine(Line{.comment = ""}.Text(), {}, {}, kDeskTime, spot));
   for (const auto* field : fields) EXPECT_EQ(*field, "");
   EXPECT_FALSE(spot.ExpandedLine);
 }

@@ -45,6 +45,13 @@ TEST(ExpandedRow, LongCountryReachesToTheLeft) {
   EXPECT_EQ(Text(spot, {.DxCty = true}), "DL1ABC          14025.0 2116Z 3Y0J    VP8/G-XYZ");
 }
 
+TEST(ExpandedRow, CountryWithItsMarkTakesSeventeenColumnsAtMost) {
+  Spot spot = UsualSpot();
+  spot.LotwMark = "=";
+  spot.DxCty = "ABCDEFGHIJKLMNOPQRSTUVW";
+  EXPECT_EQ(Text(spot, {.DxCty = true}), "DL1ABC          14025.0=2116Z =ABCDEFGHIJKLMNOP");
+}
+
 TEST(ExpandedRow, CheckedFieldsAreAlignedAsTheirColumnsAre) {
   Spot spot = UsualSpot();
   spot.Node = "GB7DXC";

@@ -9,9 +9,9 @@ namespace spots {
 namespace {
 
 using session::NodeKind;
-using Fields = std::vector<std::string>;
+using LineFields = std::vector<std::string>;
 
-std::string Joined(const Fields& fields) {
+std::string Joined(const LineFields& fields) {
   std::string line;
   for (const std::string& field : fields) line += field + "^";
   line.pop_back();
@@ -19,33 +19,34 @@ std::string Joined(const Fields& fields) {
 }
 
 // Each field has a text of its own, so that one in the wrong place shows.
-Fields Ar17() {
+LineFields Ar17() {
   return {"AR17",   "f1",  "14025.25", "3Y0J", "20-Nov-2026", "2116Z", "CW up 2",
           "DL1ABC", "W1A", "+3Y/B",    "f10",  "f11",         "38",    "67",
           "f14",    "DL",  "BY",       "f17",  "f18"};
 }
 
-Fields Zv11(std::size_t count = 20) {
-  Fields fields = {"ZV11", "14025.25", "3Y0J", "20-Nov-2026", "2116Z", "CW up 2", "K1A",
-                   "f7",   "f8",       "W1A",  "67",          "38",    "08",      "05",
-                   "ST",   "MA",       "3Y/B", "K",           "JD15",  "FN42"};
+LineFields Zv11(std::size_t count = 20) {
+  LineFields fields = {"ZV11", "14025.25", "3Y0J", "20-Nov-2026", "2116Z", "CW up 2", "K1A",
+                       "f7",   "f8",       "W1A",  "67",          "38",    "08",      "05",
+                       "ST",   "MA",       "3Y/B", "K",           "JD15",  "FN42"};
   while (fields.size() < count) fields.push_back("f" + std::to_string(fields.size()));
   fields.resize(count);
   return fields;
 }
 
-Fields With(Fields fields, std::size_t number, const std::string& text) {
+LineFields With(LineFields fields, std::size_t number, const std::string& text) {
   fields[number] = text;
   return fields;
 }
 
-Spot ReadAr17(const Fields& fields) {
+Spot ReadAr17(const LineFields& fields) {
   Spot spot;
   EXPECT_EQ(ParseAr17Line(Joined(fields), spot), LineOutcome::Spot);
   return spot;
 }
 
-Spot ReadZv11(const Fields& fields, NodeKind kind = NodeKind::Unknown, bool keepsGrids = false) {
+Spot ReadZv11(const LineFields& fields, NodeKind kind = NodeKind::Unknown,
+              bool keepsGrids = false) {
   Spot spot;
   EXPECT_EQ(ParseZV11Line(Joined(fields), {.kind = kind}, keepsGrids, spot), LineOutcome::Spot);
   return spot;
@@ -61,7 +62,7 @@ LineOutcome OutcomeOfZv11(const std::string& line) {
 TEST(Ar17Malformed, AnyOtherNumberOfFieldsThanNineteenIsAnError) {
   Spot spot;
   for (const std::size_t count : {1u, 2u, 18u, 20u, 40u}) {
-    Fields fields = Ar17();
+    LineFields fields = Ar17();
     fields.resize(count);
     EXPECT_EQ(ParseAr17Line(Joined(fields), spot), LineOutcome::FieldError) << count;
   }
@@ -78,13 +79,13 @@ TEST(Ar17Malformed, WrongTagIsNoErrorAndNoSpot) {
 
 TEST(Ar17Malformed, FarTooLongIsNoSpot) {
   Spot spot;
-  const Fields fields = With(Ar17(), 6, std::string(1'000'000, 'x'));
+  const LineFields fields = With(Ar17(), 6, std::string(1'000'000, 'x'));
   EXPECT_EQ(ParseAr17Line(Joined(fields), spot), LineOutcome::None);
 }
 
 TEST(Ar17Malformed, EmptyFieldsAreEmpty) {
   const Spot spot = ReadAr17(
-      Fields{"AR17", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", ""});
+      LineFields{"AR17", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", ""});
   EXPECT_EQ(spot.Freq, 0);
   EXPECT_EQ(spot.SpotHHMM, 0);
   EXPECT_EQ(spot.DxCq, "");
@@ -232,7 +233,7 @@ TEST(Zv11, PlaceAndAddressOfTheSpotBeforeAreGone) {
 }
 
 TEST(Zv11, GridsAreCutWhereTheyAreKept) {
-  const Fields fields = With(With(Zv11(), 18, "FS20AB"), 19, "FN20AB");
+  const LineFields fields = With(With(Zv11(), 18, "FS20AB"), 19, "FN20AB");
   EXPECT_EQ(ReadZv11(fields, NodeKind::Spider, true).OrigGrid, "FN20");
   EXPECT_EQ(ReadZv11(fields, NodeKind::Spider, true).DxGrid, "FS20AB");
   EXPECT_EQ(ReadZv11(fields, NodeKind::Spider, false).OrigGrid, "FN20AB");

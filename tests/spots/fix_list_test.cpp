@@ -13,6 +13,7 @@ namespace spots {
 namespace {
 
 using namespace std::chrono_literals;
+using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
@@ -254,8 +255,8 @@ TEST_F(FixListTest, FileOfTheNewFormIsNotRewritten) {
 }
 
 TEST_F(FixListTest, MalformedLinesAreSkipped) {
-  Have("<html>\r\n\"K1 ABC\",\"K\"\r\nG0AA,G\r\n" + std::string("\0\xFF,K\r\n", 7) +
-       std::string(100'000, 'X') + "\r\n\"DL1\",\"DL");
+  Have("<html>\r\n\"K1 ABC\",\"K\"\r\nG0AA,G\r\n" + "\0\xFF,K\r\n"s + std::string(100'000, 'X') +
+       ",K\r\n\"DL1\",\"DL");
   EXPECT_EQ(list.FixCount(), 2u);
   EXPECT_EQ(CtyOf("G0AA"), "G");
   EXPECT_EQ(CtyOf("DL1"), "DL");

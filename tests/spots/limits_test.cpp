@@ -92,6 +92,7 @@ TEST_F(Limits, SeparatorOfTheTabOutlivesTheCut) {
 }
 
 TEST_F(Limits, EveryStoreOfEveryBandAndViewHasOne) {
+  receivers.alarms = true;
   ReceiveAlternately(5'000);
   for (int band = 0; band < spots::kBandCount; ++band)
     for (int view = 0; view < kViews; ++view) {
@@ -99,6 +100,7 @@ TEST_F(Limits, EveryStoreOfEveryBandAndViewHasOne) {
       EXPECT_LE(Characters(band, view), memory * 1100 + 100) << band << " view " << view;
     }
   EXPECT_GT(Characters(k20m, 2), 9'000u);
+  EXPECT_GT(Characters(spots::kAlarmBand, 0), 4'000u);
 }
 
 TEST_F(Limits, QuietBandKeepsItsSpotsWhileABusyOneTurnsOver) {

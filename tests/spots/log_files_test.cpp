@@ -73,6 +73,7 @@ TEST_F(LogFiles, DeletionLeavesWhatTheLogDidNotMake) {
                                           "2009/dx-30-Feb-2009.txt",
                                           "2009/dx-notes.txt",
                                           "2009/tmp.txt",
+                                          "20090/dx-12-Jun-2009.txt",
                                           "backup/dx-12-Jun-2009.txt",
                                           "dx-12-Jun-2009.txt"};
   for (const std::string& name : names) Has(name);
@@ -81,6 +82,7 @@ TEST_F(LogFiles, DeletionLeavesWhatTheLogDidNotMake) {
 }
 
 TEST_F(LogFiles, DeletionAlwaysKeepsTodays) {
+  Has("2026/dx-19-Nov-2026.txt");
   Has("2026/dx-20-Nov-2026.txt");
   for (const int days : {0, -5}) Delete(days);
   EXPECT_THAT(Left(), ElementsAre("2026/dx-20-Nov-2026.txt"));

@@ -188,6 +188,41 @@ TEST_F(MembershipTest, FileThatMayNotBeReadIsAnEmptyList) {
   EXPECT_EQ(membership.LotwCount(), 0u);
 }
 
+TEST_F(MembershipTest, FiftyMegabytesOfCallsAreReadInPartAndNotWrittenOver) {
+  std::string calls;
+  while (calls.size() < 50'000'000) calls += "K1ABC\n";
+  const std::string text = EqslText(calls);
+  world.files.content["/f/eqsl.txt"] = text;
+  membership.ReadeQSL();
+  EXPECT_EQ(membership.EqslCount(), kMostMembers);
+  EXPECT_EQ(world.files.content["/f/eqsl.txt"], text);
+  EXPECT_LT(membership.Memory(), 50u << 20);
+}
+
+TEST_F(MembershipTest, FiftyMegabytesWithoutALineEndAreNoCall) {
+  world.files.content["/f/eqsl.txt"] = EqslText("k1abc\r\n" + std::string(50'000'000, 'K'));
+  world.files.content["/f/lotw.txt"] = LotwText(std::string(50'000'000, 'K'));
+  membership.ReadLotw();
+  membership.ReadeQSL();
+  EXPECT_EQ(membership.LotwCount(), 5u);
+  EXPECT_EQ(membership.EqslCount(), 1u);
+  EXPECT_LT(membership.Memory(), 10'000u);
+}
+
+TEST_F(MembershipTest, FileThatIsCutAnywhereGivesTheCallsBeforeTheCut) {
+  const std::string lotw = LotwText("K1BOTH        K1LOTW\r\n");
+  const std::string eqsl = EqslText("k1eqsl\r\nk1both\r\n");
+  for (std::size_t end = 0; end <= eqsl.size(); ++end) {
+    world.files.content["/f/lotw.txt"] = lotw.substr(0, end);
+    world.files.content["/f/eqsl.txt"] = eqsl.substr(0, end);
+    membership.ReadLotw();
+    membership.ReadeQSL();
+    EXPECT_EQ(membership.LotwCount(), 0u) << "damaged";
+    EXPECT_LE(membership.EqslCount(), 2u);
+  }
+  EXPECT_EQ(membership.EqslCount(), 2u);
+}
+
 TEST_F(MembershipTest, FetchedLotwListIsWrittenOutACallALine) {
   world.files.content["/f/lotw.txt"] = LotwText("K1BOTH        K1LOTW(5)     K1(9+)\r\n");
   membership.ReadLotw();

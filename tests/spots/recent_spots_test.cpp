@@ -14,15 +14,15 @@
 namespace spots {
 namespace {
 
-constexpr int kNow = 29'000'000;
+constexpr int kPresentMinute = 29'000'000;
 
-Spot Heard() {
+Spot HeardSpot() {
   Spot spot;
   spot.Freq = 14025.0;
   spot.DxCall = "3Y0J";
   spot.Spotter = "W1ABC";
   spot.Comment = "CW up 2";
-  spot.SpotMinute = kNow;
+  spot.SpotMinute = kPresentMinute;
   return spot;
 }
 
@@ -31,7 +31,7 @@ class RecentSpotsTest : public testing::Test {
   RecentSpotsTest() { recent.Record(spot); }
 
   RecentSpots recent;
-  Spot spot = Heard();
+  Spot spot = HeardSpot();
 };
 
 TEST_F(RecentSpotsTest, SameSpotIsHeld) { EXPECT_TRUE(recent.Hold(spot)); }
@@ -54,11 +54,11 @@ TEST_F(RecentSpotsTest, ThirtyOneHundredthsAreNot) {
 
 TEST_F(RecentSpotsTest, FourMinutesAreNearAndFiveAreNot) {
   for (const int minutes : {-4, 4}) {
-    spot.SpotMinute = kNow + minutes;
+    spot.SpotMinute = kPresentMinute + minutes;
     EXPECT_TRUE(recent.Hold(spot)) << minutes;
   }
   for (const int minutes : {-5, 5}) {
-    spot.SpotMinute = kNow + minutes;
+    spot.SpotMinute = kPresentMinute + minutes;
     EXPECT_FALSE(recent.Hold(spot)) << minutes;
   }
 }
@@ -104,7 +104,7 @@ TEST_F(RecentSpotsTest, BlanksAroundTheCommentDoNotCount) {
 }
 
 TEST_F(RecentSpotsTest, TwoHundredOthersPushItOut) {
-  Spot other = Heard();
+  Spot other = HeardSpot();
   for (int i = 0; i < 199; ++i) {
     other.DxCall = "K" + std::to_string(i);
     recent.Record(other);
@@ -146,7 +146,7 @@ TEST(RecentSpots, HoldWhatALookAtAllOfThemFinds) {
     spot.Spotter = spotters[static_cast<std::size_t>(below(4))];
     spot.Comment = below(2) == 0 ? "CW" : " CW up";
     spot.Freq = 14025 + below(10) * 0.1;
-    spot.SpotMinute = kNow + i / 20 + below(12) - 6;
+    spot.SpotMinute = kPresentMinute + i / 20 + below(12) - 6;
     bool expected = false;
     for (const Spot& other : last) expected = expected || SameSpot(other, spot);
     ASSERT_EQ(recent.Hold(spot), expected) << "spot " << i;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/sim/sim_files.h"
+#include "session/memory_meter.h"
 
 namespace spots {
 namespace {
@@ -92,6 +93,37 @@ TEST_F(RejectListsTest, FileIsWrittenKindByKind) {
 TEST_F(RejectListsTest, FileThatCanNotBeWrittenIsTold) {
   files.denied.insert(kListsPath);
   EXPECT_EQ(lists.WriteReject(), Fault::Denied);
+}
+
+TEST_F(RejectListsTest, FileThatMayNotBeReadIsNotWrittenOver) {
+  files.content[kListsPath] = "\"Dx\",\"P5DX\"\r\n";
+  files.denied.insert(kListsPath);
+  lists.ReadReject();
+  files.denied.clear();
+  lists.Add(RejectLists::kDx, "K1ABC");
+  EXPECT_EQ(lists.WriteReject(), Fault::Other);
+  EXPECT_EQ(files.content[kListsPath], "\"Dx\",\"P5DX\"\r\n");
+  lists.ReadReject();
+  EXPECT_EQ(lists.WriteReject(), Fault::None);
+}
+
+TEST_F(RejectListsTest, FileBeyondMeasureIsReadInPartAndNotWrittenOver) {
+  std::string text;
+  for (std::size_t i = 0; i <= RejectLists::kMostEntries; ++i)
+    text += "\"Dx\",\"K" + std::to_string(i) + "\"\r\n";
+  Keep(text + "\"Call\",\"W1ABC\"\r\n");
+  EXPECT_EQ(Entries(RejectLists::kDx).size(), RejectLists::kMostEntries);
+  EXPECT_THAT(Entries(RejectLists::kCall), ElementsAre("W1ABC"));
+  EXPECT_EQ(lists.WriteReject(), Fault::Other);
+  EXPECT_FALSE(lists.Add(RejectLists::kDx, "P5DX"));
+}
+
+TEST_F(RejectListsTest, FiftyMegabytesTakeNoMoreThanTheListsHold) {
+  files.content[kListsPath] = "\"Dx\",\"" + std::string(50'000'000, 'K');
+  const std::size_t before = MemoryMeter::Live();
+  lists.ReadReject();
+  EXPECT_LT(MemoryMeter::Live(), before + 5 * RejectLists::kMostBytes);
+  EXPECT_EQ(lists.WriteReject(), Fault::Other);
 }
 
 TEST_F(RejectListsTest, EntriesAreHeldAsTheFileGivesThemBack) {

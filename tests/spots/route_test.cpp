@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "cty_text.h"
 #include "spot_desk.h"
 #include "spots/band_numbers.h"
@@ -147,6 +149,16 @@ TEST_F(Route, BottomOfABandIsAnnouncedUnlessItIsToStayASpot) {
   EXPECT_THAT(CallsInTable(), ElementsAre("K1ABC"));
 }
 
+TEST_F(Route, BottomOfABandIsNotAnnouncedWhileAListComes) {
+  parts.requests.cmdGetSpots("20", "");
+  parts.lines.list.CollectShDxLine(
+      " 14025.0  3Y0J        20-Nov-2026 2055Z  CW                                 <DL1ABC>");
+  ASSERT_TRUE(parts.lines.list.ShDxCollecting());
+  Receive({.kHz = "14000.0"});
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  EXPECT_THAT(receivers.announced, IsEmpty());
+}
+
 TEST_F(Route, SkimmerOnTheBottomOfABandStaysASpot) {
   Receive({.spotter = "DL1ABC-#", .kHz = "14000.0"});
   EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
@@ -197,6 +209,76 @@ TEST_F(Route, LogComesBackAfterARestart) {
   EXPECT_THAT(std::string(again.table.RtbDx.Rows().front().Text()), HasSubstr("a, \"b\" ^"));
   EXPECT_EQ(again.table.RtbDx.Rows().back().RowKind(), spots::TableRow::Kind::Skimmer);
   EXPECT_THAT(receivers.sounds, IsEmpty());
+}
+
+TEST_F(Route, ReloadTellsNobodyElse) {
+  Receive(Line{});
+  parts.Close();
+  parts.ClearSpots();
+  receivers.takesLines = true;
+  settings.SendToLog = 1 << 1;
+  table.rail.optBand.UserSelects(k20m);
+  parts.reload.ReloadSpots();
+  world.Run(1s);
+  EXPECT_THAT(CallsInTable(), Contains("3Y0J"));
+  EXPECT_THAT(receivers.fed, IsEmpty());
+  EXPECT_THAT(receivers.logWindow, IsEmpty());
+  EXPECT_THAT(receivers.sounds, IsEmpty());
+}
+
+TEST_F(Route, ReloadAtAnyTimeShowsWhatIsLoggedOnce) {
+  for (int i = 0; i < 300; ++i) Receive({.call = "K" + std::to_string(i) + "ABC"});
+  for (const bool again : {false, true}) {
+    parts.reload.ReloadSpots();
+    world.Run(1s);
+    EXPECT_THAT(CallsInTable(), SizeIs(300)) << again;
+  }
+}
+
+TEST_F(Route, ReloadKeepsWhatWasNotLogged) {
+  settings.LogDxSpots = false;
+  Receive(Line{});
+  parts.reload.ReloadSpots();
+  world.Run(1s);
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+}
+
+TEST_F(Route, StartReloadsOnlyIfTheLogIsKeptToo) {
+  settings.LoadLogFileOnStartup = true;
+  for (const bool kept : {false, true}) {
+    settings.LogDxSpots = kept;
+    parts.BeginLog();
+    EXPECT_EQ(parts.spotsForm.Open.Get(), kept);
+    EXPECT_EQ(std::ranges::count(rawText, "Reloading Dx Spots From Log File"), kept);
+  }
+}
+
+TEST_F(Route, OldLogsAreDeletedAtTheStartIfTheyAreToBe) {
+  const std::string old = "/home/2026/dx-12-Nov-2026.txt";
+  for (const bool deletes : {false, true}) {
+    world.files.content[old] = "x";
+    settings.DeleteDxLogs = deletes;
+    parts.BeginLog();
+    EXPECT_EQ(world.files.content.contains(old), !deletes);
+  }
+}
+
+TEST_F(Route, OldLogThatTheReloadOfTheStartWantsIsDeletedBehindIt) {
+  const std::string yesterday = "/home/2026/dx-19-Nov-2026.txt";
+  world.files.content[yesterday] = "2350,14025.0,3Y0J,DL1ABC,,up,,,,,,,,,,,,,~\r\n";
+  settings.LoadLogFileOnStartup = settings.DeleteDxLogs = true;
+  settings.ReloadHours = 24;
+  settings.KeepSpotsDays = 1;
+  parts.BeginLog();
+  world.Run(1s);
+  EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
+  EXPECT_FALSE(world.files.content.contains(yesterday));
+}
+
+TEST_F(Route, SpotsThatTheUserAsksForAreAListThatRuns) {
+  parts.requests.cmdGetSpots("20", "");
+  EXPECT_TRUE(parts.lines.list.SpotListBusy());
+  EXPECT_FALSE(parts.lines.list.ShDxDone);
 }
 
 TEST_F(Route, SortedViewFollowsTenTimesASecond) {
@@ -315,9 +397,11 @@ TEST_F(Route, LogWindowIsFedWhateverTheLoggersWant) {
 }
 
 TEST_F(Route, EndOfTheSessionForgetsWhatTheNodeSends) {
+  parts.rejectLists.NoteCountryWord();
   parts.lines.ZV11CarrotCounter("ZV11^1");
   EXPECT_FALSE(Receive(Line{}));
   parts.Disconnected();
+  EXPECT_FALSE(parts.rejectLists.CountryWordSeen.Get());
   EXPECT_TRUE(Receive(Line{}));
 }
 

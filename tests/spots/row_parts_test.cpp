@@ -160,6 +160,14 @@ TEST(DrawnRowTest, WordsOfAShiftedRowAreFound) {
   EXPECT_EQ(FieldOf(row, layout, Column::DxCall), "VERYLONG/CALL/MM");
 }
 
+TEST(RowPartsTest, NodeEndsWhereAWideFrequencyReachesIntoItsColumns) {
+  Spot spot = UsualSpot();
+  spot.Node = "GB7DJK";
+  spot.Freq = 10368100;
+  const TableRow row = RowOf(spot, Expanded({.Node = true}));
+  EXPECT_EQ(FieldOf(row, ArPcScreenSetup(row.Shape()), Column::Node), "GB7DJK");
+}
+
 TEST(RowPartsTest, WhateverTheBytesTheyLieWithinTheRow) {
   std::mt19937 random(7);
   const std::string letters = "DX de :19.0Z \xC3\xA9*";

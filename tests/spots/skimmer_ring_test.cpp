@@ -148,6 +148,7 @@ TEST(SkimmerRing, EndlessCallsCountByTheirBeginning) {
 TEST(SkimmerRing, AllocatesNothingOnceItHasItsSlots) {
   SkimmerRing ring;
   std::vector<std::string> calls;
+  calls.reserve(500);
   for (int i = 0; i < 500; ++i) calls.push_back(CallNumber(i));
   for (int i = 0; i < 1000; ++i) ring.Record(kHz, calls[static_cast<std::size_t>(i) % 500], kNow);
   const std::size_t before = MemoryMeter::Allocated();
@@ -261,7 +262,7 @@ TEST_P(SkimmerRingIsTheWalk, WhateverIsHeard) {
     const int now = kNow + i / evening.spotsAMinute + i / 2500 * 15;
     const int minute = SpotMinute(now);
     const std::string call = CallNumber(Below(evening.calls));
-    const std::int64_t hz = kHz + Below(evening.frequencies) * 97;
+    const std::int64_t hz = kHz + std::int64_t{97} * Below(evening.frequencies);
     bool record = true;
     if (Below(50) != 0) {  // else a spot that is recorded unasked
       const auto expected = walked.Find(hz, call, minute);

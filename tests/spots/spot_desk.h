@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/sim/world.h"
+#include "spots/spot_date.h"
 #include "spots/spot_parts.h"
 
 // A plain line, in the columns of a DXSpider node.
@@ -16,10 +17,14 @@ struct Line {
   std::string call = "3Y0J";
   std::string comment = "CW up 2";
   std::string time = "2116";
-  std::string tail = "";  // behind the time
+  std::string tail{};  // behind the time
 
   std::string Text() const;
 };
+
+// The moment at which a spot desk opens.
+inline constexpr spots::Moment kDeskTime = {
+    .dayNumber = 20777, .date = "20-Nov-2026", .minutes = 21 * 60};
 
 // A spot pipeline at a node that sends plain lines, in a simulated world where it is
 // 20 November 2026, 21:00 UTC.
@@ -45,21 +50,25 @@ class SpotDesk : public testing::Test {
   // What else hears of spots.
   struct Receivers : spots::SpotReceivers, spots::CountryFilter {
     bool takesLines = false;
-    bool alarms = false;  // of every spot
-    Texts raw, fed, logWindow, announced, sounds;
+    bool alarms = false;           // of every spot
+    bool hasBuddies = false;       // who wait for every call
+    bool limitsCountries = false;  // to none at all
+    Texts raw, fed, logWindow, buddies, announced, sounds;
 
     bool TakesLines() override { return takesLines; }
     void ForwardRawToLoggers(std::string_view line) override { raw.emplace_back(line); }
     void FeedLoggers(std::string_view line) override { fed.emplace_back(line); }
     void FeedLogWindow(std::string_view line) override { logWindow.emplace_back(line); }
-    void TellBuddies(const spots::Spot&, std::string_view) override {}
+    void TellBuddies(const spots::Spot& spot, std::string_view) override {
+      if (hasBuddies) buddies.push_back(spot.DxCall);
+    }
     void Announce(std::string_view text, std::string_view) override {
       announced.emplace_back(text);
     }
     bool CheckAlarm(const spots::Spot&, std::string_view) override { return alarms; }
     void WaveQue(std::string_view name) override { sounds.emplace_back(name); }
-    bool LimitsDxCountries() const override { return false; }
-    bool DxCountryTicked(std::string_view) const override { return true; }
+    bool LimitsDxCountries() const override { return limitsCountries; }
+    bool DxCountryTicked(std::string_view) const override { return !limitsCountries; }
   };
 
   spots::SpotParts::Needs Needs();

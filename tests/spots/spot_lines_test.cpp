@@ -30,6 +30,7 @@ class SpotLinesTest : public testing::Test {
   bool Receive(std::string_view line) {
     return lines.ar17(line) || lines.ZV11CarrotCounter(line) || lines.CollectShDxLine(line);
   }
+  bool ClockIsOut() const { return lines.clockCheck.HourOut.Get(); }
   const core::Label& Ar17Errors() const { return lines.errors.lblAr17Errors; }
   const core::Label& Zv11Errors() const { return lines.errors.lblZv11Errors; }
 
@@ -39,7 +40,6 @@ class SpotLinesTest : public testing::Test {
   WordFacts words;
   bool probing = false;
   int emptyLines = 0;
-  int offsetsRead = 0;
   std::vector<std::string> linked;
   std::vector<std::string> grids;
   std::vector<Spot> shown;
@@ -65,7 +65,6 @@ class SpotLinesTest : public testing::Test {
                           [this](std::string_view grid, std::string_view call) {
                             grids.push_back(std::string(grid) + " " + std::string(call));
                           },
-                      .readUtcOffset = [this] { ++offsetsRead; },
                       .DisplayDx =
                           [this] {
                             ++displayed;
@@ -145,10 +144,12 @@ TEST_F(SpotLinesTest, Ar17LineGoesToTheOtherCopyWithTheNode) {
 
 TEST_F(SpotLinesTest, ClockIsCheckedByAr17Spots) {
   EXPECT_TRUE(Receive(kAr17));
-  EXPECT_EQ(offsetsRead, 0);
+  EXPECT_FALSE(ClockIsOut());
   world.Run(76min);
   EXPECT_TRUE(Receive(kAr17));
-  EXPECT_EQ(offsetsRead, 1);
+  EXPECT_TRUE(ClockIsOut());
+  lines.Disconnected();
+  EXPECT_FALSE(ClockIsOut());
 }
 
 TEST_F(SpotLinesTest, Zv11SpotIsShownOnceTheListIsDone) {
@@ -174,15 +175,24 @@ TEST_F(SpotLinesTest, OnlyFreshZv11SpotsOfAnOwnNodeAreLinkedAndCheckTheClock) {
   world.Run(76min);
   Receive(std::string(kZv11) + "^");
   EXPECT_THAT(linked, IsEmpty());
-  EXPECT_EQ(offsetsRead, 0);
+  EXPECT_FALSE(ClockIsOut());
   node.kind = NodeKind::Zelva;
   Receive(kZv11);
   EXPECT_THAT(linked, IsEmpty());
-  EXPECT_EQ(offsetsRead, 0);
+  EXPECT_FALSE(ClockIsOut());
   Receive(std::string(kZv11) + "^");
   EXPECT_THAT(linked, ElementsAre(std::string(kZv11) + "^ (K1TST)"));
-  EXPECT_EQ(offsetsRead, 1);
+  EXPECT_TRUE(ClockIsOut());
   EXPECT_EQ(shown.size(), 3u);
+}
+
+TEST_F(SpotLinesTest, RowsOfAListSayNothingOfTheClock) {
+  node.kind = NodeKind::Zelva;
+  world.Run(76min);
+  Receive(std::string(kZv11) + "^");
+  Receive(kPrompt);
+  EXPECT_EQ(shown.size(), 1u);
+  EXPECT_FALSE(ClockIsOut());
 }
 
 TEST_F(SpotLinesTest, GridsAreRecordedOnDxSpider) {
@@ -240,6 +250,14 @@ TEST_F(SpotLinesTest, PlainRowsAmongExtendedOnesAreErrors) {
   Receive(kPlainRow);
   Receive(kPrompt);
   EXPECT_EQ(shown.size(), 1u);
+  EXPECT_EQ(Zv11Errors().Caption.Get(), "ZV11 Errors = 1");
+}
+
+TEST_F(SpotLinesTest, PlainRowsOfAnOwnNodeAreErrors) {
+  node.kind = NodeKind::Zelva;
+  Receive(kPlainRow);
+  Receive(kPrompt);
+  EXPECT_THAT(shown, IsEmpty());
   EXPECT_EQ(Zv11Errors().Caption.Get(), "ZV11 Errors = 1");
 }
 

@@ -10,7 +10,6 @@ namespace spots {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -18,7 +17,7 @@ using testing::SizeIs;
 constexpr std::string_view kListPrompt = "N0CALL de K1TST 20-Nov-2026 2116Z arc >";
 constexpr std::string_view kNotFound = "sh/dx: '99 NB0DY' not found";
 
-std::string Row(const std::string& comment) {
+std::string FoundRow(const std::string& comment) {
   return " 14025.0  3Y0J        20-Nov-2026 2116Z " + comment + "<DL1ABC>";
 }
 
@@ -26,7 +25,7 @@ class SpotListTest : public testing::Test {
  protected:
   bool Receive(std::string_view line) { return list.CollectShDxLine(line); }
   void ReceiveRows(int count) {
-    for (int i = 1; i <= count; ++i) EXPECT_TRUE(Receive(Row(std::to_string(i))));
+    for (int i = 1; i <= count; ++i) EXPECT_TRUE(Receive(FoundRow(std::to_string(i))));
   }
   bool Ended() const { return list.ShDxDone && !list.ShDxCollecting() && !list.SpotListBusy(); }
 
@@ -70,7 +69,7 @@ TEST_F(SpotListTest, RowsAreClaimedAndKeptUntilThePrompt) {
   EXPECT_FALSE(list.ShDxDone);
   EXPECT_THAT(replayed, IsEmpty());
   EXPECT_FALSE(Receive(kListPrompt));
-  EXPECT_THAT(replayed, ElementsAre(Row("1"), Row("2")));
+  EXPECT_THAT(replayed, ElementsAre(FoundRow("1"), FoundRow("2")));
   EXPECT_TRUE(Ended());
   EXPECT_EQ(begun, 1);
   EXPECT_EQ(sorted, 1);
@@ -88,15 +87,15 @@ TEST_F(SpotListTest, NewestFirstIsReplayedFromItsEnd) {
   newestFirst = true;
   ReceiveRows(3);
   Receive(kListPrompt);
-  EXPECT_THAT(replayed, ElementsAre(Row("3"), Row("2"), Row("1")));
+  EXPECT_THAT(replayed, ElementsAre(FoundRow("3"), FoundRow("2"), FoundRow("1")));
 }
 
 TEST_F(SpotListTest, KeepsTheFirstHundredRowsAndCountsAll) {
   ReceiveRows(150);
   Receive(kListPrompt);
   ASSERT_THAT(replayed, SizeIs(100));
-  EXPECT_EQ(replayed.front(), Row("1"));
-  EXPECT_EQ(replayed.back(), Row("100"));
+  EXPECT_EQ(replayed.front(), FoundRow("1"));
+  EXPECT_EQ(replayed.back(), FoundRow("100"));
   EXPECT_EQ(list.lblCount.Caption.Get(), "150");
 }
 
@@ -116,16 +115,16 @@ TEST_F(SpotListTest, NothingOfTheListBeforeIsReplayedAgain) {
   list.AskedForSpots();
   ReceiveRows(1);
   Receive(kListPrompt);
-  EXPECT_THAT(replayed, ElementsAre(Row("1")));
+  EXPECT_THAT(replayed, ElementsAre(FoundRow("1")));
 }
 
 TEST_F(SpotListTest, RowsOfADirectoryAreNotItsOwn) {
   directoryRuns = true;
-  EXPECT_FALSE(Receive(Row("1")));
+  EXPECT_FALSE(Receive(FoundRow("1")));
 }
 
 TEST_F(SpotListTest, GiantRowIsCountedAndNotKept) {
-  EXPECT_TRUE(Receive(Row(std::string(1'000'000, 'x'))));
+  EXPECT_TRUE(Receive(FoundRow(std::string(1'000'000, 'x'))));
   Receive(kListPrompt);
   EXPECT_THAT(replayed, IsEmpty());
   EXPECT_EQ(list.lblCount.Caption.Get(), "1");
@@ -143,6 +142,20 @@ TEST_F(SpotListTest, WithoutRecordsEndsAtTheNextPrompt) {
   EXPECT_EQ(sorted, 1);
 }
 
+TEST_F(SpotListTest, WithoutRecordsAndWithoutAPromptEndsByItself) {
+  list.AskedForSpots();
+  Receive("*** no records found");
+  world.Run(9999ms);
+  EXPECT_FALSE(Ended());
+  world.Run(1ms);
+  EXPECT_TRUE(Ended());
+  list.AskedForSpots();
+  Receive(kListPrompt);
+  Receive("*** no records found");
+  world.Run(1s);
+  EXPECT_TRUE(Ended());
+}
+
 TEST_F(SpotListTest, NoRecordsAmongRowsIsNotClaimed) {
   ReceiveRows(1);
   EXPECT_FALSE(Receive("*** no records found"));
@@ -153,7 +166,7 @@ TEST_F(SpotListTest, NoRecordsAmongRowsIsNotClaimed) {
 TEST_F(SpotListTest, WithoutAPromptBeforeItAPauseBelongsToIt) {
   ReceiveRows(1);
   world.Run(9s);
-  Receive(Row("2"));
+  Receive(FoundRow("2"));
   EXPECT_FALSE(Ended());
   Receive(kListPrompt);
   EXPECT_THAT(replayed, SizeIs(2));
@@ -174,19 +187,19 @@ TEST_F(SpotListTest, RowsThatComeLateBehindAnotherCommandsPromptAreTheList) {
   Receive(kListPrompt);
   world.Run(3s);
   ASSERT_TRUE(Ended());
-  Receive(Row("1"));
-  Receive(Row("2"));
+  Receive(FoundRow("1"));
+  Receive(FoundRow("2"));
   EXPECT_THAT(replayed, IsEmpty());
   world.Run(1s);
   EXPECT_TRUE(Ended());
-  EXPECT_THAT(replayed, ElementsAre(Row("1"), Row("2")));
+  EXPECT_THAT(replayed, ElementsAre(FoundRow("1"), FoundRow("2")));
 }
 
 TEST_F(SpotListTest, RowsLongAfterAnEmptyListAreNone) {
   list.AskedForSpots();
   Receive(kListPrompt);
   world.Run(12s);
-  EXPECT_TRUE(Receive(Row("1")));
+  EXPECT_TRUE(Receive(FoundRow("1")));
   world.Run(12s);
   EXPECT_THAT(replayed, IsEmpty());
 }
@@ -195,28 +208,28 @@ TEST_F(SpotListTest, BehindAPromptEndsASecondAfterItsLastRow) {
   list.AskedForSpots();
   Receive(kListPrompt);
   world.Run(500ms);
-  Receive(Row("1"));
+  Receive(FoundRow("1"));
   world.Run(999ms);
-  Receive(Row("2"));
+  Receive(FoundRow("2"));
   world.Run(999ms);
   EXPECT_FALSE(Ended());
   world.Run(1ms);
   EXPECT_TRUE(Ended());
-  EXPECT_THAT(replayed, ElementsAre(Row("1"), Row("2")));
+  EXPECT_THAT(replayed, ElementsAre(FoundRow("1"), FoundRow("2")));
   EXPECT_EQ(sorted, 1);
 }
 
 TEST_F(SpotListTest, BehindAPromptNothingElseEndsOrProlongsIt) {
   list.AskedForSpots();
   Receive(kListPrompt);
-  Receive(Row("1"));
+  Receive(FoundRow("1"));
   for (int i = 0; i < 9; ++i) {
     world.Run(100ms);
     for (const std::string_view line : {kListPrompt, kNotFound, std::string_view("hello")})
       Receive(line);
     EXPECT_FALSE(Ended());
   }
-  Receive(Row("2"));
+  Receive(FoundRow("2"));
   world.Run(999ms);
   EXPECT_FALSE(Ended());
   world.Run(1ms);
@@ -348,7 +361,7 @@ TEST_F(SpotListTest, EndsWithTheSessionAndLeavesNothing) {
   EXPECT_EQ(sorted, 0);
   ReceiveRows(1);
   Receive(kListPrompt);
-  EXPECT_THAT(replayed, ElementsAre(Row("1")));
+  EXPECT_THAT(replayed, ElementsAre(FoundRow("1")));
 }
 
 }  // namespace

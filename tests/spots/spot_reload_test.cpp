@@ -45,7 +45,11 @@ class SpotReloadTest : public testing::Test {
                   ++holds;
                   return platform::Registration([this] { --holds; });
                 },
-            .showRaw = [this](std::string_view text) { raw.emplace_back(text); },
+            .showRaw =
+                [this](std::string_view text) {
+                  raw.emplace_back(text);
+                  toldWhileReloading.push_back(reload.Reloading.Get());
+                },
             .isDupe =
                 [this](const Spot& spot) {
                   minutes.push_back(spot.SpotMinute);
@@ -53,8 +57,7 @@ class SpotReloadTest : public testing::Test {
                 },
             .record = [this](const Spot& spot) { recorded.push_back(spot.DxCall); },
             .rejectCounty = [](const Spot& spot) { return spot.DxCall.ends_with("/ABC"); },
-            .show = [this](Spot& spot) { Show(spot); },
-            .redraw = [this] { redrawnWhileReloading.push_back(reload.Reloading.Get()); }};
+            .show = [this](Spot& spot) { Show(spot); }};
   }
   void Show(const Spot& spot) {
     shown.push_back(spot.DxCall);
@@ -72,7 +75,7 @@ class SpotReloadTest : public testing::Test {
   Texts raw, recorded, shown;
   std::set<std::string> comments, dates;
   std::vector<int> minutes;
-  std::vector<bool> redrawnWhileReloading;
+  std::vector<bool> toldWhileReloading;
   std::function<void()> onShow;
   Texts faults;
   SpotReload reload{world.scheduler,
@@ -227,10 +230,10 @@ TEST_F(SpotReloadTest, IntakeIsHeldUntilItsEnd) {
   EXPECT_EQ(holds, 0);
 }
 
-TEST_F(SpotReloadTest, TableIsRedrawnOnceWhenTheFlagIsClear) {
+TEST_F(SpotReloadTest, EndIsToldWhenTheFlagIsClear) {
   File(kToday) = Line("2050", "3Y0J");
   Reload();
-  EXPECT_THAT(redrawnWhileReloading, ElementsAre(false));
+  EXPECT_THAT(toldWhileReloading, ElementsAre(true, true, false));
 }
 
 TEST_F(SpotReloadTest, OthersHaveTheirTurnAfterEachHundredLines) {
@@ -270,7 +273,7 @@ TEST_F(SpotReloadTest, StopEndsItBehindTheLine) {
                                "Reload Aborted"));
   EXPECT_FALSE(world.files.content.contains(kScratch));
   EXPECT_EQ(holds, 0);
-  EXPECT_THAT(redrawnWhileReloading, ElementsAre(false));
+  EXPECT_FALSE(toldWhileReloading.back());
 }
 
 TEST_F(SpotReloadTest, StopThatCameBeforeDoesNotEndTheNext) {
@@ -310,8 +313,7 @@ TEST_F(SpotReloadTest, ItsEndInTheMiddleLetsIntakeGo) {
                       .isDupe = [](const Spot&) { return false; },
                       .record = [](const Spot&) {},
                       .rejectCounty = [](const Spot&) { return false; },
-                      .show = [](Spot&) {},
-                      .redraw = [] {}},
+                      .show = [](Spot&) {}},
                      [](std::string_view, std::string_view) {});
     other.ReloadSpots();
     EXPECT_EQ(holds, 1);

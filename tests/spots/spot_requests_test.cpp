@@ -101,7 +101,7 @@ class SpotRequestsTest : public testing::Test {
                                if (linked) sent.emplace_back(text);
                                return linked;
                              },
-                         .setSpotListBusy = [this](bool value) { busy = value; },
+                         .listRequested = [this] { busy = true; },
                          .setShDxDone = [this](bool value) { done = value; },
                          .missedRequested = [this] { ++timed; },
                          .settingsChanged = [this] { ++changed; }}};

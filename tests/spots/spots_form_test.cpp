@@ -30,8 +30,7 @@ class SpotsFormTest : public testing::Test {
                      .isDupe = [](const Spot&) { return false; },
                      .record = [](const Spot&) {},
                      .rejectCounty = [](const Spot&) { return false; },
-                     .show = [this](Spot&) { ++shown; },
-                     .redraw = [] {}},
+                     .show = [this](Spot&) { ++shown; }},
                     [](std::string_view, std::string_view) {}};
   SpotsForm form{settings,
                  reload,
@@ -101,6 +100,13 @@ TEST_F(SpotsFormTest, ClosingTheFormTakesItsNumbers) {
   EXPECT_EQ(settings.SpotMemoryAll, 1000);
 }
 
+TEST_F(SpotsFormTest, ReloadTakesItsNumbersFirst) {
+  form.Show();
+  form.txtReloadNr.UserTypes("3");
+  form.cmdReload.Press();
+  EXPECT_EQ(settings.ReloadHours, 3);
+}
+
 TEST_F(SpotsFormTest, NumbersThatMakeNoSenseCountAsTheDefault) {
   for (const char* typed : {"", "0", "-7", "many"}) {
     for (core::TextBox* box :
@@ -112,6 +118,14 @@ TEST_F(SpotsFormTest, NumbersThatMakeNoSenseCountAsTheDefault) {
     EXPECT_EQ(settings.SpotMemoryAll, 200) << typed;
     EXPECT_EQ(settings.SpotMemorySingle, 200) << typed;
   }
+}
+
+TEST_F(SpotsFormTest, MemoryHasALeastNumber) {
+  form.txtMemory[0].UserTypes("20");
+  form.txtMemory[1].UserTypes("19");
+  form.Text1.UserPressesReturn();
+  EXPECT_EQ(settings.SpotMemoryAll, 20);
+  EXPECT_EQ(settings.SpotMemorySingle, 200);
 }
 
 TEST_F(SpotsFormTest, ReloadCountsAndCanBeStopped) {
@@ -133,11 +147,9 @@ TEST_F(SpotsFormTest, ReloadCountsAndCanBeStopped) {
 TEST_F(SpotsFormTest, SpotNumbersAreShownAsTheSettingSays) {
   SpotNumbers numbers(settings);
   numbers.ShowRows(57);
-  EXPECT_FALSE(numbers.Shown.Get());
   EXPECT_FALSE(numbers.txtrtb2.Visible.Get());
   settings.ShowSpotNrs = true;
   numbers.SetupSpotNrs();
-  EXPECT_TRUE(numbers.Shown.Get());
   EXPECT_TRUE(numbers.txtrtb2.Visible.Get());
   EXPECT_EQ(numbers.txtrtb2.Caption.Get(), "57");
 }

@@ -15,13 +15,13 @@ namespace spots {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 
 const std::string kHeadLine = "ID NAME                        NORTH    WEST\n";
 const std::string kAlabama = "AL ALABAMA                     32.78   86.83\n";
 const std::string kAlaska = "AK ALASKA                      64.07  152.28\n";
 const std::string kNowhere = "AM NOWHERE                      0.00   90.00\n";
+const std::string kNorthOfNowhere = "AN NORTH OF NOWHERE            9.00    0.00\n";
 
 std::string RepositoryFile() {
   std::ostringstream content;
@@ -61,8 +61,9 @@ TEST_F(StateTableTest, LinesMayEndEitherWay) {
 }
 
 TEST_F(StateTableTest, WithoutAlabamaInTheSecondLineTheFileIsIgnored) {
+  const std::string alaskaFirst = kAlaska + kAlabama;
   for (const std::string& text :
-       {std::string(), kHeadLine, kAlabama, kAlabama + kAlaska, kHeadLine + kAlaska + kAlabama}) {
+       {std::string(), kHeadLine, kAlabama, kAlabama + kAlaska, kHeadLine + alaskaFirst}) {
     table.Read(text);
     EXPECT_EQ(table.StateCount(), 0) << text;
   }
@@ -85,8 +86,9 @@ TEST_F(StateTableTest, HeadingsFollowTheHome) {
 
 TEST_F(StateTableTest, AStateWithoutAPositionKeepsTheHeadingBeforeIt) {
   table.SetHome(home);
-  table.Read(kHeadLine + kAlabama + kAlaska + kNowhere);
+  table.Read(kHeadLine + kAlabama + kAlaska + kNowhere + kNorthOfNowhere);
   EXPECT_EQ(HeadingOf("AM"), HeadingOf("AL"));
+  EXPECT_EQ(HeadingOf("AN"), HeadingOf("AL"));
 }
 
 TEST_F(StateTableTest, WhatIsNoStateEmptiesTheHeading) {
@@ -109,10 +111,11 @@ TEST_F(StateTableTest, HoldsAsManyStatesAsItHasRoomFor) {
 }
 
 TEST_F(StateTableTest, FiftyMegabytesAreHarmless) {
-  const std::string giant(50'000'000, '\n');
+  constexpr std::size_t fiftyMegabytes = 50'000'000;
+  const std::string giant(fiftyMegabytes, '\n');
   table.Read(kHeadLine + kAlabama + giant);
   EXPECT_EQ(table.StateCount(), 1);
-  table.Read(kHeadLine + kAlabama + std::string(50'000'000, 'X'));
+  table.Read(kHeadLine + kAlabama + std::string(fiftyMegabytes, 'X'));
   EXPECT_EQ(table.StateCount(), 1);
   table.Read(giant);
   EXPECT_EQ(table.StateCount(), 1);

@@ -33,7 +33,7 @@ class Node : private House {
  public:
   Node(platform::Scheduler& scheduler, const platform::Clock& clock, platform::Network& network,
        NodeFacts facts, StreamPlan stream);
-  ~Node();
+  ~Node() override;
   Node(const Node&) = delete;
   Node& operator=(const Node&) = delete;
 

@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <optional>
+#include <utility>
 
 namespace platform::qt {
 namespace {

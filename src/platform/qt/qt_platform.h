@@ -8,6 +8,7 @@
 #include "platform/qt/qt_http.h"
 #include "platform/qt/qt_name_lookup.h"
 #include "platform/qt/qt_network.h"
+#include "platform/qt/qt_programs.h"
 #include "platform/qt/qt_scheduler.h"
 #include "platform/qt/qt_serial.h"
 
@@ -30,6 +31,7 @@ class QtPlatform {
   QtDialogs dialogs_;
   QtBrowser browser_;
   QtHttp http_;
+  QtPrograms programs_;
 };
 
 }  // namespace platform::qt

@@ -12,6 +12,9 @@ namespace {
 
 constexpr qint64 kReadBuffer = qint64{64} * 1024;
 
+// A stream of lines is taken in batches: each wake-up of the program costs more than a line does.
+constexpr Milliseconds kBatch{33};
+
 // How long a closed socket may go on sending to a peer that doesn't take it.
 constexpr Milliseconds kLongestFarewell = std::chrono::seconds(30);
 
@@ -170,7 +173,10 @@ bool QtTcpTransport::Connected() const {
 void QtTcpTransport::TellLater(News news) {
   if (!news_.empty() && news_.back() == news) return;
   news_.push_back(news);
-  if (news_.size() == 1) telling_ = scheduler_.Post([this] { Tell(); });
+  if (news_.size() > 1) return;
+  const bool batched = news == News::Readable;
+  const Milliseconds due = batched ? toldReadable_ + kBatch : Milliseconds{0};
+  telling_ = scheduler_.After(due - scheduler_.Now(), [this] { Tell(); });
 }
 
 void QtTcpTransport::Tell() {
@@ -183,6 +189,7 @@ void QtTcpTransport::Tell() {
     case News::Connected:
       return events->OnConnected();
     case News::Readable:
+      toldReadable_ = scheduler_.Now();
       return events->OnReadable();
     case News::PeerClosed:
       return events->OnPeerClosed();

@@ -40,7 +40,8 @@ class QtTcpTransport final : public TcpTransport {
   QObject& leaving_;
   QObject receiver_;  // of the signals
   QTcpSocket* socket_ = nullptr;
-  std::deque<News> news_;  // not yet told
+  std::deque<News> news_;             // not yet told
+  Milliseconds toldReadable_{-1000};  // when it was last told that there is something to read
   bool ended_ = false;
   SocketFault fault_;
   std::string rest_;  // received and unread when the stream ended

@@ -8,6 +8,7 @@
 #include "platform/sim/sim_files.h"
 #include "platform/sim/sim_http.h"
 #include "platform/sim/sim_network.h"
+#include "platform/sim/sim_programs.h"
 #include "platform/sim/sim_serial.h"
 #include "platform/timer_queue.h"
 
@@ -61,9 +62,11 @@ class World {
   SimDialogs dialogs;
   SimBrowser browser;
   SimHttp http;
+  SimPrograms programs;
 
   Platform platform() {
-    return {scheduler, clock, network, network, serialPorts, files, dialogs, browser, http};
+    return {scheduler, clock,   network, network, serialPorts,
+            files,     dialogs, browser, http,    programs};
   }
 
   // Lets that much time pass.

@@ -24,10 +24,8 @@ class FakeDesktop : public QObject {
   ~FakeDesktop() override {
     for (const char* scheme : kSchemes) QDesktopServices::unsetUrlHandler(scheme);
   }
+  Q_SLOT void Take(const QUrl& url) { asked.push_back(url.toString().toStdString()); }
   std::vector<std::string> asked;
-
- public slots:
-  void Take(const QUrl& url) { asked.push_back(url.toString().toStdString()); }
 
  private:
   static constexpr std::array kSchemes = {"http",   "https", "javascript", "file",

@@ -34,16 +34,15 @@ class FakePortal : public QObject {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
  public:
-  uint scheme = 0;
-  bool refuses = false;
-  int asked = 0;
-
- public slots:
-  QDBusVariant Read(const QString& space, const QString& key, const QDBusMessage&) {
+  Q_SLOT QDBusVariant Read(const QString& space, const QString& key, const QDBusMessage&) {
     ++asked;
     if (refuses || space != kAppearance || key != kScheme) return QDBusVariant(QString("no"));
     return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme)));
   }
+
+  uint scheme = 0;
+  bool refuses = false;
+  int asked = 0;
 };
 
 namespace {

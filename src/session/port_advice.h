@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace session {
+
+// What is wrong with a serial port and what to do next, for the user. `device` is its path, empty
+// if none is chosen; `why` is what platform::SerialPort said.
+std::string PortAdvice(std::string_view device, std::string_view why);
+
+}  // namespace session

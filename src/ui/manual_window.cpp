@@ -1,0 +1,59 @@
+#include "ui/manual_window.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ui {
+namespace {
+
+constexpr QSize kUsualSize(760, 640);
+constexpr int kMargin = 8;
+
+// A picture of a window is wider than a page that is read: it is drawn as wide as the page.
+class Page : public QTextBrowser {
+ public:
+  using QTextBrowser::QTextBrowser;
+
+  QVariant loadResource(int type, const QUrl& name) override {
+    const QVariant content = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) return content;
+    const QImage picture = QImage::fromData(content.toByteArray());
+    const int room = viewport()->width() - 4 * kMargin;
+    return picture.width() > room ? picture.scaledToWidth(room, Qt::SmoothTransformation) : picture;
+  }
+};
+
+}  // namespace
+
+ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent), text_(new Page(this)) {
+  setWindowTitle(tr("Manual"));
+  resize(kUsualSize);
+  text_->setAccessibleName(tr("Manual page"));
+  text_->setOpenExternalLinks(true);
+  text_->document()->setDocumentMargin(kMargin);
+  auto* contents = new QPushButton(tr("&Contents"), this);
+  auto* back = new QPushButton(tr("&Back"), this);
+  back->setEnabled(false);
+  for (QPushButton* button : {contents, back}) button->setAutoDefault(false);
+  connect(contents, &QPushButton::clicked, this, [this] { Open(QStringLiteral("index")); });
+  connect(back, &QPushButton::clicked, text_, &QTextBrowser::backward);
+  connect(text_, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(contents);
+  buttons->addWidget(back);
+  buttons->addStretch();
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(buttons);
+  column->addWidget(text_, 1);
+}
+
+void ManualWindow::Open(const QString& page) {
+  show();
+  text_->setSource(QUrl(QStringLiteral("qrc:/docs/manual/%1.md").arg(page)),
+                   QTextDocument::MarkdownResource);
+  text_->setFocus();
+  activateWindow();
+}
+
+}  // namespace ui

@@ -1,0 +1,35 @@
+# Installs the build into an empty folder and looks at what stands there.
+set(root ${BUILD}/tests/packaging/root)
+file(REMOVE_RECURSE ${root})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${root}
+                OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+
+set(expected
+  bin/molva-desk
+  bin/molva-practice-node
+  share/applications/molva-desk.desktop
+  share/doc/molva-desk/changelog
+  share/doc/molva-desk/copyright
+  share/doc/molva-desk/manual/index.md
+  share/icons/hicolor/scalable/apps/molva-desk.svg
+  share/man/man1/molva-desk.1
+  share/man/man1/molva-practice-node.1
+  share/metainfo/molva.desk.client.metainfo.xml
+)
+file(GLOB_RECURSE found RELATIVE ${root} ${root}/*)
+list(FILTER found EXCLUDE REGEX "^share/doc/molva-desk/pictures/.*\\.png$")
+if(NOT found STREQUAL expected)
+  message(FATAL_ERROR "installed: ${found}")
+endif()
+
+foreach(file share/doc/molva-desk/changelog share/man/man1/molva-desk.1
+             share/man/man1/molva-practice-node.1
+             share/metainfo/molva.desk.client.metainfo.xml)
+  file(READ ${root}/${file} content)
+  if(NOT content MATCHES "${VERSION}")
+    message(FATAL_ERROR "${file} does not name the version")
+  endif()
+  if(content MATCHES "@[A-Z_]+@")
+    message(FATAL_ERROR "${file} holds ${CMAKE_MATCH_0}")
+  endif()
+endforeach()
