@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/http.h"
 #include "platform/name_lookup.h"
 #include "platform/programs.h"
 #include "platform/scheduler.h"
@@ -22,6 +23,7 @@ struct Platform {
   Files& files;
   Dialogs& dialogs;
   Browser& browser;
+  Http& http;
   Programs& programs;
 };
 

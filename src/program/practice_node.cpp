@@ -3,16 +3,20 @@
 #include <charconv>
 #include <chrono>
 
+#include "session/built_in_nodes.h"
+
 using namespace std::chrono_literals;
 
 namespace program {
 namespace {
 
+using session::kPracticeNode;
+
 constexpr const char* kProgram = "molva-practice-node";
 constexpr auto kPoll = 10ms;
 constexpr auto kLongestStart = 5s;
 
-std::uint16_t PortOf(const session::DefaultNode& node) {
+std::uint16_t PortOf(const session::BuiltInNode& node) {
   std::uint16_t port = 0;
   std::from_chars(node.port.data(), node.port.data() + node.port.size(), port);
   return port;
@@ -38,12 +42,13 @@ bool PracticeNode::IsChosen() const {
 // Asked by taking it for a moment: a call would be answered, and another node would count it.
 bool PracticeNode::AddressIsFree() const {
   const auto listener = platform_.network.MakeListener();
-  return !listener->Listen(kPracticeNode.host, PortOf(kPracticeNode));
+  return !listener->Listen(std::string(kPracticeNode.host), PortOf(kPracticeNode));
 }
 
 void PracticeNode::Start() {
-  child_ = platform_.programs.Start(kProgram, {"--call", kPracticeNode.call, "--address",
-                                               kPracticeNode.host, "--port", kPracticeNode.port});
+  const auto& [call, host, port] = kPracticeNode;
+  child_ = platform_.programs.Start(kProgram, {"--call", std::string(call), "--address",
+                                               std::string(host), "--port", std::string(port)});
 }
 
 // It says where it listens as soon as it does.

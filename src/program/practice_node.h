@@ -5,12 +5,8 @@
 #include "core/settings.h"
 #include "platform/platform.h"
 #include "platform/task.h"
-#include "session/node_address.h"
 
 namespace program {
-
-// The node that comes with the program, so that there is always one to talk to.
-inline const session::DefaultNode kPracticeNode = {"N0DE-1", "127.0.0.1", "7373"};
 
 // Starts the practice node where it is wanted. What was started ends with this.
 class PracticeNode {

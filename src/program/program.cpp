@@ -27,7 +27,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                .loggers = standIns,
                .requests = ties_,
                .clockWork = ties_,
-               .defaultNode = [this] { return DefaultNode(); },
+               .defaultNode = [this] { return nodeDirectory.Default(); },
                .askUserInfo = [this] { userInfo.Show(); },
                .lookUpAddress =
                    [this] {
@@ -56,6 +56,17 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
           platform_, settings, portNames, session,
           {.takeMode = [this] { TakeMode(); }, .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
       tncForm(settings, session, NeedsOfTncForm()),
+      nodeDirectory(platform_.files, endpoints, folder_),
+      nodeUpdate(
+          platform_.scheduler, platform_.http, platform_.files, nodeDirectory, endpoints, settings,
+          errorLog,
+          {.delayedWriteCfg = [this] { DelayedWriteCfg(); }, .onFault = errorLog.FaultHandler()}),
+      nodeForm(nodeDirectory, nodeUpdate, settings, errorLog,
+               {.chosen =
+                    [this] {
+                      session.linkText.Tick();
+                      DelayedWriteCfg();
+                    }}),
       spotParts(platform_, calendar, settings, errorLog, folder_, NeedsOfSpots()),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
                     session.keepAlive, ties_, userSettings),
@@ -176,11 +187,6 @@ spots::SlotSwitches Program::SlotSwitches() const {
           .Grid = state(filters::kDxGrid),
           .Cq = state(filters::kCqZone),
           .Itu = state(filters::kItuZone)};
-}
-
-session::DefaultNode Program::DefaultNode() const {
-  if (endpoints.molva1.empty()) return kPracticeNode;
-  return {"MOLVA-1", endpoints.molva1, "23"};
 }
 
 void Program::DelayedWriteCfg() { session.timers.Restart(TimerId::WriteCfg); }

@@ -22,8 +22,8 @@
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
-#include "program/practice_node.h"
 #include "program/port_condition.h"
+#include "program/practice_node.h"
 #include "program/raw_pane.h"
 #include "program/stand_ins.h"
 #include "program/start_options.h"
@@ -32,6 +32,7 @@
 #include "program/user_info.h"
 #include "program/views.h"
 #include "session/comm_form.h"
+#include "session/node_form.h"
 #include "session/port_names.h"
 #include "session/session.h"
 #include "session/tnc_form.h"
@@ -113,6 +114,9 @@ class Program {
   session::Session session;
   session::CommForm commForm;
   session::TncForm tncForm;
+  session::NodeDirectory nodeDirectory;
+  session::NodeUpdate nodeUpdate;  // fraUpdate
+  session::NodeForm nodeForm;      // frmNode
   spots::SpotParts spotParts;
   filters::UserSettings userSettings;
   filters::ProfileReader profileReader;
@@ -159,7 +163,6 @@ class Program {
   void WriteDebugCfg(bool on);
   spots::NodeFacts NodeFacts() const;
   spots::SlotSwitches SlotSwitches() const;
-  session::DefaultNode DefaultNode() const;
   void CaptionSetup();
   void TakeMode();
   void TakeScript();

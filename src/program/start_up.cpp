@@ -108,6 +108,7 @@ platform::Task<> Program::BringDataFiles() {
   BringMissing(platform_.files, folder_);
   if (!platform_.files.Exists(Path("cty.dat"))) BringCountryFile();
   endpoints = core::ReadEndpoints(platform_.files, folder_);
+  nodeDirectory.Load();
   co_return;
 }
 

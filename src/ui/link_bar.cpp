@@ -78,8 +78,6 @@ void LinkBar::Name() {
   connect_->setAccessibleName(tr("Connect"));
   disconnect_->setAccessibleName(tr("Disconnect"));
   nodes_->setAccessibleName(tr("Nodes"));
-  nodes_->setEnabled(false);
-  nodes_->setToolTip(tr("The node directory is not part of this version."));
 }
 
 void LinkBar::Tie(program::Program& program, Frames& frames, LiveTheme& theme) {
@@ -88,6 +86,7 @@ void LinkBar::Tie(program::Program& program, Frames& frames, LiveTheme& theme) {
     BindProperty<bool>(this, button->Enabled, frames, [this](bool) { HandFocusOn(); });
   BindButton(connect_, session.connection.cmdConnect, frames);
   BindButton(disconnect_, session.connection.cmdDisconnect, frames);
+  connect(nodes_, &QPushButton::clicked, this, [&program] { program.nodeForm.Show(); });
   BindLabel(clock_, program.session.linkText.lblclock[0], frames);
   BindLabel(date_, program.session.linkText.lblclock[1], frames);
   BindLabel(node_, program.session.linkText.node, frames);

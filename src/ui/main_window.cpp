@@ -17,6 +17,7 @@
 #include "ui/fix_spot_dialog.h"
 #include "ui/login_view.h"
 #include "ui/message_dialog.h"
+#include "ui/node_dialog.h"
 #include "ui/offset_dialog.h"
 #include "ui/settings_page.h"
 #include "ui/spots_dialog.h"
@@ -181,6 +182,10 @@ void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
   new CommDialog(program_.commForm, frames, this);
   new TncDialog(program_.tncForm, frames, this);
   new MessageDialog(program_.messageForm, frames, this);
+  new NodeDialog({.form = program_.nodeForm,
+                  .update = program_.nodeUpdate,
+                  .directory = program_.nodeDirectory},
+                 frames, this);
   new SpotsDialog(parts.spotsForm, frames, this);
   new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},
                     frames, theme, this);

@@ -82,6 +82,8 @@ QListWidget { background: {ground}; color: {text}; border: 1px solid {line}; bor
 QListWidget:focus { border-color: {accent}; }
 QDialog QListWidget::item { padding: 2px 4px; }
 QListWidget::item:selected { background: {selection}; color: {text}; }
+QProgressBar { background: {ground}; border: 1px solid {line}; border-radius: 4px; }
+QProgressBar::chunk { background: {accent}; border-radius: 3px; }
 QFrame#DropPanel { background: {panel}; border: 1px solid {line}; border-radius: 4px; }
 QMenu { background: {panel}; color: {text}; border: 1px solid {line}; padding: 4px; }
 QMenu::item { padding: 5px 16px 5px 28px; border-radius: 4px; }

@@ -14,8 +14,8 @@ using ui::BandColour;
 using ui::Theme;
 using ui::Token;
 
-const Theme kLight(Theme::Kind::Light);
-const Theme kDark(Theme::Kind::Dark);
+const Theme kLightTheme(Theme::Kind::Light);
+const Theme kDarkTheme(Theme::Kind::Dark);
 
 template <class Key>
 struct Row {
@@ -68,15 +68,15 @@ TEST(ThemeTest, TheColoursAreThoseOfTheTable) {
   static_assert(kTokens.size() == static_cast<std::size_t>(Token::Count));
   static_assert(kBands.size() == static_cast<std::size_t>(BandColour::Count));
   const auto expectRow = [](const auto& row) {
-    EXPECT_EQ(kLight[row.key], QColor(row.light)) << row.light;
-    EXPECT_EQ(kDark[row.key], QColor(row.dark)) << row.dark;
+    EXPECT_EQ(kLightTheme[row.key], QColor(row.light)) << row.light;
+    EXPECT_EQ(kDarkTheme[row.key], QColor(row.dark)) << row.dark;
   };
   for (const auto& row : kTokens) expectRow(row);
   for (const auto& row : kBands) expectRow(row);
 }
 
 TEST(ThemeTest, EveryTextCanBeReadOnEveryGround) {
-  for (const Theme& theme : {kLight, kDark}) {
+  for (const Theme& theme : {kLightTheme, kDarkTheme}) {
     for (const Token text :
          {Token::Text, Token::DimText, Token::Accent, Token::Good, Token::Caution, Token::Bad})
       ExpectReadable(theme, theme[text]);
@@ -92,7 +92,7 @@ TEST(ThemeTest, ContrastRunsFromOneToTwentyOne) {
 }
 
 TEST(ThemeTest, RedGreenAndBlueOfTheRulesAreBadGoodAndAccent) {
-  for (const Theme& theme : {kLight, kDark}) {
+  for (const Theme& theme : {kLightTheme, kDarkTheme}) {
     EXPECT_EQ(theme.Of(core::kRed, Token::Text), theme[Token::Bad]);
     EXPECT_EQ(theme.Of(core::kGreen, Token::Text), theme[Token::Good]);
     EXPECT_EQ(theme.Of(core::kBlue, Token::Text), theme[Token::Accent]);
@@ -101,7 +101,7 @@ TEST(ThemeTest, RedGreenAndBlueOfTheRulesAreBadGoodAndAccent) {
 }
 
 TEST(ThemeTest, AColourThatTheUserChoseHoldsInBothThemes) {
-  for (const Theme& theme : {kLight, kDark}) {
+  for (const Theme& theme : {kLightTheme, kDarkTheme}) {
     EXPECT_EQ(theme.Of(0xCC8040, Token::Text), QColor(0x40, 0x80, 0xCC));
     EXPECT_EQ(theme.Of(1, Token::Text), QColor(1, 0, 0)) << "a chosen black";
   }
@@ -109,11 +109,11 @@ TEST(ThemeTest, AColourThatTheUserChoseHoldsInBothThemes) {
 
 class StyleTest : public testing::Test {
  protected:
-  ~StyleTest() override { ui::Apply(kLight, *qApp); }
+  ~StyleTest() override { ui::Apply(kLightTheme, *qApp); }
 };
 
 TEST_F(StyleTest, PaintsTheWholeApplication) {
-  for (const Theme& theme : {kDark, kLight}) {
+  for (const Theme& theme : {kDarkTheme, kLightTheme}) {
     ui::Apply(theme, *qApp);
     const QPalette palette = QApplication::palette();
     EXPECT_EQ(palette.color(QPalette::Base), theme[Token::Ground]);

@@ -5,6 +5,7 @@
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_files.h"
+#include "platform/qt/qt_http.h"
 #include "platform/qt/qt_name_lookup.h"
 #include "platform/qt/qt_network.h"
 #include "platform/qt/qt_programs.h"
@@ -29,6 +30,7 @@ class QtPlatform {
   QtFiles files_;
   QtDialogs dialogs_;
   QtBrowser browser_;
+  QtHttp http_;
   QtPrograms programs_;
 };
 

@@ -6,6 +6,7 @@
 #include "platform/sim/sim_browser.h"
 #include "platform/sim/sim_dialogs.h"
 #include "platform/sim/sim_files.h"
+#include "platform/sim/sim_http.h"
 #include "platform/sim/sim_network.h"
 #include "platform/sim/sim_programs.h"
 #include "platform/sim/sim_serial.h"
@@ -60,10 +61,12 @@ class World {
   SimFiles files;
   SimDialogs dialogs;
   SimBrowser browser;
+  SimHttp http;
   SimPrograms programs;
 
   Platform platform() {
-    return {scheduler, clock, network, network, serialPorts, files, dialogs, browser, programs};
+    return {scheduler, clock,   network, network, serialPorts,
+            files,     dialogs, browser, http,    programs};
   }
 
   // Lets that much time pass.

@@ -1,0 +1,265 @@
+#include "ui/node_dialog.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <map>
+
+#include "gui/desk.h"
+
+namespace gui {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class NodeDialogTest : public Desk {
+ protected:
+  void SetUp() override {
+    world.files.content["/home/anna/molva/endpoints.cfg"] =
+        "\"MOLVA-1\",\"\"\r\n\"Node List\",\"https://lists.example\"\r\n";
+    Open();
+    Button("Nodes").click();
+    Run(200ms);
+  }
+  QDialog& Dialog() {
+    for (QDialog* each : window->findChildren<QDialog*>())
+      if (each->windowTitle() == "Nodes") return *each;
+    ADD_FAILURE() << "no dialog of nodes";
+    static QDialog none;
+    return none;
+  }
+  QLineEdit& Field(const char* name) { return *Named<QLineEdit>(Dialog(), name); }
+  QLineEdit& Search() { return Field("Find a node by its call, host or info"); }
+  QTreeView& List() { return *Named<QTreeView>(Dialog(), "List of nodes"); }
+  void Click(const char* name) {
+    Named<QAbstractButton>(Dialog(), name)->click();
+    Run(200ms);
+  }
+  void Type(const char* field, const char* text) {
+    Field(field).clear();
+    QTest::keyClicks(&Field(field), text);
+    Run(200ms);
+  }
+  QStringList Calls() {
+    QStringList calls;
+    const QAbstractItemModel& model = *List().model();
+    for (int row = 0; row < model.rowCount(); ++row) calls << model.index(row, 0).data().toString();
+    return calls;
+  }
+  QString Chosen() {
+    const auto rows = List().selectionModel()->selectedRows();
+    return rows.isEmpty() ? QString() : rows.front().data().toString();
+  }
+  std::string Says(const char* label) {
+    return Named<QLabel>(Dialog(), label)->text().toStdString();
+  }
+};
+
+TEST_F(NodeDialogTest, TheButtonBesideTheNodeOpensItWithTheSelectedOne) {
+  EXPECT_TRUE(Dialog().isVisible());
+  EXPECT_FALSE(Dialog().isModal());
+  EXPECT_EQ(Calls().size(), 13);
+  EXPECT_EQ(Chosen(), "N0DE-1");
+  EXPECT_EQ(Field("Host of the node").text(), "127.0.0.1");
+  EXPECT_TRUE(Search().hasFocus());
+}
+
+TEST_F(NodeDialogTest, EverythingInItHasANameOfItsOwn) {
+  std::map<QString, int> names;
+  for (const QWidget* each : Dialog().findChildren<QWidget*>())
+    if (each->isVisible() && each->focusPolicy() != Qt::NoFocus) ++names[each->accessibleName()];
+  EXPECT_GT(names.size(), 10U);
+  for (const auto& [name, count] : names)
+    EXPECT_TRUE(count == 1 && !name.trimmed().isEmpty()) << '"' << name.toStdString() << '"';
+}
+
+TEST_F(NodeDialogTest, EveryMnemonicIsThereOnce) {
+  std::map<QChar, int> keys;
+  const auto count = [&keys](const QString& text) {
+    const auto at = text.indexOf('&');
+    if (at >= 0) ++keys[text[at + 1].toLower()];
+  };
+  for (const auto* each : Dialog().findChildren<QAbstractButton*>()) count(each->text());
+  for (const auto* each : Dialog().findChildren<QLabel*>())
+    if (each->buddy() != nullptr) count(each->text());
+  EXPECT_EQ(keys.size(), 11U);
+  for (const auto& [key, times] : keys) EXPECT_EQ(times, 1) << key.toLatin1();
+}
+
+TEST_F(NodeDialogTest, TabFollowsTheEye) {
+  QStringList order;
+  for (int i = 0; i < 6; ++i) {
+    order << QApplication::focusWidget()->accessibleName();
+    Press(Qt::Key_Tab);
+  }
+  EXPECT_EQ(order, QStringList({"Find a node by its call, host or info", "List of nodes",
+                                "Call of the node", "Host of the node", "Port of the node",
+                                "Delete node"}));
+  EXPECT_EQ(Chosen(), "N0DE-1");
+}
+
+TEST_F(NodeDialogTest, ItIsSearchedWhileTypingAndUsedByKeyboardAlone) {
+  QTest::keyClicks(&Search(), "ai9");
+  Run(200ms);
+  EXPECT_EQ(Calls(), QStringList({"AI9T"}));
+  Press(Qt::Key_Return);
+  Run(200ms);
+  EXPECT_EQ(Chosen(), "AI9T");
+  EXPECT_EQ(Field("Host of the node").text(), "dxc.ai9t.com");
+  EXPECT_TRUE(Dialog().isVisible());
+  Press(Qt::Key_Down);
+  EXPECT_TRUE(List().hasFocus());
+  Press(Qt::Key_Return);
+  Run(200ms);
+  EXPECT_FALSE(Dialog().isVisible());
+  EXPECT_EQ(program->settings.NodeCall, "AI9T");
+  EXPECT_EQ(Named<QLabel>(*window, "Node")->text(), "AI9T");
+}
+
+TEST_F(NodeDialogTest, AClickChoosesAndADoubleClickUses) {
+  const auto at = [this](int row) {
+    return List().visualRect(List().model()->index(row, 1)).center();
+  };
+  QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, at(1));
+  Run(200ms);
+  EXPECT_EQ(Field("Call of the node").text(), Calls()[1]);
+  const QString call = Calls()[2];
+  QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, at(2));
+  QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, at(2));
+  Run(200ms);
+  EXPECT_FALSE(Dialog().isVisible());
+  EXPECT_EQ(QString::fromStdString(program->settings.NodeCall), call);
+}
+
+TEST_F(NodeDialogTest, ComingIntoTheListByTabChoosesNothing) {
+  Type("Call of the node", "W1NEW");
+  Field("Host of the node").setText("new.example");
+  Field("Call of the node").setFocus();
+  Press(Qt::Key_Tab, Qt::ShiftModifier);
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  Run(200ms);
+  EXPECT_EQ(Field("Call of the node").text(), "W1NEW");
+}
+
+TEST_F(NodeDialogTest, ANodeIsAddedAndDeleted) {
+  Type("Call of the node", "w1new");
+  Type("Host of the node", "new.example");
+  Type("Port of the node", "7300");
+  EXPECT_FALSE(Named<QAbstractButton>(Dialog(), "Use node")->isEnabled());
+  Click("Add node");
+  EXPECT_TRUE(Calls().contains("W1NEW"));
+  EXPECT_EQ(Chosen(), "W1NEW");
+  EXPECT_THAT(world.files.content["/home/anna/molva/dxclusters.dat"],
+              HasSubstr("W1NEW,new.example,7300,\r\n"));
+  Click("Delete node");
+  EXPECT_FALSE(Calls().contains("W1NEW"));
+  EXPECT_EQ(Chosen(), "");
+  EXPECT_EQ(Says("Result"), "W1NEW is deleted.");
+}
+
+TEST_F(NodeDialogTest, ReturnInAFieldAddsANewNodeAndUsesAKnownOne) {
+  Type("Call of the node", "w1new");
+  QTest::keyClick(&Field("Port of the node"), Qt::Key_Return);
+  Run(200ms);
+  EXPECT_EQ(Chosen(), "W1NEW");
+  EXPECT_TRUE(Dialog().isVisible());
+  QTest::keyClick(&Field("Port of the node"), Qt::Key_Return);
+  Run(200ms);
+  EXPECT_FALSE(Dialog().isVisible());
+  EXPECT_EQ(program->settings.NodeCall, "W1NEW");
+}
+
+TEST_F(NodeDialogTest, WhatIsWrongIsSaidAndSpoken) {
+  Type("Port of the node", "x");
+  Click("Use node");
+  EXPECT_TRUE(Dialog().isVisible());
+  EXPECT_THAT(Says("Result"), HasSubstr("Enter the port"));
+  const QLabel& result = *Named<QLabel>(Dialog(), "Result");
+  EXPECT_EQ(result.palette().color(QPalette::WindowText), theme[ui::Token::Bad]);
+  EXPECT_THAT(result.accessibleName().toStdString(), HasSubstr("Result: Enter the port"));
+}
+
+TEST_F(NodeDialogTest, ItHoldsNothingUp) {
+  LogIn();
+  node.Say("DX de W1TST:     14025.0  3Y0J         loud                           2148Z");
+  Run(1s);
+  EXPECT_TRUE(Dialog().isVisible());
+  EXPECT_TRUE(LinesOf(Raw()).join('\n').contains("3Y0J"));
+}
+
+TEST_F(NodeDialogTest, EscapeClosesItAndItOpensAsThingsAre) {
+  Type("Port of the node", "1");
+  QTest::keyClick(&Dialog(), Qt::Key_Escape);
+  Run(200ms);
+  EXPECT_FALSE(Dialog().isVisible());
+  Button("Nodes").click();
+  Run(200ms);
+  EXPECT_TRUE(Dialog().isVisible());
+  EXPECT_EQ(Field("Port of the node").text(), "7373");
+}
+
+TEST_F(NodeDialogTest, ANewListIsFetchedByItsButton) {
+  std::string list = "W1LST,list.example,7300,Listed\r\n";
+  for (int i = 0; i < 5000; ++i) list += "a broken line\r\n";
+  world.http.pages["https://lists.example/telnet/dxclusters.php"] = {.bytes = list};
+  Click("Update the list of nodes");
+  EXPECT_THAT(Says("Result of the update"), HasSubstr("Received: "));
+  const auto& bar = *Named<QProgressBar>(Dialog(), "Progress of the update");
+  EXPECT_GT(bar.value(), 0);
+  EXPECT_LT(bar.value(), 100);
+  Run(5s);
+  EXPECT_EQ(bar.value(), 100);
+  EXPECT_EQ(Says("Result of the update"), "*** Update OK ***");
+  EXPECT_TRUE(Calls().contains("W1LST"));
+}
+
+TEST_F(NodeDialogTest, TheFetchIsStoppedByTheSameButton) {
+  world.http.pages["https://lists.example/telnet/dxclusters.php"] = {
+      .bytes = std::string(1'000'000, 'x')};
+  Click("Update the list of nodes");
+  EXPECT_EQ(Named<QAbstractButton>(Dialog(), "Stop the update of the list of nodes")->text(),
+            "S&top");
+  Click("Stop the update of the list of nodes");
+  EXPECT_EQ(Says("Result of the update"), "Stopped. The old list stays.");
+  EXPECT_EQ(world.http.open, 0);
+  EXPECT_TRUE(Named<QAbstractButton>(Dialog(), "Update the list of nodes")->isEnabled());
+}
+
+TEST_F(NodeDialogTest, WhatCannotBeUsedSaysWhy) {
+  const auto& secondary = *Named<QCheckBox>(Dialog(), "Enable Secondary Node Connection");
+  EXPECT_FALSE(secondary.isEnabled());
+  EXPECT_NE(secondary.toolTip(), "");
+  for (const auto* each : Dialog().findChildren<QAbstractButton*>())
+    EXPECT_TRUE(!each->isVisible() || each->isEnabled() || !each->toolTip().isEmpty())
+        << each->accessibleName().toStdString();
+}
+
+TEST_F(NodeDialogTest, WhatAListSaysIsNoRichTextAndNoMnemonic) {
+  world.files.content["/home/anna/molva/dxclusters.dat"] =
+      "W1BAD,<b>h&ost</b>,23,\x1b[31m<img src=x>\r\n";
+  program->nodeDirectory.Load();
+  Type("Find a node by its call, host or info", "W1BAD");
+  const QAbstractItemModel& model = *List().model();
+  EXPECT_EQ(model.index(0, 1).data().toString(), "<b>h&ost</b>");
+  EXPECT_THAT(model.index(0, 3).data().toString().toStdString(), Not(HasSubstr("\x1b")));
+  Press(Qt::Key_Return);
+  Run(200ms);
+  EXPECT_EQ(Field("Host of the node").text(), "<b>h&ost</b>");
+}
+
+TEST_F(NodeDialogTest, AHundredThousandNodesAreSearchedWhileTyping) {
+  std::string list;
+  for (int i = 0; i < 100'000; ++i) list += "N" + std::to_string(i) + "A,h.example,23,\r\n";
+  world.files.content["/home/anna/molva/dxclusters.dat"] = list;
+  program->nodeDirectory.Load();
+  Run(200ms);
+  EXPECT_EQ(List().model()->rowCount(), 100'013);
+  EXPECT_EQ(Chosen(), "N0DE-1");
+  Type("Find a node by its call, host or info", "N99999A");
+  EXPECT_EQ(Calls(), QStringList({"N99999A"}));
+}
+
+}  // namespace
+}  // namespace gui
