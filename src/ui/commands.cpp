@@ -23,7 +23,9 @@ constexpr Command Tab(const char* keys, int tab, const char* entry, const char* 
 constexpr std::array kCommands = {
     Entry(Connection, "", Act::Connect, QT_TR_NOOP("&Connect"), QT_TR_NOOP("Connect")),
     Entry(Connection, "", Act::Disconnect, QT_TR_NOOP("&Disconnect"), QT_TR_NOOP("Disconnect")),
-    Entry(Connection, "", Act::LinkSettings, QT_TR_NOOP("-Telnet or &TNC, and ports..."),
+    Entry(Connection, "", Act::Nodes, QT_TR_NOOP("-&Nodes..."),
+          QT_TR_NOOP("Which node to connect to")),
+    Entry(Connection, "", Act::LinkSettings, QT_TR_NOOP("Telnet or &TNC, and ports..."),
           QT_TR_NOOP("How the node is reached: telnet or TNC, and the serial ports")),
     Entry(Connection, "", Act::TncScript, QT_TR_NOOP("&Script for the TNC..."),
           QT_TR_NOOP("The way over a TNC to the cluster")),

@@ -12,6 +12,7 @@ enum class Act {
   ConnectOrDisconnect,
   Connect,
   Disconnect,
+  Nodes,
   LinkSettings,
   TncScript,
   Quit,

@@ -234,6 +234,8 @@ void MainWindow::Do(const Command& command) {
       return connection.cmdConnect.Press();
     case Act::Disconnect:
       return connection.cmdDisconnect.Press();
+    case Act::Nodes:
+      return program_.nodeForm.Show();
     case Act::LinkSettings:
       return program_.commForm.Show();
     case Act::TncScript:

@@ -97,6 +97,7 @@ TEST_F(MenusTest, TheCorrectionOfFilterErrorsIsSwitched) {
 
 TEST_F(MenusTest, DialogsAreOpenedWithoutHoldingAnythingUp) {
   for (const auto& [menu, entry] : std::vector<std::pair<const char*, const char*>>{
+           {"Connection", "Nodes..."},
            {"Connection", "Telnet or TNC, and ports..."},
            {"Connection", "Script for the TNC..."},
            {"Configuration", "User information..."},
