@@ -1,4 +1,5 @@
 # Installs the build into an empty folder and looks at what stands there.
+cmake_minimum_required(VERSION 3.25)
 set(root ${BUILD}/tests/packaging/root)
 file(REMOVE_RECURSE ${root})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${root}
