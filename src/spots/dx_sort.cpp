@@ -4,13 +4,13 @@
 #include <cmath>
 #include <utility>
 
+#include "core/dates.h"
 #include "core/text.h"
 #include "spots/row_parts.h"
 
 namespace spots {
 namespace {
 
-constexpr int kDay = 1440;
 constexpr int kLastHourOfDay = 23 * 60;
 constexpr int kFirstHourOver = 60;
 constexpr int kRowsAhead = 30;  // the clocks of nodes are fast, by so many minutes at most
@@ -23,13 +23,13 @@ constexpr double kSameSpot = 30;  // kHz
 bool IsLastHourOfDay(const SortMoment& now) { return now.minutes >= kLastHourOfDay; }
 
 int Counted(const SortMoment& now) {
-  return IsLastHourOfDay(now) ? now.minutes : now.minutes + kDay;
+  return IsLastHourOfDay(now) ? now.minutes : now.minutes + core::kMinutesOfDay;
 }
 
 // A time of yesterday stays behind those of today, and one of tomorrow is ahead of them.
 int Counted(int minute, const SortMoment& now) {
   const int limit = IsLastHourOfDay(now) ? kRowsAhead : now.minutes + kRowsAhead;
-  return minute < limit ? minute + kDay : minute;
+  return minute < limit ? minute + core::kMinutesOfDay : minute;
 }
 
 int AsSeen(int minute, int now) {
@@ -41,7 +41,7 @@ bool DayCounts(const SortMoment& now) {
 }
 
 std::string Clock(int minute) {
-  const auto ofDay = static_cast<unsigned>(minute % kDay);
+  const auto ofDay = static_cast<unsigned>(minute % core::kMinutesOfDay);
   return core::Digits(ofDay / 60 * 100 + ofDay % 60, 4);
 }
 
@@ -96,7 +96,7 @@ bool DxSort::CountsAnew(const SortMoment& now) {
   const bool enters = dayFlag_ && IsLastHourOfDay(now);
   dayFlag_ = !IsLastHourOfDay(now);
   const int passed = std::abs(now.minutes - std::exchange(minute_, now.minutes));
-  return enters || std::min(passed, kDay - passed) > kMostAtOnce;
+  return enters || std::min(passed, core::kMinutesOfDay - passed) > kMostAtOnce;
 }
 
 void DxSort::Grow(std::size_t calls) {
