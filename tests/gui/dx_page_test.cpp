@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QListWidget>
+#include <QPaintEvent>
 
 #include "gui/desk.h"
 #include "spots/band_numbers.h"
@@ -11,6 +12,19 @@ namespace gui {
 namespace {
 
 using program::Views;
+
+// What of a widget is painted while it is looked at.
+class PaintWatch : public QObject {
+ public:
+  explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+  QRegion painted;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
+    return QObject::eventFilter(watched, event);
+  }
+};
 
 // The page with a node whose spots are shown.
 class DxPageTest : public Desk {
@@ -62,6 +76,15 @@ TEST_F(DxPageTest, ASpotOfTheNodeStandsInTheTableAndInTheRail) {
   EXPECT_EQ(Spoken(0), "14025.0, 3 Y 0 J, 21 16, spotter K 1 T S T");
   EXPECT_EQ(SpokenBand(k20m), "20 m, 1 unseen, 1 in all");
   EXPECT_EQ(SpokenBand(k15m), "15 m, 0 in all");
+}
+
+TEST_F(DxPageTest, TheRailPaintsTheBandsWhoseCountsHaveChangedAndNoOthers) {
+  Spot(14020, "3B8FA");
+  PaintWatch watch(*Rail().viewport());
+  Spot(14025, "3Y0J");
+  const auto placeOf = [this](int band) { return Rail().visualItemRect(Rail().item(band)); };
+  EXPECT_TRUE(watch.painted.contains(placeOf(k20m).center()));
+  EXPECT_FALSE(watch.painted.contains(placeOf(k15m).center()));
 }
 
 TEST_F(DxPageTest, UpAndDownInTheRailChooseTheBand) {
