@@ -9,7 +9,7 @@
 namespace ui {
 
 // Repaints what has changed, however often it changes: at most once in 33 ms while somebody is at
-// it, and ten times a second when nobody is.
+// it, and five times a second when nobody is.
 class Frames {
  public:
   // Something on the screen. Marked as changed it is repainted with the next frame.
@@ -28,7 +28,7 @@ class Frames {
   };
 
   static constexpr platform::Milliseconds kFrame{33};
-  static constexpr platform::Milliseconds kQuietFrame{100};
+  static constexpr platform::Milliseconds kQuietFrame{200};
   // How long a touch counts.
   static constexpr platform::Milliseconds kTouch{2000};
 

@@ -9,6 +9,7 @@
 
 #include "platform/sim/world.h"
 #include "platform/tasks.h"
+#include "thoroughness.h"
 
 namespace core {
 namespace {
@@ -380,7 +381,7 @@ TEST_F(WriteCfgTest, ACrashBetweenAnyTwoBytesLeavesTheOldSettingsOrTheNew) {
   const std::string renewed = File("molva.cfg");
   bool sawOld = false;
   bool sawNew = false;
-  for (std::size_t bytes = 0; bytes <= 2 * renewed.size(); ++bytes) {
+  for (std::size_t bytes = 0; bytes <= 2 * renewed.size(); bytes += kOneOf) {
     world.files.content = before;
     world.files.crashAfterBytes = bytes;
     EXPECT_THROW(Write("Ulm on the Danube"), platform::sim::Crash);

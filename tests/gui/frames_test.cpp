@@ -46,10 +46,9 @@ TEST_F(FramesTest, TheNextOneWaitsForItsFrame) {
   EXPECT_THAT(painted, ElementsAre(10s, 10033ms));
 }
 
-TEST_F(FramesTest, WhenNobodyIsAtItThereAreTenASecond) {
+TEST_F(FramesTest, WhenNobodyIsAtItThereAreFiveASecond) {
   KeepChangingFor(1s);
-  EXPECT_THAT(painted, ElementsAre(0ms, 100ms, 200ms, 300ms, 400ms, 500ms, 600ms, 700ms, 800ms,
-                                   900ms, 1000ms));
+  EXPECT_THAT(painted, ElementsAre(0ms, 200ms, 400ms, 600ms, 800ms, 1000ms));
 }
 
 TEST_F(FramesTest, ATouchBringsWhatIsDueSooner) {
@@ -111,7 +110,7 @@ TEST_F(FramesTest, WhatAPaintingChangesIsPaintedInTheNextFrame) {
   });
   endless->Changed();
   world.Run(1s);
-  EXPECT_EQ(paints, 11);
+  EXPECT_EQ(paints, 6);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "memory_meter.h"
 #include "session_fixture.h"
+#include "thoroughness.h"
 
 using namespace std::chrono_literals;
 using platform::SocketState;
@@ -13,12 +14,7 @@ using testing::SizeIs;
 namespace {
 
 constexpr std::size_t kMegabyte = 1'000'000;
-// What the sanitizers watch takes ten times as long.
-#ifdef __SANITIZE_ADDRESS__
-constexpr std::size_t kEndless = 20 * kMegabyte;
-#else
-constexpr std::size_t kEndless = 100 * kMegabyte;
-#endif
+constexpr std::size_t kEndless = 100 * kMegabyte / kOneOf;
 
 class HostileNode : public SessionFixture {
  protected:

@@ -13,7 +13,8 @@ namespace {
 constexpr qint64 kReadBuffer = qint64{64} * 1024;
 
 // A stream of lines is taken in batches: each wake-up of the program costs more than a line does.
-constexpr Milliseconds kBatch{33};
+// What comes first behind a write is an answer, and is told at once.
+constexpr Milliseconds kBatch{100};
 
 // How long a closed socket may go on sending to a peer that doesn't take it.
 constexpr Milliseconds kLongestFarewell = std::chrono::seconds(30);
@@ -156,7 +157,10 @@ std::size_t QtTcpTransport::Read(char* into, std::size_t size) {
 void QtTcpTransport::Write(std::string_view bytes) {
   if (!socket_ || ended_) return;
   // A full buffer hides the peer's end from Qt, and the failed write would lose what is unread.
-  if (socket_->bytesAvailable() >= kReadBuffer && PeerHasLeft(socket_->socketDescriptor())) return;
+  if (socket_->bytesAvailable() >= socket_->readBufferSize() &&
+      PeerHasLeft(socket_->socketDescriptor()))
+    return;
+  toldReadable_ = kLongAgo;
   socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
@@ -175,8 +179,14 @@ void QtTcpTransport::TellLater(News news) {
   news_.push_back(news);
   if (news_.size() > 1) return;
   const bool batched = news == News::Readable;
-  const Milliseconds due = batched ? toldReadable_ + kBatch : Milliseconds{0};
-  telling_ = scheduler_.After(due - scheduler_.Now(), [this] { Tell(); });
+  const Milliseconds wait = batched ? toldReadable_ + kBatch - scheduler_.Now() : Milliseconds{0};
+  if (wait > Milliseconds{0}) StopReading();
+  telling_ = scheduler_.After(wait, [this] { Tell(); });
+}
+
+// The system keeps what comes until it is asked for again.
+void QtTcpTransport::StopReading() {
+  socket_->setReadBufferSize(std::max(socket_->bytesAvailable(), qint64{1}));
 }
 
 void QtTcpTransport::Tell() {
@@ -190,6 +200,7 @@ void QtTcpTransport::Tell() {
       return events->OnConnected();
     case News::Readable:
       toldReadable_ = scheduler_.Now();
+      if (socket_) socket_->setReadBufferSize(kReadBuffer);
       return events->OnReadable();
     case News::PeerClosed:
       return events->OnPeerClosed();

@@ -27,12 +27,14 @@ class QtTcpTransport final : public TcpTransport {
   std::uint16_t LocalPort() const override;
 
  private:
+  static constexpr Milliseconds kLongAgo{-1000};
   enum class News { Resolved, Connected, Readable, PeerClosed, Failed };
 
   void Watch(QTcpSocket* socket);
   void OnError(QAbstractSocket::SocketError error);
   void End(News news);
   void TellLater(News news);
+  void StopReading();
   void Tell();
   bool Connected() const;
 
@@ -40,8 +42,8 @@ class QtTcpTransport final : public TcpTransport {
   QObject& leaving_;
   QObject receiver_;  // of the signals
   QTcpSocket* socket_ = nullptr;
-  std::deque<News> news_;             // not yet told
-  Milliseconds toldReadable_{-1000};  // when it was last told that there is something to read
+  std::deque<News> news_;                 // not yet told
+  Milliseconds toldReadable_ = kLongAgo;  // when it was last told that there is something to read
   bool ended_ = false;
   SocketFault fault_;
   std::string rest_;  // received and unread when the stream ended

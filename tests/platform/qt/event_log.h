@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,10 +14,14 @@ struct EventLog final : TcpTransport::Events {
   std::vector<std::string> told;
   std::vector<SocketFault> faults;
   int readable = 0;
+  std::function<void()> onReadable;
 
   void OnResolved() override { told.push_back("resolved"); }
   void OnConnected() override { told.push_back("connected"); }
-  void OnReadable() override { ++readable; }
+  void OnReadable() override {
+    ++readable;
+    if (onReadable) onReadable();
+  }
   void OnPeerClosed() override { told.push_back("closed"); }
   void OnFailed(const SocketFault& fault) override {
     told.push_back("failed");

@@ -4,6 +4,7 @@
 #include <sys/socket.h>
 
 #include <QTcpServer>
+#include <QTimer>
 
 #include "platform/qt/event_log.h"
 #include "platform/qt/pump.h"
@@ -12,6 +13,7 @@
 namespace platform::qt {
 namespace {
 
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -309,6 +311,70 @@ TEST_F(QtTcpTransportTest, NothingHappensWithoutAConnection) {
   transport.Close();
   char piece[4];
   EXPECT_EQ(transport.Read(piece, sizeof piece), 0U);
+}
+
+// Writes down how long its transport waits before it tells something.
+struct NotingScheduler final : Scheduler {
+  explicit NotingScheduler(Scheduler& scheduler) : real(scheduler) {}
+  Milliseconds Now() const override { return real.Now(); }
+  Registration After(Milliseconds delay, Callback callback) override {
+    waits.push_back(delay);
+    return real.After(delay, std::move(callback));
+  }
+
+  Scheduler& real;
+  std::vector<Milliseconds> waits;
+};
+
+struct BatchTest : QtTcpTransportTest {
+  NotingScheduler noting{scheduler};
+  QtTcpTransport batching{noting, leaving};
+
+  BatchTest() {
+    batching.events = &log;
+    log.onReadable = [this] { received += ReadAll(batching); };
+    batching.Open("127.0.0.1", server.serverPort());
+    EXPECT_TRUE(PumpUntil([&] { return log.Has("connected") && server.hasPendingConnections(); }));
+    peer = server.nextPendingConnection();
+    noting.waits.clear();
+  }
+
+  void Say(const std::string& text) {
+    const std::size_t before = received.size();
+    peer->write(text.data(), static_cast<qint64>(text.size()));
+    ASSERT_TRUE(PumpUntil([&] { return received.size() == before + text.size(); }));
+  }
+
+  std::string received;
+};
+
+TEST_F(BatchTest, FirstLineIsToldAtOnceAndTheNextWithItsBatch) {
+  Say("first");
+  Say("next");
+  ASSERT_EQ(noting.waits.size(), 2u);
+  EXPECT_LE(noting.waits[0], 0ms);
+  EXPECT_GT(noting.waits[1], 0ms);
+  EXPECT_LE(noting.waits[1], 100ms);
+}
+
+TEST_F(BatchTest, AnAnswerIsToldAtOnce) {
+  Say("login:");
+  batching.Write("K1TST\r\n");
+  Say("Hello");
+  ASSERT_EQ(noting.waits.size(), 2u);
+  EXPECT_LE(noting.waits[1], 0ms);
+}
+
+TEST_F(BatchTest, WhatComesMeanwhileIsOneBatch) {
+  constexpr int kLines = 40;
+  QTimer sending;
+  int sent = 0;
+  QObject::connect(&sending, &QTimer::timeout, &leaving, [&] {
+    if (sent++ < kLines) peer->write("line\n");
+  });
+  sending.start(10);
+  ASSERT_TRUE(PumpUntil([&] { return received.size() == kLines * 5; }));
+  EXPECT_LE(log.readable, kLines / 2);
 }
 
 struct HeldSocketTest : QtTcpTransportTest {
