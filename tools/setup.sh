@@ -8,6 +8,9 @@ RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono hamradio-files imagemagick 
 TEST_PACKAGES=(appstream dbus-daemon desktop-file-utils googletest libgmock-dev libgtest-dev)
 # What the package is made and judged with.
 PACKAGING_PACKAGES=(appstream desktop-file-utils dpkg-dev file)
+# What the pictures of the manual are made with, by the names that a screen reader says.
+PICTURE_PACKAGES=(at-spi2-core dbus-daemon dpkg-dev faketime gir1.2-atspi-2.0 pngquant python3-gi
+  xdotool)
 # What the benchmarks are built with.
 BENCH_PACKAGES=(libbenchmark-dev)
 # What the second compiler and the lint need.
