@@ -1,12 +1,30 @@
 #include <QDirIterator>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTextBlock>
 #include <QTextBrowser>
 
 #include "gui/desk.h"
 
 namespace gui {
 namespace {
+
+// Goes down the page, and gives its pictures as they are drawn there.
+std::vector<QImage> PicturesOf(QTextBrowser& page) {
+  std::vector<QImage> pictures;
+  const QTextDocument& text = *page.document();
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+      const QTextCharFormat format = part.fragment().charFormat();
+      if (!format.isImageFormat()) continue;
+      page.setTextCursor(QTextCursor(block));
+      page.ensureCursorVisible();
+      page.grab();
+      pictures.push_back(text.resource(QTextDocument::ImageResource, format.toImageFormat().name())
+                             .value<QImage>());
+    }
+  return pictures;
+}
 
 class ManualTest : public Desk {
  protected:
@@ -54,6 +72,22 @@ TEST_F(ManualTest, EveryLinkAndEveryPictureOfItIsThere) {
     }
   }
   EXPECT_GT(links, 10);
+}
+
+TEST_F(ManualTest, EveryPictureIsDrawnAndNoneIsWiderThanThePage) {
+  Open();
+  window->OpenManual("index");
+  int pictures = 0;
+  for (QDirIterator pages(":/docs/manual"); pages.hasNext();) {
+    const std::string page = QFileInfo(pages.next()).completeBaseName().toStdString();
+    window->OpenManual(page);
+    for (const QImage& picture : PicturesOf(Page())) {
+      EXPECT_GT(picture.depth(), 1) << page << " shows what stands there before it is drawn";
+      EXPECT_LT(picture.width(), Page().viewport()->width()) << page;
+      ++pictures;
+    }
+  }
+  EXPECT_GT(pictures, 10);
 }
 
 }  // namespace

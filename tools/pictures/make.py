@@ -70,13 +70,9 @@ def start_node(build, evening):
 
 def write_folder(folder, evening, port):
     folder.mkdir()
-    settings = list(evening.settings)
-    if port:
-        settings += [("SelectedNode", "N0DE-1"), ("SelectedNodesAddress", "127.0.0.1"),
-                     ("PrimaryPort", port)]
-    files = dict(evening.files)
-    if settings:
-        files["molva.cfg"] = [f'"{key}","{value}"' for key, value in settings]
+    settings = evening.settings + (("SelectedNode", "N0DE-1"),
+                                   ("SelectedNodesAddress", "127.0.0.1"), ("PrimaryPort", port))
+    files = evening.files | {"molva.cfg": [f'"{key}","{value}"' for key, value in settings]}
     for name, lines in files.items():
         (folder / name).write_text("".join(line + "\r\n" for line in lines), newline="")
 
@@ -180,7 +176,8 @@ def end(process):
 
 def spend(evening, build, home, folder):
     node, port = start_node(build, evening) if evening.dialect else (None, "")
-    write_folder(home, evening, port)
+    if node:
+        write_folder(home, evening, port)
     process = start(build, "src/molva-desk", MOLVA_HOME=str(home))
     try:
         client = Client(process)

@@ -19,12 +19,15 @@ class Picture:
 
 @dataclass(frozen=True)
 class Evening:
-    """One run of the client, logged in to a practice node that has sent the lines of a file."""
+    """One run of the client, logged in to a practice node that has sent the lines of a file.
 
-    settings: tuple  # pairs
+    Without a dialect it is the first start: there is no folder yet, and no link.
+    """
+
     pictures: tuple
-    dialect: str = ""  # none: the client is started on an empty folder, and connects to nothing
+    dialect: str = ""
     spots: str = ""
+    settings: tuple = ()  # pairs
     files: dict = field(default_factory=dict)
 
 
@@ -86,7 +89,6 @@ EVENINGS = (
         ),
     ),
     Evening(
-        settings=(),
-        pictures=(Picture("first-start", ("Yes",), dialog="User information"),),
+        pictures=(Picture("first-start", dialog="User information"),),
     ),
 )
