@@ -11,6 +11,7 @@ namespace {
 
 constexpr QSize kUsualSize(760, 640);
 constexpr int kMargin = 8;
+constexpr int kStepOfAList = 40;  // what stands in a list begins further right
 
 // A picture of a window is wider than a page that is read: it is drawn as wide as the page. A page
 // has many, which take longer to read than all of its text: each is read when it comes into view,
@@ -43,7 +44,7 @@ class Page : public QTextBrowser {
 
   QSize SizeOf(const QString& file) const {
     const QSize whole = QImageReader(file).size();
-    const int room = viewport()->width() - 4 * kMargin;
+    const int room = viewport()->width() - 4 * kMargin - kStepOfAList;
     return whole.width() > room ? whole.scaled(room, whole.height(), Qt::KeepAspectRatio) : whole;
   }
 
