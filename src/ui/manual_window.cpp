@@ -55,11 +55,17 @@ class Page : public QTextBrowser {
       const QUrl name = format.toImageFormat().name();
       const auto here = document()->resource(QTextDocument::ImageResource, name).value<QImage>();
       if (here.format() != kUnread) continue;
-      const QImage whole(FileOf(name));
-      document()->addResource(
-          QTextDocument::ImageResource, document()->baseUrl().resolved(name),
-          whole.scaled(here.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+      document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name),
+                              Drawn(FileOf(name), here.size()));
     }
+  }
+
+  QImage Drawn(const QString& file, const QSize& size) const {
+    const qreal ratio = devicePixelRatioF();
+    QImage picture =
+        QImage(file).scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(ratio);
+    return picture;
   }
 };
 

@@ -77,6 +77,14 @@ def write_folder(folder, evening, port):
         (folder / name).write_text("".join(line + "\r\n" for line in lines), newline="")
 
 
+def is_usable(control):
+    """An entry of a closed menu is, though it is not on show."""
+    states = control.get_state_set()
+    entry = control.get_role() in (Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM)
+    return states.contains(Atspi.StateType.ENABLED) and (
+        entry or states.contains(Atspi.StateType.SHOWING))
+
+
 class Client:
     """The running client, by its spoken names."""
 
@@ -93,6 +101,7 @@ class Client:
         return None
 
     def find(self, name):
+        """The control on show, or the menu entry, of that name; nothing if there is none."""
         return self._below(self.root, name)
 
     def _below(self, parent, name):
@@ -100,7 +109,7 @@ class Client:
             child = parent.get_child_at_index(i)
             if child is None:
                 continue
-            if child.get_name() == name and child.get_state_set().contains(Atspi.StateType.ENABLED):
+            if child.get_name() == name and is_usable(child):
                 return child
             found = self._below(child, name)
             if found:
