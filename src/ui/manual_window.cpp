@@ -26,6 +26,13 @@ class Page : public QTextBrowser {
   }
 
  protected:
+  // Laid out once, when it is whole: each row of a table would lay it out anew.
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override {
+    document()->setLayoutEnabled(false);
+    QTextBrowser::doSetSource(name, type);
+    document()->setLayoutEnabled(true);
+  }
+
   void paintEvent(QPaintEvent* event) override {
     const QTextBlock end = cursorForPosition(viewport()->rect().bottomRight()).block().next();
     for (QTextBlock block = cursorForPosition({0, 0}).block(); block.isValid() && block != end;

@@ -82,6 +82,7 @@ TEST_F(ManualTest, EveryPictureIsDrawnAndNoPageIsWiderThanItsWindow) {
   for (QDirIterator pages(":/docs/manual"); pages.hasNext();) {
     const std::string page = QFileInfo(pages.next()).completeBaseName().toStdString();
     window->OpenManual(page);
+    Run(1ms);
     for (const QImage& picture : PicturesOf(Page())) {
       EXPECT_GT(picture.depth(), 1) << page << " shows what stands there before it is drawn";
       ++pictures;
