@@ -25,7 +25,7 @@ NOW = "2026-11-21 21:50:00"
 PATIENCE = 20  # seconds that anything may take to show
 LINES_A_SECOND = 25
 REST = 0.3  # seconds
-LEAST_CHANGE = 4000  # bytes of a picture, three of them a pixel
+CARET_AND_SECONDS = 4000  # bytes that change with them, three a pixel
 RAW_VIEW = "Raw view: all text from and to the node"
 FAKE_TIME = "/usr/lib/{}/faketime/libfaketime.so.1"
 HERE = Path(__file__).parent
@@ -149,7 +149,7 @@ def pixels_of(window):
         time.sleep(REST)
         after = output_of("import", "-window", window, "ppm:-")
         changed = sum(a != b for a, b in zip(before, after))
-        return after if len(after) == len(before) and changed <= LEAST_CHANGE else None
+        return after if len(after) == len(before) and changed <= CARET_AND_SECONDS else None
     return wait_for("a window at rest", at_rest)
 
 
