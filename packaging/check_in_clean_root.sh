@@ -46,6 +46,7 @@ prepare_operator() {
 
 run_inside() {
   mount -t proc proc /proc
+  molva-practice-tnc --help >/dev/null || fail "the practice TNC does not start"
   prepare_operator
   local command client
   command=$(sed -n 's/^Exec=//p' "$MENU_ENTRY")

@@ -27,5 +27,5 @@ set(CPACK_DEBIAN_PACKAGE_SECTION hamradio)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What no library tells: the country file, and the plugins that draw the icon.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "hamradio-files, libqt6svg6")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-jetbrains-mono, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-jetbrains-mono, qt6-wayland, xdg-utils")
 include(CPack)

@@ -6,8 +6,11 @@ BUILD_PACKAGES=(ccache cmake g++ lld ninja-build qt6-base-dev qt6-serialport-dev
 RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono hamradio-files imagemagick libqt6svg6 xvfb)
 # What its tests need besides.
 TEST_PACKAGES=(appstream dbus-daemon desktop-file-utils googletest libgmock-dev libgtest-dev)
-# What the package is made with.
-PACKAGING_PACKAGES=(dpkg-dev file)
+# What the package is made and judged with.
+PACKAGING_PACKAGES=(appstream desktop-file-utils dpkg-dev file)
+# What the pictures of the manual are made with, by the names that a screen reader says.
+PICTURE_PACKAGES=(at-spi2-core dbus-daemon dpkg-dev faketime gir1.2-atspi-2.0 pngquant python3-gi
+  xdotool)
 # What the benchmarks are built with.
 BENCH_PACKAGES=(libbenchmark-dev)
 # What the second compiler and the lint need.

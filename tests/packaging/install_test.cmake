@@ -1,8 +1,10 @@
-# Installs the build into an empty folder and looks at what stands there.
+# Installs the build into an empty folder, as a distribution does, and looks at what stands there.
 cmake_minimum_required(VERSION 3.25)
-set(root ${BUILD}/tests/packaging/root)
-file(REMOVE_RECURSE ${root})
-execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${root}
+set(destination ${BUILD}/tests/packaging/root)
+set(root ${destination}/usr)
+file(REMOVE_RECURSE ${destination})
+set(ENV{DESTDIR} ${destination})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix /usr
                 OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 
 set(expected
@@ -15,9 +17,10 @@ set(expected
   share/icons/hicolor/scalable/apps/molva-desk.svg
   share/man/man1/molva-desk.1
   share/man/man1/molva-practice-node.1
+  share/man/man1/molva-practice-tnc.1
   share/metainfo/molva.desk.client.metainfo.xml
 )
-file(GLOB_RECURSE found RELATIVE ${root} ${root}/*)
+file(GLOB_RECURSE found LIST_DIRECTORIES false RELATIVE ${root} ${destination}/*)
 if(NOT "share/doc/molva-desk/manual/index.md" IN_LIST found)
   message(FATAL_ERROR "there is no manual")
 endif()
@@ -27,7 +30,7 @@ if(NOT found STREQUAL expected)
 endif()
 
 foreach(file share/doc/molva-desk/changelog share/man/man1/molva-desk.1
-             share/man/man1/molva-practice-node.1
+             share/man/man1/molva-practice-node.1 share/man/man1/molva-practice-tnc.1
              share/metainfo/molva.desk.client.metainfo.xml)
   file(READ ${root}/${file} content)
   if(NOT content MATCHES "${VERSION}")
