@@ -1,5 +1,6 @@
 #include "ui/colour_dialog.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontInfo>
@@ -37,9 +38,15 @@ ColourDialog::ColourDialog(Model model, Frames& frames, LiveTheme& theme, QWidge
   column->setSpacing(16);
   auto* halves = new QHBoxLayout;
   halves->setSpacing(24);
-  halves->addLayout(MakeColours(frames, theme), 1);
-  halves->addLayout(MakeSpots(frames, theme), 1);
   column->addLayout(halves, 1);
+  const auto addHalf = [halves] {
+    auto* half = new QVBoxLayout;
+    half->setSpacing(8);
+    halves->addLayout(half, 1);
+    return half;
+  };
+  FillColours(addHalf(), frames, theme);
+  FillSpots(addHalf(), frames, theme);
   auto* foot = new QHBoxLayout;
   foot->setSpacing(8);
   foot->addStretch();
@@ -55,9 +62,7 @@ ColourDialog::ColourDialog(Model model, Frames& frames, LiveTheme& theme, QWidge
   });
 }
 
-QLayout* ColourDialog::MakeColours(Frames& frames, LiveTheme& theme) {
-  auto* column = new QVBoxLayout;
-  column->setSpacing(8);
+void ColourDialog::FillColours(QVBoxLayout* column, Frames& frames, LiveTheme& theme) {
   QLabel* heading = MakeHeading(tr("C&olours"), this);
   list_ = new ColourList(model_.form, frames, theme, this);
   heading->setBuddy(list_);
@@ -68,6 +73,7 @@ QLayout* ColourDialog::MakeColours(Frames& frames, LiveTheme& theme) {
   chosen->setAccessibleName(tr("Your own colours"));
   BindLabel(chosen, model_.form.lblChosen, frames);
   column->addWidget(chosen);
+  AddAdvice(column, frames);
   auto* row = new QHBoxLayout;
   row->setSpacing(8);
   column->addLayout(row);
@@ -78,13 +84,37 @@ QLayout* ColourDialog::MakeColours(Frames& frames, LiveTheme& theme) {
   row->addStretch();
   AddButton(row, tr("Default Colour: all colours as the theme has them"), QStringLiteral("D"),
             model_.form.cmdDefault, frames);
-  return column;
 }
 
-QLayout* ColourDialog::MakeSpots(Frames& frames, LiveTheme& theme) {
+void ColourDialog::AddAdvice(QBoxLayout* column, Frames& frames) {
+  auto* advice = new QLabel(this);
+  advice->setProperty("caution", true);
+  advice->setWordWrap(true);
+  column->addWidget(advice);
+  const auto show = [this, advice] {
+    const QString text = Advice();
+    if (text == advice->text() && advice->isHidden() == text.isEmpty()) return;
+    advice->setText(text);
+    advice->setVisible(!text.isEmpty());
+    advice->setAccessibleName(text);
+    QAccessibleEvent alert(advice, QAccessible::Alert);
+    if (!text.isEmpty()) QAccessible::updateAccessibility(&alert);
+  };
+  program::ColourForm& form = model_.form;
+  BindProperty<program::ColourValues>(advice, form.OnShow, frames, [show](const auto&) { show(); });
+  BindProperty<int>(advice, form.optColour.Selected, frames, [show](int) { show(); });
+}
+
+// What the user chose holds, in both themes: he is told where he will not be able to read it.
+QString ColourDialog::Advice() const {
+  const double contrast =
+      ColourList::LeastContrast(model_.form.Selected(), model_.form.OnShow.Get());
+  if (contrast >= kReadable) return {};
+  return tr("Hard to read in one of the themes: a contrast of %1 to 1.").arg(contrast, 0, 'f', 1);
+}
+
+void ColourDialog::FillSpots(QVBoxLayout* column, Frames& frames, LiveTheme& theme) {
   program::DxLook& look = model_.look;
-  auto* column = new QVBoxLayout;
-  column->setSpacing(8);
   column->addWidget(MakeHeading(tr("DX spots"), this));
   auto* form = new QFormLayout;
   form->setHorizontalSpacing(12);
@@ -116,7 +146,6 @@ QLayout* ColourDialog::MakeSpots(Frames& frames, LiveTheme& theme) {
   sample->setMinimumWidth(kSampleWidth);
   column->addWidget(sample);
   column->addStretch();
-  return column;
 }
 
 void ColourDialog::AddChoice(QFormLayout* form, const QString& mnemonic, const QString& name,

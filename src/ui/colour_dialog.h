@@ -27,12 +27,14 @@ class ColourDialog : public QDialog {
   ColourDialog(Model model, Frames& frames, LiveTheme& theme, QWidget* parent);
 
  private:
-  QLayout* MakeColours(Frames& frames, LiveTheme& theme);
-  QLayout* MakeSpots(Frames& frames, LiveTheme& theme);
+  void FillColours(QVBoxLayout* column, Frames& frames, LiveTheme& theme);
+  void FillSpots(QVBoxLayout* column, Frames& frames, LiveTheme& theme);
   void AddChoice(QFormLayout* form, const QString& mnemonic, const QString& name,
                  core::Choice& model, Frames& frames, const QString& unit = {});
   void AddCheck(QBoxLayout* row, const QString& mnemonic, const QString& name, core::Check& model,
                 Frames& frames);
+  void AddAdvice(QBoxLayout* column, Frames& frames);
+  QString Advice() const;
   void Begin();
   void Pick();
 

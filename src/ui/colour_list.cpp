@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "ui/bind.h"
 #include "ui/fonts.h"
@@ -136,6 +137,14 @@ ColourList::Sample ColourList::SampleOf(ColourKey key, const ColourValues& value
   if (isRaw && !program::FollowsTheme(ColourKey::RawText, rawText))
     return {surface.Ground(), theme.Of(ColourKey::RawText, rawText)};
   return {surface.Ground(), surface[Token::Text]};
+}
+
+double ColourList::LeastContrast(ColourKey key, const ColourValues& values) {
+  const auto in = [&](Theme::Kind kind) {
+    const Sample sample = SampleOf(key, values, Theme(kind));
+    return Contrast(sample.ground, sample.text);
+  };
+  return std::min(in(Theme::Kind::Light), in(Theme::Kind::Dark));
 }
 
 }  // namespace ui

@@ -22,6 +22,8 @@ class ColourList : public QListWidget {
   };
   static Sample SampleOf(program::ColourKey key, const program::ColourValues& values,
                          const Theme& theme);
+  // How well that can be read in the theme where it is read worse.
+  static double LeastContrast(program::ColourKey key, const program::ColourValues& values);
 
  private:
   class Painter;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetricsF>
 
 #include "platform/qt/qt_text.h"
@@ -15,6 +16,9 @@ bool IsFixed(const QString& family) {
   const QFontMetricsF metrics(QFont(family, kUsualPixels));
   return metrics.horizontalAdvance(QLatin1Char('i')) == metrics.horizontalAdvance(QLatin1Char('W'));
 }
+
+// "Monospace" stands for another one.
+bool IsAlias(const QString& family) { return QFontInfo(QFont(family)).family() != family; }
 
 }  // namespace
 
@@ -48,7 +52,7 @@ QFont FixedFont(const program::SpotFont& wanted, int pixels) {
 
 QStringList FixedFamilies() {
   QStringList families = QFontDatabase::families(QFontDatabase::Latin);
-  families.removeIf([](const QString& family) { return !IsFixed(family); });
+  families.removeIf([](const QString& family) { return !IsFixed(family) || IsAlias(family); });
   return families;
 }
 

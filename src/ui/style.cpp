@@ -124,6 +124,7 @@ constexpr std::array kNames = {
     Name{"{dim}", Token::DimText},         Name{"{accent}", Token::Accent},
     Name{"{selection}", Token::Selection}, Name{"{bad}", Token::Bad},
     Name{"{good}", Token::Good},           Name{"{alarm}", Token::AlarmGround},
+    Name{"{caution}", Token::Caution},
 };
 
 QColor Between(const QColor& a, const QColor& b) {

@@ -3,8 +3,6 @@
 namespace ui {
 namespace {
 
-constexpr double kReadable = 4.5;
-
 Theme ReadableOn(const QColor& ground) {
   const Theme light(Theme::Kind::Light), dark(Theme::Kind::Dark);
   const bool darkText = Contrast(light[Token::Text], ground) >= Contrast(dark[Token::Text], ground);

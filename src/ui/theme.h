@@ -63,5 +63,6 @@ core::Colour StoredAs(const QColor& colour);
 
 // How well one colour can be read on another: 1 (not at all) to 21, as WCAG 2 computes it.
 double Contrast(const QColor& a, const QColor& b);
+inline constexpr double kReadable = 4.5;
 
 }  // namespace ui

@@ -139,8 +139,8 @@ class SpotStage : public testing::Test {
   core::Label empty;
   core::Property<int> size{13};
   core::Property<program::SpotFont> font;
-  core::Property<bool> heads{true};
-  core::Property<program::ColourValues> colours{program::ValuesOf(settings)};
+  core::Property<bool> title{true};
+  core::Property<program::ColourValues> values{program::ValuesOf(settings)};
   std::vector<spots::Click> clicks;
   spots::ClickKeys clickChoice;
   const ui::Theme theme{ui::Theme::Kind::Light};
@@ -148,7 +148,7 @@ class SpotStage : public testing::Test {
   ui::SpotView view{{.table = table,
                      .display = display,
                      .empty = empty,
-                     .look = {.size = size, .font = font, .heads = heads, .colours = colours},
+                     .look = {.size = size, .font = font, .heads = title, .colours = values},
                      .settings = settings,
                      .click = [this](const spots::Click& click) { clicks.push_back(click); },
                      .clickChoice = [this] { return clickChoice; }},
