@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFontInfo>
 #include <QLabel>
+#include <algorithm>
 
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
@@ -107,10 +108,17 @@ void ColourDialog::AddAdvice(QBoxLayout* column, Frames& frames) {
 
 // What the user chose holds, in both themes: he is told where he will not be able to read it.
 QString ColourDialog::Advice() const {
-  const double contrast =
-      ColourList::LeastContrast(model_.form.Selected(), model_.form.OnShow.Get());
-  if (contrast >= kReadable) return {};
-  return tr("Hard to read in one of the themes: a contrast of %1 to 1.").arg(contrast, 0, 'f', 1);
+  const auto in = [this](Theme::Kind kind) {
+    return ColourList::ContrastOf(model_.form.Selected(), model_.form.OnShow.Get(), Theme(kind));
+  };
+  const double light = in(Theme::Kind::Light), dark = in(Theme::Kind::Dark);
+  const double least = std::min(light, dark);
+  if (least >= kReadable) return {};
+  const QString text =
+      std::max(light, dark) < kReadable ? tr("Hard to read: a contrast of %1 to 1.")
+      : light < dark ? tr("Hard to read in the light theme: a contrast of %1 to 1.")
+                     : tr("Hard to read in the dark theme: a contrast of %1 to 1.");
+  return text.arg(least, 0, 'f', 1);
 }
 
 void ColourDialog::FillSpots(QVBoxLayout* column, Frames& frames, LiveTheme& theme) {

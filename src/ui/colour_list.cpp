@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QPainter>
 #include <QStyledItemDelegate>
-#include <algorithm>
 
 #include "ui/bind.h"
 #include "ui/fonts.h"
@@ -139,12 +138,9 @@ ColourList::Sample ColourList::SampleOf(ColourKey key, const ColourValues& value
   return {surface.Ground(), surface[Token::Text]};
 }
 
-double ColourList::LeastContrast(ColourKey key, const ColourValues& values) {
-  const auto in = [&](Theme::Kind kind) {
-    const Sample sample = SampleOf(key, values, Theme(kind));
-    return Contrast(sample.ground, sample.text);
-  };
-  return std::min(in(Theme::Kind::Light), in(Theme::Kind::Dark));
+double ColourList::ContrastOf(ColourKey key, const ColourValues& values, const Theme& theme) {
+  const Sample sample = SampleOf(key, values, theme);
+  return Contrast(sample.ground, sample.text);
 }
 
 }  // namespace ui

@@ -22,8 +22,9 @@ class ColourList : public QListWidget {
   };
   static Sample SampleOf(program::ColourKey key, const program::ColourValues& values,
                          const Theme& theme);
-  // How well that can be read in the theme where it is read worse.
-  static double LeastContrast(program::ColourKey key, const program::ColourValues& values);
+  // How well that can be read.
+  static double ContrastOf(program::ColourKey key, const program::ColourValues& values,
+                           const Theme& theme);
 
  private:
   class Painter;

@@ -102,7 +102,7 @@ QListWidget#BandRail { background: {panel}; border: none; border-right: 1px soli
 QPushButton#Below { background: {panel}; color: {accent}; border-color: {accent}; }
 QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
-QAbstractScrollArea::corner { background: {ground}; border: none; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
 QScrollBar::handle { background: {handle}; border-radius: 4px; margin: 2px; min-height: 24px;

@@ -201,7 +201,7 @@ TEST_F(ColourDialogTest, ColoursAreGivenBackOneByOneOrAllAtOnce) {
   EXPECT_EQ(program->settings.ColourDx, core::Settings().ColourDx);
 }
 
-TEST_F(ColourDialogTest, ATextThatIsHardToReadInOneOfTheThemesIsTold) {
+TEST_F(ColourDialogTest, ATextThatIsHardToReadIsTold) {
   const auto told = [this] {
     for (const QLabel* each : Dialog().findChildren<QLabel*>())
       if (each->isVisible() && each->text().startsWith("Hard to read")) return each->text();
@@ -210,7 +210,13 @@ TEST_F(ColourDialogTest, ATextThatIsHardToReadInOneOfTheThemesIsTold) {
   EXPECT_EQ(told(), "");
   BeginPicking(ColourKey::RawText);
   TryColour(QColor("#FFFFEE"));
-  EXPECT_EQ(told(), "Hard to read in one of the themes: a contrast of 1.0 to 1.");
+  EXPECT_EQ(told(), "Hard to read in the light theme: a contrast of 1.0 to 1.");
+  TryColour(QColor("#202020"));
+  EXPECT_EQ(told(), "Hard to read in the dark theme: a contrast of 1.1 to 1.");
+  End(&QDialog::accept);
+  BeginPicking(ColourKey::Raw);
+  TryColour(QColor("#303030"));
+  EXPECT_EQ(told(), "Hard to read: a contrast of 1.2 to 1.");
   End(&QDialog::accept);
   Select(ColourKey::Dx);
   EXPECT_EQ(told(), "");

@@ -37,10 +37,10 @@ std::vector<core::Colour> ManyColours() {
 
 TEST(SurfaceTest, TheDefaultsOfTheThemesCanBeReadInBoth) {
   const ColourValues usual = program::ValuesOf(core::Settings());
-  for (const ColourRow& row : kColourTable) {
-    EXPECT_GE(ui::ColourList::LeastContrast(row.key, usual), 4.5) << row.words;
-    EXPECT_GE(ui::ColourList::LeastContrast(row.key, ColourValues()), 4.5) << row.words;
-  }
+  for (const ColourRow& row : kColourTable)
+    for (const Theme::Kind kind : kKinds)
+      for (const ColourValues& values : {usual, ColourValues()})
+        EXPECT_GE(ui::ColourList::ContrastOf(row.key, values, Theme(kind)), 4.5) << row.words;
 }
 
 TEST(SurfaceTest, OnADefaultGroundEverythingIsAsTheThemeHasIt) {
