@@ -38,7 +38,7 @@ ColourForm::ColourForm(core::Settings& settings, Needs needs)
   watching_.push_back(Open.Observe([this](bool open) {
     if (!open) UserLeaves();
   }));
-  watching_.push_back(optColour.Selected.Observe([this](int) { Renew(); }));
+  watching_.push_back(optColour.Click.Add([this] { Renew(); }));
 }
 
 void ColourForm::Load() { Renew(); }

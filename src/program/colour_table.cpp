@@ -11,7 +11,7 @@ bool IsNamed(core::Colour stored) {
 }  // namespace
 
 ColourValues ValuesOf(const core::Settings& settings) {
-  ColourValues values;
+  ColourValues values{.bands = settings.SpotColor};
   for (std::size_t i = 0; i < kColourTable.size(); ++i)
     values.stored[i] = settings.*kColourTable[i].stored;
   return values;

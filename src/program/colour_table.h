@@ -103,9 +103,10 @@ constexpr const ColourRow& RowOf(ColourKey key) {
   return kColourTable[static_cast<std::size_t>(key)];
 }
 
-// What is stored for each of them.
+// What is stored for each of them, and for the bands, which the user may give colours in the file.
 struct ColourValues {
   std::array<core::Colour, kColourTable.size()> stored{};
+  decltype(core::Settings::SpotColor) bands{};
 
   core::Colour operator[](ColourKey key) const { return stored[static_cast<std::size_t>(key)]; }
   bool operator==(const ColourValues&) const = default;

@@ -6,17 +6,10 @@
 
 #include "core/controls.h"
 #include "core/settings.h"
+#include "program/spot_font.h"
 #include "program/text_sizes.h"
 
 namespace program {
-
-struct SpotFont {
-  std::string family;  // empty: the program's own
-  bool bold = false;
-  bool italic = false;
-
-  bool operator==(const SpotFont&) const = default;
-};
 
 // Of frmColour, what is not a colour: the font of the table of spots, and whether the heads stand
 // over its columns. What the user does here is seen at once, and kept.

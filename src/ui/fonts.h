@@ -3,7 +3,7 @@
 #include <QFont>
 #include <QStringList>
 
-#include "program/dx_look.h"
+#include "program/spot_font.h"
 
 namespace ui {
 

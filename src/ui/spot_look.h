@@ -2,7 +2,7 @@
 
 #include "core/controls.h"
 #include "program/colour_table.h"
-#include "program/dx_look.h"
+#include "program/spot_font.h"
 
 namespace ui {
 

@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "core/text.h"
-#include "program/dx_look.h"
+#include "program/spot_font.h"
 #include "spots/row_parts.h"
 #include "spots/table_row.h"
 #include "ui/spot_colours.h"

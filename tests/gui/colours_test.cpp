@@ -1,3 +1,4 @@
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -93,6 +94,16 @@ TEST_F(ColoursTest, OfTheConfigurationAreThereFromTheStartOn) {
   Open({"\"StartTab\",7", "\"ColourLoginMsg\",4202512", "\"ColourRaw\",1"});
   EXPECT_EQ(GroundOf(Login()), kNightDrawn);
   EXPECT_EQ(GroundOf(Raw()), QColor(1, 0, 0)) << "a chosen black";
+}
+
+TEST_F(ColoursTest, ABandsOwnColourOfTheConfigurationIsThatOfItsRows) {
+  Open({"\"6SpotColor\",12591136"});
+  LogIn();
+  program->session.state.Recognise(session::NodeKind::Spider);
+  node.Say("DX de W1TST:     14025.0  3Y0J         loud                           2148Z");
+  Run(1s);
+  const auto& table = *Named<QAbstractScrollArea>(*window, "Spots");
+  EXPECT_EQ(table.viewport()->grab().toImage().pixelColor(1, 8), QColor(0x20, 0x20, 0xC0));
 }
 
 TEST_F(ColoursTest, ALinkOfTheLoginMessageCanBeReadOnAChosenGround) {

@@ -21,7 +21,7 @@ constexpr std::array kKinds = {Theme::Kind::Light, Theme::Kind::Dark};
 constexpr std::array kInks = {Token::DimText, Token::Accent, Token::Good, Token::Caution,
                               Token::Bad};
 
-const Surface SurfaceOf(ColourKey key, core::Colour stored, Theme::Kind kind) {
+Surface SurfaceOf(ColourKey key, core::Colour stored, Theme::Kind kind) {
   return Surface(key, stored, Theme(kind));
 }
 
