@@ -131,17 +131,7 @@ void ColourDialog::FillSpots(QVBoxLayout* column, Frames& frames, LiveTheme& the
   AddChoice(form, QStringLiteral("F"), tr("Font of the spots"), look.optFont, frames);
   AddChoice(form, QStringLiteral("z"), tr("Size of the spots, in pixels"), look.optSize, frames,
             tr("pixels"));
-  auto* style = new QHBoxLayout;
-  style->setSpacing(16);
-  AddCheck(style, QStringLiteral("B"), tr("Spots in bold"), look.chkBold, frames);
-  AddCheck(style, QStringLiteral("I"), tr("Spots in italic"), look.chkItalic, frames);
-  style->addStretch();
-  form->addRow(QString(), style);
-  auto* usual = new QHBoxLayout;
-  form->addRow(QString(), usual);
-  AddButton(usual, tr("Default Font of the spots"), QStringLiteral("n"), look.cmdDefaultFont,
-            frames);
-  usual->addStretch();
+  AddStyle(form, frames);
   column->addSpacing(8);
   AddCheck(column, QStringLiteral("w"), tr("Show DX Tab Title: the heads of the columns"),
            look.chkTitle, frames);
@@ -154,6 +144,21 @@ void ColourDialog::FillSpots(QVBoxLayout* column, Frames& frames, LiveTheme& the
   sample->setMinimumWidth(kSampleWidth);
   column->addWidget(sample);
   column->addStretch();
+}
+
+void ColourDialog::AddStyle(QFormLayout* form, Frames& frames) {
+  program::DxLook& look = model_.look;
+  auto* style = new QHBoxLayout;
+  style->setSpacing(16);
+  AddCheck(style, QStringLiteral("B"), tr("Spots in bold"), look.chkBold, frames);
+  AddCheck(style, QStringLiteral("I"), tr("Spots in italic"), look.chkItalic, frames);
+  style->addStretch();
+  form->addRow(QString(), style);
+  auto* usual = new QHBoxLayout;
+  form->addRow(QString(), usual);
+  AddButton(usual, tr("Default Font of the spots"), QStringLiteral("n"), look.cmdDefaultFont,
+            frames);
+  usual->addStretch();
 }
 
 void ColourDialog::AddChoice(QFormLayout* form, const QString& mnemonic, const QString& name,

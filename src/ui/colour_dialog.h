@@ -29,6 +29,7 @@ class ColourDialog : public QDialog {
  private:
   void FillColours(QVBoxLayout* column, Frames& frames, LiveTheme& theme);
   void FillSpots(QVBoxLayout* column, Frames& frames, LiveTheme& theme);
+  void AddStyle(QFormLayout* form, Frames& frames);
   void AddChoice(QFormLayout* form, const QString& mnemonic, const QString& name,
                  core::Choice& model, Frames& frames, const QString& unit = {});
   void AddCheck(QBoxLayout* row, const QString& mnemonic, const QString& name, core::Check& model,

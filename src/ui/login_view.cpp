@@ -61,7 +61,9 @@ QColor LoginView::LinkColour() const {
 
 void LoginView::SetColours(const std::optional<Colours>& colours) {
   TextPageView::SetColours(colours);
-  linkColour_ = colours ? colours->accent : QColor();
+  const QColor link = colours ? colours->accent : QColor();
+  if (link == linkColour_) return;
+  linkColour_ = link;
   marks_->rehighlight();
 }
 
