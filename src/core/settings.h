@@ -193,7 +193,7 @@ struct Settings {
   bool SpotterGrid = false;
   bool ClassicDisplay = false;
   bool ExtraWide = false;
-  bool DxTitleVisible = false;
+  bool DxTitleVisible = true;  // the heads of the columns
   int SpotWidth = 0;
 
   // Colours and fonts.

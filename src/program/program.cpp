@@ -82,6 +82,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       dxTab(views, spotParts.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
+      colourForm(settings, NeedsOfColourForm()),
+      dxLook(settings, textSizes, [this] { DelayedWriteCfg(); }),
       rawPane(session.commandLine.cmdRawplus[session::CommandLine::kRestoreRaw],
               session.commandLine.cmdRawplus[session::CommandLine::kMaximiseRaw]),
       startOptions(settings, NeedsOfStartOptions()),
@@ -123,6 +125,15 @@ session::TncForm::Needs Program::NeedsOfTncForm() {
   session::TncForm::Needs needs{.saved = [this] { TakeScript(); }, .openManual = {}};
   if (needs_.openManual) needs.openManual = [this] { needs_.openManual("tnc"); };
   return needs;
+}
+
+ColourForm::Needs Program::NeedsOfColourForm() {
+  return {.delayedWriteCfg = [this] { DelayedWriteCfg(); },
+          .changed =
+              [this] {
+                session.connection.Recolour();
+                session.tncScript.Recolour();
+              }};
 }
 
 spots::SpotParts::Needs Program::NeedsOfSpots() {
@@ -214,6 +225,8 @@ void Program::ApplySettings() {
   spotParts.TakeSettings();
   appearance.Load();
   textSizes.Load();
+  colourForm.Load();
+  dxLook.Load();
   startOptions.Load();
   CaptionSetup();
 }

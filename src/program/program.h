@@ -17,7 +17,9 @@
 #include "platform/tasks.h"
 #include "program/appearance.h"
 #include "program/chain.h"
+#include "program/colour_form.h"
 #include "program/conditions.h"
+#include "program/dx_look.h"
 #include "program/dx_tab.h"
 #include "program/link_condition.h"
 #include "program/message_form.h"
@@ -127,6 +129,8 @@ class Program {
   DxTab dxTab;
   Appearance appearance;
   TextSizes textSizes;
+  ColourForm colourForm;  // frmColour
+  DxLook dxLook;
   RawPane rawPane;
   StartOptions startOptions;
 
@@ -157,6 +161,7 @@ class Program {
 
   StartOptions::Needs NeedsOfStartOptions();
   session::TncForm::Needs NeedsOfTncForm();
+  ColourForm::Needs NeedsOfColourForm();
   spots::SpotParts::Needs NeedsOfSpots();
   void TellOfMembers(spots::Membership::List list);
   void ChooseLinking();

@@ -70,6 +70,8 @@ class Connection {
   void BeginAnew();
   // The session that runs is not to be counted when it ends.
   void NotCounted() { ConnectedOnce = false; }
+  // The user has chosen other colours for the phases of the link.
+  void Recolour() { Show(state_.Phase.Get()); }
   // The count of disconnects begins anew.
   void ClearCount();
 

@@ -49,7 +49,7 @@ std::vector<TncScript::Step> TncScript::StepsIn(const core::Settings& settings) 
 void TncScript::Connect() {
   for (TncStepMark& mark : steps) {
     mark.progress.Set(Progress::Idle);
-    mark.ForeColour.Set(core::kThemeColour);
+    mark.ForeColour.Set(ColourOf(Progress::Idle));
   }
   script_ = StepsIn(settings_);
   ScriptStep = 0;
@@ -69,21 +69,31 @@ void TncScript::Connect() {
 
 void TncScript::BeginStep() {
   needs_.stepBegins();
-  Mark(Progress::Waiting, settings_.ColourNodeTrying);
+  Mark(Progress::Waiting);
   timers_.SetInterval(TimerId::ConnectScript, TimeOutOf(Now().texts));
   timers_.Restart(TimerId::ConnectScript);
   outgoing_.Send(Now().texts.Command);
 }
 
-void TncScript::Mark(Progress progress, core::Colour colour) {
+void TncScript::Mark(Progress progress) {
   TncStepMark& mark = steps[Now().row];
   mark.progress.Set(progress);
-  mark.ForeColour.Set(colour);
+  mark.ForeColour.Set(ColourOf(progress));
+}
+
+core::Colour TncScript::ColourOf(Progress progress) const {
+  const core::Colour colours[] = {core::kThemeColour, settings_.ColourNodeTrying,
+                                  settings_.ColourNodeConn, settings_.ColourNodeDisc};
+  return colours[static_cast<std::size_t>(progress)];
+}
+
+void TncScript::Recolour() {
+  for (TncStepMark& mark : steps) mark.ForeColour.Set(ColourOf(mark.progress.Get()));
 }
 
 bool TncScript::Netrom(std::string_view line) {
   if (!ScriptRunning || !Answers(line, Now().texts.Reply)) return false;
-  Mark(Progress::Answered, settings_.ColourNodeConn);
+  Mark(Progress::Answered);
   if (++ScriptStep < static_cast<int>(script_.size()))
     BeginStep();
   else
@@ -101,7 +111,7 @@ void TncScript::Finish(std::string_view line) {
 void TncScript::TimedOut() {
   std::string why;
   if (std::exchange(ScriptRunning, false) && !state_.UserDisconnected) {
-    Mark(Progress::TimedOut, settings_.ColourNodeDisc);
+    Mark(Progress::TimedOut);
     outgoing_.updateText2("Connect attempt time out.  Connect Response of: \"" + Now().texts.Reply +
                           "\" not received!");
     why = WhyNoReply();

@@ -54,6 +54,8 @@ class TncScript {
   void DisconnectTNC();
   // The session has logged in: the script has done its work, wherever it was.
   void LoggedIn() { Stop(); }
+  // The user has chosen other colours for the phases of the link.
+  void Recolour();
   // The port has gone, with all behind it: ends a session that has begun.
   void PortLost();
 
@@ -69,7 +71,8 @@ class TncScript {
   static std::vector<Step> StepsIn(const core::Settings& settings);
   const Step& Now() const { return script_[static_cast<std::size_t>(ScriptStep)]; }
   void BeginStep();
-  void Mark(TncStepMark::Progress progress, core::Colour colour);
+  void Mark(TncStepMark::Progress progress);
+  core::Colour ColourOf(TncStepMark::Progress progress) const;
   void Finish(std::string_view line);
   void TimedOut();
   void Stop();

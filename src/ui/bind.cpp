@@ -5,6 +5,7 @@
 
 #include "platform/qt/qt_text.h"
 #include "ui/one_line.h"
+#include "ui/theme.h"
 
 namespace ui {
 namespace {
@@ -33,15 +34,23 @@ const char* TintOf(core::Colour colour) {
   }
 }
 
-// The style sheet knows the theme's colours of the three meanings by name.
-void BindTint(QWidget* widget, core::Control& model, Frames& frames) {
-  BindProperty<core::Colour>(widget, model.ForeColour, frames, [widget](core::Colour colour) {
-    const QString tint = QLatin1String(TintOf(colour));
-    if (widget->property("tint").toString() == tint) return;
-    widget->setProperty("tint", tint);
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-  });
+// The style sheet knows the theme's colours of the three meanings by name. A colour that the user
+// chose stands in a sheet of the widget's own.
+void Tint(QLabel* widget, core::Colour colour) {
+  const QString tint = QLatin1String(TintOf(colour));
+  const bool own = tint.isEmpty() && colour != core::kThemeColour;
+  const QString sheet =
+      own ? QStringLiteral("QLabel { color: %1 }").arg(AsStored(colour).name()) : QString();
+  if (widget->styleSheet() != sheet) widget->setStyleSheet(sheet);
+  if (widget->property("tint").toString() == tint) return;
+  widget->setProperty("tint", tint);
+  widget->style()->unpolish(widget);
+  widget->style()->polish(widget);
+}
+
+void BindTint(QLabel* widget, core::Control& model, Frames& frames) {
+  BindProperty<core::Colour>(widget, model.ForeColour, frames,
+                             [widget](core::Colour colour) { Tint(widget, colour); });
 }
 
 // The text with the mark of its mnemonic, which must not be an "&".

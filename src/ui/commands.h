@@ -22,6 +22,7 @@ enum class Act {
   Rejects,
   Corrections,
   CorrectErrors,
+  Colours,
   ChooseTheme,
   ChooseTab,
   ChooseBand,

@@ -34,7 +34,7 @@ DxPage::DxPage(Models models, Acts acts, Frames& frames, LiveTheme& theme, QWidg
   spots_ = new SpotView({.table = models.table,
                          .display = models.display,
                          .empty = models.empty,
-                         .size = models.size,
+                         .look = models.look,
                          .settings = models.settings,
                          .click = acts.click,
                          .clickChoice = acts.clickChoice},

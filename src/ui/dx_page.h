@@ -26,7 +26,7 @@ class DxPage : public QWidget {
     spots::SpotRequests& requests;
     spots::SpotNumbers& numbers;
     core::Label& empty;
-    core::Property<int>& size;  // of the table's text, in pixels
+    SpotLook look;
     const core::Settings& settings;
   };
   // What the user may ask for here and others do.

@@ -41,7 +41,7 @@ class LoginView::Marks : public QSyntaxHighlighter {
     const int from = place.from - currentBlock().position();
     QTextCharFormat format = this->format(from);
     format.setFontUnderline(true);
-    format.setForeground(view_.palette().color(QPalette::Link));
+    format.setForeground(view_.LinkColour());
     setFormat(from, place.to - place.from, format);
   }
 
@@ -53,6 +53,18 @@ LoginView::LoginView(core::TextPage& page, session::Links& links, Frames& frames
   viewport()->setMouseTracking(true);
   setAccessibleDescription(tr("Tab goes to the links, Enter opens one."));
   clearing_ = links_.Cleared.Add([this] { marks_->rehighlight(); });
+}
+
+QColor LoginView::LinkColour() const {
+  return linkColour_.isValid() ? linkColour_ : palette().color(QPalette::Link);
+}
+
+void LoginView::SetColours(const std::optional<Colours>& colours) {
+  TextPageView::SetColours(colours);
+  const QColor link = colours ? colours->accent : QColor();
+  if (link == linkColour_) return;
+  linkColour_ = link;
+  marks_->rehighlight();
 }
 
 std::vector<LoginView::Place> LoginView::PlacesIn(const QTextBlock& block) const {

@@ -17,6 +17,8 @@ class LoginView : public TextPageView {
   // The page, its links and the frames outlive the view.
   LoginView(core::TextPage& page, session::Links& links, Frames& frames, QWidget* parent = nullptr);
 
+  void SetColours(const std::optional<Colours>& colours) override;
+
  protected:
   bool focusNextPrevChild(bool next) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -36,6 +38,7 @@ class LoginView : public TextPageView {
     int to;
   };
 
+  QColor LinkColour() const;
   std::vector<Place> PlacesIn(const QTextBlock& block) const;
   std::optional<Place> At(const QPoint& point) const;
   // The link that is selected, as Tab does it.
@@ -46,6 +49,7 @@ class LoginView : public TextPageView {
   void AddActions(QMenu* menu, const session::Link& link);
 
   session::Links& links_;
+  QColor linkColour_;  // not valid: the theme's
   Marks* marks_;
   std::optional<session::Link> pressed_;  // what was under the button when it went down
   QPoint pressedAt_;

@@ -12,6 +12,7 @@
 #include "core/version.h"
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/colour_dialog.h"
 #include "ui/comm_dialog.h"
 #include "ui/conditions_bar.h"
 #include "ui/fix_spot_dialog.h"
@@ -25,6 +26,7 @@
 #include "ui/tnc_dialog.h"
 #include "ui/touch_watch.h"
 #include "ui/user_info_dialog.h"
+#include "ui/view_colours.h"
 
 namespace ui {
 namespace {
@@ -74,7 +76,7 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
       columns_(new DisplayDialog(program.spotParts.display, frames, this)),
       rejects_(new RejectDialog(program.spotParts.rejectForm, program.spotParts.rejectLists,
                                 program.spotParts.localReject.CorrectErrors, frames, this)) {
-  AddPages(frames);
+  AddPages(frames, theme);
   Lay(frames, theme);
   AddDialogs(frames, theme);
   AddKeys();
@@ -132,11 +134,12 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
   StorePlace();
 }
 
-void MainWindow::AddPages(Frames& frames) {
+void MainWindow::AddPages(Frames& frames, LiveTheme& theme) {
   loginMessage_->setAccessibleName(tr("Login message of the node"));
   raw_->setAccessibleName(tr("Raw view: all text from and to the node"));
   for (int tab = 0; tab < program::Views::kTabs; ++tab) {
-    QWidget* page = tab == program::Views::Settings   ? new SettingsPage(program_, frames, this)
+    QWidget* page = tab == program::Views::Settings
+                        ? new SettingsPage(program_, frames, theme, this)
                     : tab == program::Views::Dx       ? dx_
                     : tab == program::Views::LoginMsg ? loginMessage_
                                                       : new QWidget(this);
@@ -149,6 +152,9 @@ void MainWindow::AddPages(Frames& frames) {
   };
   size(raw_, program::TextSizes::Raw);
   size(loginMessage_, program::TextSizes::LoginMsg);
+  core::Property<program::ColourValues>& colours = program_.colourForm.OnShow;
+  BindColours(raw_, colours, program::ColourKey::Raw, program::ColourKey::RawText, frames, theme);
+  BindColours(loginMessage_, colours, program::ColourKey::LoginMsg, {}, frames, theme);
 }
 
 DxPage* MainWindow::MakeDxPage(Frames& frames, LiveTheme& theme) {
@@ -159,7 +165,10 @@ DxPage* MainWindow::MakeDxPage(Frames& frames, LiveTheme& theme) {
                      .requests = parts.requests,
                      .numbers = parts.numbers,
                      .empty = program_.dxTab.lblEmpty,
-                     .size = program_.textSizes.Size[program::TextSizes::Dx],
+                     .look = {.size = program_.textSizes.Size[program::TextSizes::Dx],
+                              .font = program_.dxLook.Font,
+                              .heads = program_.dxLook.chkTitle.Value,
+                              .colours = program_.colourForm.OnShow},
                      .settings = program_.settings},
                     {.click = [this](const spots::Click& click) { Do(click); },
                      .clickChoice = {},
@@ -186,6 +195,11 @@ void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
                   .update = program_.nodeUpdate,
                   .directory = program_.nodeDirectory},
                  frames, this);
+  new ColourDialog({.form = program_.colourForm,
+                    .look = program_.dxLook,
+                    .size = program_.textSizes.Size[program::TextSizes::Dx],
+                    .settings = program_.settings},
+                   frames, theme, this);
   new SpotsDialog(parts.spotsForm, frames, this);
   new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},
                     frames, theme, this);
@@ -254,6 +268,8 @@ void MainWindow::Do(const Command& command) {
       return parts.fixForm.Show();
     case Act::CorrectErrors:
       return parts.localReject.CorrectErrors.UserSets(!parts.localReject.CorrectErrors.Value.Get());
+    case Act::Colours:
+      return program_.colourForm.Show();
     case Act::ChooseTheme:
       return program_.appearance.optTheme.UserSelects(command.number);
     case Act::ChooseTab:

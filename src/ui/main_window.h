@@ -39,7 +39,7 @@ class MainWindow : public QMainWindow {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void AddPages(Frames& frames);
+  void AddPages(Frames& frames, LiveTheme& theme);
   DxPage* MakeDxPage(Frames& frames, LiveTheme& theme);
   void AddDialogs(Frames& frames, LiveTheme& theme);
   void Do(const spots::Click& click);

@@ -8,6 +8,7 @@
 
 #include "ui/bind.h"
 #include "ui/macro_panel.h"
+#include "ui/style.h"
 #include "ui/technical_panel.h"
 
 namespace ui {
@@ -39,7 +40,8 @@ QHBoxLayout* AddRow(QVBoxLayout* group) {
 
 }  // namespace
 
-SettingsPage::SettingsPage(program::Program& program, Frames& frames, QWidget* parent)
+SettingsPage::SettingsPage(program::Program& program, Frames& frames, LiveTheme& theme,
+                           QWidget* parent)
     : QScrollArea(parent), page_(new QWidget(this)), columns_(new QHBoxLayout(page_)) {
   setFocusPolicy(Qt::NoFocus);
   setFrameShape(QFrame::NoFrame);
@@ -60,6 +62,17 @@ SettingsPage::SettingsPage(program::Program& program, Frames& frames, QWidget* p
   AddGroup(right, tr("Technical"))->addWidget(new TechnicalPanel(program, frames, page_));
   right->addStretch();
   columns_->addStretch();
+  BindGround(program.colourForm.OnShow, frames, theme);
+}
+
+void SettingsPage::BindGround(core::Property<program::ColourValues>& values, Frames& frames,
+                              LiveTheme& theme) {
+  const auto show = [this, &values, &theme] {
+    constexpr auto kKey = program::ColourKey::Settings;
+    Dress(this, Surface(kKey, values.Get()[kKey], theme.Get()));
+  };
+  BindProperty<program::ColourValues>(this, values, frames, [show](const auto&) { show(); });
+  BindProperty<Theme>(this, theme, frames, [show](const Theme&) { show(); });
 }
 
 QVBoxLayout* SettingsPage::AddColumn() {

@@ -6,6 +6,7 @@
 
 #include "program/program.h"
 #include "ui/frames.h"
+#include "ui/theme.h"
 
 namespace ui {
 
@@ -14,9 +15,10 @@ namespace ui {
 // scrolls.
 class SettingsPage : public QScrollArea {
  public:
-  SettingsPage(program::Program& program, Frames& frames, QWidget* parent);
+  SettingsPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent);
 
  private:
+  void BindGround(core::Property<program::ColourValues>& values, Frames& frames, LiveTheme& theme);
   QVBoxLayout* AddColumn();
   // Its heading stands in it.
   QVBoxLayout* AddGroup(QVBoxLayout* column, const QString& heading);

@@ -115,7 +115,7 @@ class SpotHead : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    const SpotColours colours = heads_.colours_();
+    const SpotColours& colours = heads_.colours_;
     QPainter painter(this);
     painter.setFont(Font());
     painter.setPen(IsActive() || underMouse() ? colours.text : colours.dim);
@@ -160,13 +160,8 @@ class SpotHead : public QAbstractButton {
 };
 
 SpotHeads::SpotHeads(spots::SpotTable& table, spots::DisplayChoice& display,
-                     const SpotPainter& painter, std::function<SpotColours()> colours,
-                     QWidget* parent)
-    : QWidget(parent),
-      table_(table),
-      display_(display),
-      painter_(painter),
-      colours_(std::move(colours)) {
+                     const SpotPainter& painter, const SpotColours& colours, QWidget* parent)
+    : QWidget(parent), table_(table), display_(display), painter_(painter), colours_(colours) {
   MakeHeads();
   following_.push_back(display.LaidOut.Add([this] { MakeHeads(); }));
   following_.push_back(table.optSortBy.Observe([this](int) { Renew(); }));
@@ -223,12 +218,11 @@ void SpotHeads::Go(const SpotHead* from, int steps) {
 }
 
 void SpotHeads::paintEvent(QPaintEvent*) {
-  const SpotColours colours = colours_();
   QPainter painter(this);
-  painter.fillRect(rect(), colours.ground);
-  painter.fillRect(0, height() - 1, width(), 1, colours.line);
+  painter.fillRect(rect(), colours_.ground);
+  painter.fillRect(0, height() - 1, width(), 1, colours_.line);
   painter.setFont(InterfaceFont());
-  painter.setPen(colours.dim);
+  painter.setPen(colours_.dim);
   for (const Plain& plain : kPlain) {
     const spots::RowLayout& layout = display_.Layout();
     if (!layout.Shows(plain.column)) continue;

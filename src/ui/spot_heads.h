@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 #include <vector>
 
 #include "spots/display_choice.h"
@@ -23,7 +22,7 @@ class SpotHeads : public QWidget {
 
   // All outlive it.
   SpotHeads(spots::SpotTable& table, spots::DisplayChoice& display, const SpotPainter& painter,
-            std::function<SpotColours()> colours, QWidget* parent);
+            const SpotColours& colours, QWidget* parent);
 
   // Each goes over its column, the rows having moved to the left by `scrolled`.
   void Place(int scrolled);
@@ -44,7 +43,7 @@ class SpotHeads : public QWidget {
   spots::SpotTable& table_;
   spots::DisplayChoice& display_;
   const SpotPainter& painter_;
-  std::function<SpotColours()> colours_;
+  const SpotColours& colours_;
   std::vector<SpotHead*> heads_;  // from left to right
   int scrolled_ = 0;
   std::vector<platform::Registration> following_;

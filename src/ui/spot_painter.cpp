@@ -40,8 +40,9 @@ QString TextOf(const spots::DrawnField& field, const spots::TableRow& row) {
 
 }  // namespace
 
-SpotPainter::SpotPainter(int pixels) : font_(FixedFont(pixels)), callFont_(font_) {
-  callFont_.setWeight(QFont::DemiBold);
+SpotPainter::SpotPainter(const program::SpotFont& font, int pixels)
+    : font_(FixedFont(font, pixels)), callFont_(font_) {
+  callFont_.setWeight(font.bold ? QFont::Black : QFont::DemiBold);
   const QFontMetrics metrics(font_);
   rowHeight_ = metrics.height() + kRoom;
   baseline_ = kRoom / 2 + metrics.ascent();

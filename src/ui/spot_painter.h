@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "core/text.h"
+#include "program/spot_font.h"
 #include "spots/row_parts.h"
 #include "spots/table_row.h"
 #include "ui/spot_colours.h"
@@ -13,7 +14,7 @@ namespace ui {
 // Draws rows of spots in a font of fixed width: every field stands at its column.
 class SpotPainter {
  public:
-  explicit SpotPainter(int pixels);
+  SpotPainter(const program::SpotFont& font, int pixels);
 
   int RowHeight() const { return rowHeight_; }
   // How many pixels the columns before it take, counted from 0.

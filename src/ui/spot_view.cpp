@@ -32,33 +32,54 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
     : QAbstractScrollArea(parent),
       model_(model),
       theme_(theme),
-      painter_(model.size.Get()),
+      painter_(model.look.font.Get(), model.look.size.Get()),
+      colours_(ColoursOf(model.settings, theme.Get())),
       item_(frames.Add([this] { Refresh(); })),
       rows_(model.table.RtbDx,
             [this] {
               if (isVisible()) item_->Changed();
             }),
-      heads_(new SpotHeads(
-          model.table, model.display, painter_, [this] { return Colours(); }, this)),
+      heads_(new SpotHeads(model.table, model.display, painter_, colours_, this)),
       below_(new QPushButton(this)) {
   MakeSpotViewsAccessible();  // before Qt asks who speaks for it
   setAccessibleName(tr("Spots"));
   setFrameShape(QFrame::NoFrame);
+  setAutoFillBackground(true);
   setFocusPolicy(Qt::StrongFocus);
-  setViewportMargins(0, SpotHeads::kHeight, 0, 0);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   viewport()->setToolTip(platform::qt::TextOf(spots::kTableToolTip));
   below_->setObjectName(QStringLiteral("Below"));
   below_->setFocusPolicy(Qt::NoFocus);
   below_->hide();
   connect(below_, &QPushButton::clicked, this, [this] { GoToEnd(); });
-  BindProperty<int>(this, model.size, frames, [this](const int& pixels) { ChangeSize(pixels); });
-  const auto repaint = [this](const auto&) {
-    heads_->update();
-    viewport()->update();
-  };
-  BindProperty<Theme>(this, theme, frames, repaint);
-  BindProperty<std::string>(this, model.empty.Caption, frames, repaint);
+  FollowLook(frames);
+  BindProperty<std::string>(this, model.empty.Caption, frames,
+                            [this](const std::string&) { viewport()->update(); });
+}
+
+void SpotView::FollowLook(Frames& frames) {
+  SpotLook& look = model_.look;
+  BindProperty<int>(this, look.size, frames, [this](int) { ChangeFont(); });
+  BindProperty<program::SpotFont>(this, look.font, frames, [this](const auto&) { ChangeFont(); });
+  BindProperty<bool>(this, look.heads, frames, [this](bool on) { ShowHeads(on); });
+  BindProperty<Theme>(this, theme_, frames, [this](const Theme&) { Recolour(); });
+  BindProperty<program::ColourValues>(this, look.colours, frames,
+                                      [this](const auto&) { Recolour(); });
+}
+
+void SpotView::Recolour() {
+  colours_ = ColoursOf(model_.settings, theme_.Get());
+  // The scroll bars stand on the same ground.
+  QPalette palette;
+  palette.setColor(QPalette::Window, colours_.ground);
+  setPalette(palette);
+  heads_->update();
+  viewport()->update();
+}
+
+void SpotView::ShowHeads(bool on) {
+  heads_->setVisible(on);
+  setViewportMargins(0, on ? SpotHeads::kHeight : 0, 0, 0);
 }
 
 // What is on the screen.
@@ -156,10 +177,10 @@ void SpotView::Measure(Number first) {
     if (rows_.Row(row).IsSpot()) widest_ = std::max(widest_, rows_.Row(row).Text().size());
 }
 
-void SpotView::ChangeSize(int pixels) {
+void SpotView::ChangeFont() {
   const bool atEnd = AtEnd();
   const Number first = FirstInSight();
-  painter_ = SpotPainter(pixels);
+  painter_ = SpotPainter(model_.look.font.Get(), model_.look.size.Get());
   SetRanges();
   verticalScrollBar()->setValue(static_cast<int>(first - rows_.First()) * painter_.RowHeight());
   if (atEnd && !NewestOnTop()) GoToEnd();
@@ -233,25 +254,22 @@ std::size_t SpotView::SpotsBehind(Number stars) const {
   return spots;
 }
 
-SpotColours SpotView::Colours() const { return ColoursOf(model_.settings, theme_.Get()); }
-
 void SpotView::paintEvent(QPaintEvent* event) {
-  const SpotColours colours = Colours();
   QPainter painter(viewport());
-  painter.fillRect(viewport()->rect(), colours.ground);
+  painter.fillRect(viewport()->rect(), colours_.ground);
   if (rows_.Rows().empty()) {
     painter.setFont(InterfaceFont());
-    painter.setPen(colours.dim);
+    painter.setPen(colours_.dim);
     painter.drawText(viewport()->rect(), Qt::AlignCenter,
                      OneLine(model_.empty.Caption.Get(), kLongestRow));
   }
-  PaintRows(painter, event->region(), colours);
+  PaintRows(painter, event->region());
   if (!hasFocus()) return;
-  painter.setPen(colours.accent);
+  painter.setPen(colours_.accent);
   painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
-void SpotView::PaintRows(QPainter& painter, const QRegion& region, const SpotColours& colours) {
+void SpotView::PaintRows(QPainter& painter, const QRegion& region) {
   paintedFirst_ = drawnFirst_ = FirstInSight();
   paintedTop_ = drawnTop_ = PlaceOf(paintedFirst_).top();
   for (Number row = paintedFirst_; row < rows_.End(); ++row) {
@@ -266,7 +284,7 @@ void SpotView::PaintRows(QPainter& painter, const QRegion& region, const SpotCol
                    .scrolled = horizontalScrollBar()->value(),
                    .selected = IsChosen(row),
                    .spotsBehind = content.IsStars() ? SpotsBehind(row) : 0},
-                  colours);
+                  colours_);
   }
 }
 

@@ -13,6 +13,7 @@
 #include "ui/kept_place.h"
 #include "ui/searchable.h"
 #include "ui/spot_heads.h"
+#include "ui/spot_look.h"
 #include "ui/spot_painter.h"
 #include "ui/spot_snapshot.h"
 #include "ui/theme.h"
@@ -34,8 +35,8 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   struct Model {
     spots::SpotTable& table;
     spots::DisplayChoice& display;
-    core::Label& empty;         // what stands there while there are no rows
-    core::Property<int>& size;  // of the text, in pixels
+    core::Label& empty;  // what stands there while there are no rows
+    SpotLook look;
     const core::Settings& settings;
     // What is to be done for a click; its call is in the clipboard by then.
     std::function<void(const spots::Click&)> click;
@@ -89,9 +90,11 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   bool NewestOnTop() const;
   void GoToNewest();
   std::size_t SpotsFrom(Number first) const;
-  void PaintRows(QPainter& painter, const QRegion& region, const SpotColours& colours);
+  void PaintRows(QPainter& painter, const QRegion& region);
   void MoveDrawn(Number firstAdded);
-  void ChangeSize(int pixels);
+  void FollowLook(Frames& frames);
+  void ChangeFont();
+  void ShowHeads(bool on);
   void Measure(Number first);
   void SetRanges();
   void GoToEnd();
@@ -108,11 +111,12 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   void Copy() const;
   Number FirstInSight() const;
   int RowsInSight() const;
-  SpotColours Colours() const;
+  void Recolour();
 
   Model model_;
   LiveTheme& theme_;
   SpotPainter painter_;
+  SpotColours colours_;
   std::shared_ptr<Frames::Item> item_;
   SpotSnapshot rows_;
   SpotHeads* heads_;

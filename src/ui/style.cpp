@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QWidget>
 
 #include "ui/desk_style.h"
 #include "ui/fonts.h"
@@ -9,24 +10,26 @@
 namespace ui {
 namespace {
 
-QPalette PaletteOf(const Theme& theme) {
+// The colours of a theme, or of what stands on a ground, by their tokens.
+template <class Colours>
+QPalette PaletteOf(const Colours& colours) {
   QPalette palette;
-  palette.setColor(QPalette::Window, theme[Token::Panel]);
-  palette.setColor(QPalette::WindowText, theme[Token::Text]);
-  palette.setColor(QPalette::Base, theme[Token::Ground]);
-  palette.setColor(QPalette::AlternateBase, theme[Token::Panel]);
-  palette.setColor(QPalette::Text, theme[Token::Text]);
-  palette.setColor(QPalette::PlaceholderText, theme[Token::DimText]);
-  palette.setColor(QPalette::Button, theme[Token::Panel]);
-  palette.setColor(QPalette::ButtonText, theme[Token::Text]);
-  palette.setColor(QPalette::Highlight, theme[Token::Selection]);
-  palette.setColor(QPalette::HighlightedText, theme[Token::Text]);
-  palette.setColor(QPalette::Mid, theme[Token::Line]);
-  palette.setColor(QPalette::Link, theme[Token::Accent]);
-  palette.setColor(QPalette::ToolTipBase, theme[Token::Panel]);
-  palette.setColor(QPalette::ToolTipText, theme[Token::Text]);
+  palette.setColor(QPalette::Window, colours[Token::Panel]);
+  palette.setColor(QPalette::WindowText, colours[Token::Text]);
+  palette.setColor(QPalette::Base, colours[Token::Ground]);
+  palette.setColor(QPalette::AlternateBase, colours[Token::Panel]);
+  palette.setColor(QPalette::Text, colours[Token::Text]);
+  palette.setColor(QPalette::PlaceholderText, colours[Token::DimText]);
+  palette.setColor(QPalette::Button, colours[Token::Panel]);
+  palette.setColor(QPalette::ButtonText, colours[Token::Text]);
+  palette.setColor(QPalette::Highlight, colours[Token::Selection]);
+  palette.setColor(QPalette::HighlightedText, colours[Token::Text]);
+  palette.setColor(QPalette::Mid, colours[Token::Line]);
+  palette.setColor(QPalette::Link, colours[Token::Accent]);
+  palette.setColor(QPalette::ToolTipBase, colours[Token::Panel]);
+  palette.setColor(QPalette::ToolTipText, colours[Token::Text]);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    palette.setColor(QPalette::Disabled, role, theme[Token::DimText]);
+    palette.setColor(QPalette::Disabled, role, colours[Token::DimText]);
   return palette;
 }
 
@@ -99,7 +102,7 @@ QListWidget#BandRail { background: {panel}; border: none; border-right: 1px soli
 QPushButton#Below { background: {panel}; color: {accent}; border-color: {accent}; }
 QSplitter::handle { background: {line}; }
 QSplitter::handle:hover { background: {accent}; }
-QAbstractScrollArea::corner { background: {ground}; border: none; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
 QScrollBar::handle { background: {handle}; border-radius: 4px; margin: 2px; min-height: 24px;
@@ -121,19 +124,31 @@ constexpr std::array kNames = {
     Name{"{dim}", Token::DimText},         Name{"{accent}", Token::Accent},
     Name{"{selection}", Token::Selection}, Name{"{bad}", Token::Bad},
     Name{"{good}", Token::Good},           Name{"{alarm}", Token::AlarmGround},
+    Name{"{caution}", Token::Caution},
 };
 
 QColor Between(const QColor& a, const QColor& b) {
   return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }
 
-QString SheetOf(const Theme& theme) {
+template <class Colours>
+QString SheetOf(const Colours& colours) {
   QString sheet = QString::fromLatin1(kSheet);
-  for (const Name& each : kNames) sheet.replace(QLatin1String(each.name), theme[each.token].name());
+  for (const Name& each : kNames)
+    sheet.replace(QLatin1String(each.name), colours[each.token].name());
   sheet.replace(QLatin1String("{handle}"),
-                Between(theme[Token::Line], theme[Token::DimText]).name());
+                Between(colours[Token::Line], colours[Token::DimText]).name());
   return sheet;
 }
+
+// A page on a ground of its own, where the panel of the theme would be.
+struct OnGround {
+  const Surface& surface;
+
+  QColor operator[](Token token) const {
+    return token == Token::Panel ? surface.Ground() : surface[token];
+  }
+};
 
 Theme ThemeOf(platform::ColourScheme scheme) {
   return Theme(scheme == platform::ColourScheme::Dark ? Theme::Kind::Dark : Theme::Kind::Light);
@@ -146,6 +161,18 @@ void Apply(const Theme& theme, QApplication& application) {
   QApplication::setPalette(PaletteOf(theme));
   QApplication::setFont(InterfaceFont());
   application.setStyleSheet(SheetOf(theme));
+}
+
+void Dress(QWidget* page, const Surface& surface) {
+  const bool chosen = surface.IsChosen();
+  const QString sheet = chosen ? SheetOf(OnGround{surface}) : QString();
+  if (sheet == page->styleSheet()) return;
+  page->setStyleSheet(sheet);
+  page->setAutoFillBackground(chosen);
+  // Where there are style sheets no widget takes its parent's palette.
+  const QPalette palette = chosen ? PaletteOf(OnGround{surface}) : QPalette();
+  page->setPalette(palette);
+  for (QWidget* each : page->findChildren<QWidget*>()) each->setPalette(palette);
 }
 
 Wardrobe::Wardrobe(program::Appearance& appearance, QApplication& application)

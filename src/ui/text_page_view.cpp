@@ -73,6 +73,17 @@ void TextPageView::SetSize(int pixels) {
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
+void TextPageView::SetColours(const std::optional<Colours>& colours) {
+  static const QString kSheet = QStringLiteral(
+      "QPlainTextEdit { background: %1; color: %2; selection-background-color: %3;"
+      " selection-color: %4; } QPlainTextEdit:focus { border: 1px solid %5; }");
+  const QString sheet =
+      colours ? kSheet.arg(colours->ground.name(), colours->text.name(), colours->selection.name(),
+                           colours->selectedText.name(), colours->accent.name())
+              : QString();
+  if (sheet != styleSheet()) setStyleSheet(sheet);
+}
+
 std::optional<TextPageView::Range> TextPageView::RangeOf(std::string_view line,
                                                          core::Position start,
                                                          core::Position count) {

@@ -16,12 +16,23 @@ namespace ui {
 // and otherwise stays where he reads.
 class TextPageView : public QPlainTextEdit, public Searchable {
  public:
+  // What it is drawn in where the theme doesn't say so.
+  struct Colours {
+    QColor ground;
+    QColor text;
+    QColor selection;
+    QColor selectedText;
+    QColor accent;
+  };
+
   // The page and the frames outlive the view.
   TextPageView(core::TextPage& page, Frames& frames, QWidget* parent = nullptr);
 
   bool Find(const QString& text, Way way) override;
   // Of its text, in pixels.
   void SetSize(int pixels);
+  // None: the theme's.
+  virtual void SetColours(const std::optional<Colours>& colours);
 
  protected:
   void showEvent(QShowEvent* event) override;

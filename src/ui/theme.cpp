@@ -6,27 +6,10 @@
 namespace ui {
 namespace {
 
-struct Pair {
-  QRgb light;
-  QRgb dark;
-};
-
-constexpr std::array<Pair, static_cast<std::size_t>(Token::Count)> kTokens = {{
-    {0xFCFCFB, 0x16191D},  // ground
-    {0xF1F2F0, 0x1D2126},  // panel
-    {0xD9DBD7, 0x32383F},  // line
-    {0x1D2125, 0xE3E6E8},  // text
-    {0x4F575F, 0x9AA4AE},  // dim text
-    {0x1B65A3, 0x6CB6F5},  // accent
-    {0x20702F, 0x69DB7C},  // good
-    {0x9A4C00, 0xFFB454},  // caution
-    {0xB3202A, 0xFF7B72},  // bad
-    {0xDCEBF8, 0x21384D},  // selection
-    {0xFFF1D6, 0x3A2E14},  // alarm ground
-}};
+using program::ThemeColour;
 
 // From red for the longest wave to violet for the shortest, neighbours differing in lightness.
-constexpr std::array<Pair, static_cast<std::size_t>(BandColour::Count)> kBands = {{
+constexpr std::array<ThemeColour, static_cast<std::size_t>(BandColour::Count)> kBands = {{
     {0xA43A41, 0xFFB4B3},  // 160 m
     {0x903302, 0xF59977},  // 80 m
     {0x905201, 0xFFBA7C},  // 60 m
@@ -45,8 +28,8 @@ constexpr std::array<Pair, static_cast<std::size_t>(BandColour::Count)> kBands =
     {0x852E6D, 0xE795CC},  // microwaves
 }};
 
-QColor Pick(const Pair& pair, Theme::Kind kind) {
-  return QColor::fromRgb(kind == Theme::Kind::Light ? pair.light : pair.dark);
+QColor Pick(const ThemeColour& colour, Theme::Kind kind) {
+  return QColor::fromRgb(kind == Theme::Kind::Light ? colour.light : colour.dark);
 }
 
 double Luminance(const QColor& colour) {
@@ -59,9 +42,7 @@ double Luminance(const QColor& colour) {
 
 }  // namespace
 
-QColor Theme::operator[](Token token) const {
-  return Pick(kTokens[static_cast<std::size_t>(token)], kind_);
-}
+QColor Theme::operator[](Token token) const { return Pick(program::ColourOf(token), kind_); }
 
 QColor Theme::operator[](BandColour band) const {
   return Pick(kBands[static_cast<std::size_t>(band)], kind_);
@@ -78,8 +59,23 @@ QColor Theme::Of(core::Colour colour, Token otherwise) const {
     case core::kBlue:
       return (*this)[Token::Accent];
     default:
-      return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+      return AsStored(colour);
   }
+}
+
+QColor Theme::Of(program::ColourKey key, core::Colour stored) const {
+  const program::ColourRow& row = program::RowOf(key);
+  if (stored == core::kThemeColour || stored == program::UsualOf(key))
+    return Pick(row.usual, kind_);
+  return row.kind == program::ColourKind::Text ? Of(stored, Token::Text) : AsStored(stored);
+}
+
+QColor AsStored(core::Colour colour) {
+  return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
+}
+
+core::Colour StoredAs(const QColor& colour) {
+  return colour.red() | colour.green() << 8 | colour.blue() << 16;
 }
 
 double Contrast(const QColor& a, const QColor& b) {

@@ -5,24 +5,11 @@
 #include <cstddef>
 
 #include "core/controls.h"
+#include "program/colour_table.h"
 
 namespace ui {
 
-// Every colour that the window uses, by what it is for.
-enum class Token {
-  Ground,
-  Panel,
-  Line,
-  Text,
-  DimText,
-  Accent,
-  Good,
-  Caution,
-  Bad,
-  Selection,
-  AlarmGround,
-  Count
-};
+using program::Token;
 
 // The bands in the order of their wavelength, as far as they have a colour.
 enum class BandColour {
@@ -60,6 +47,9 @@ class Theme {
   // the theme's colour of that meaning, `otherwise` for none, and the user's own as it is.
   QColor Of(core::Colour colour, Token otherwise) const;
 
+  // One that the user may choose for himself, by what is stored for it.
+  QColor Of(program::ColourKey key, core::Colour stored) const;
+
  private:
   Kind kind_;
 };
@@ -67,7 +57,12 @@ class Theme {
 // The one that the window is in. It may change at any time.
 using LiveTheme = core::Property<Theme>;
 
+// Between how colours are stored and how they are drawn.
+QColor AsStored(core::Colour colour);
+core::Colour StoredAs(const QColor& colour);
+
 // How well one colour can be read on another: 1 (not at all) to 21, as WCAG 2 computes it.
 double Contrast(const QColor& a, const QColor& b);
+inline constexpr double kReadable = 4.5;
 
 }  // namespace ui

@@ -40,6 +40,24 @@ TEST_F(BindTest, AWidgetShowsItsModelAtOnceAndThenWithTheNextFrame) {
   EXPECT_EQ(widget.text(), "after");
 }
 
+TEST_F(BindTest, ALabelIsInTheColourThatTheUserChose) {
+  core::Label model;
+  QLabel widget;
+  ui::BindLabel(&widget, model, frames);
+  const auto colour = [&](core::Colour stored) {
+    model.ForeColour.Set(stored);
+    Frame();
+    widget.ensurePolished();
+    return widget.palette().color(QPalette::WindowText);
+  };
+  EXPECT_EQ(colour(0x563412), QColor(0x12, 0x34, 0x56));
+  EXPECT_EQ(colour(1), QColor(1, 0, 0)) << "a chosen black";
+  const ui::Theme theme(ui::Theme::Kind::Light);
+  EXPECT_EQ(colour(core::kGreen), theme[ui::Token::Good]);
+  EXPECT_EQ(colour(0x563412), QColor(0x12, 0x34, 0x56));
+  EXPECT_EQ(colour(core::kThemeColour), theme[ui::Token::Text]);
+}
+
 TEST_F(BindTest, ALabelIsInTheThemesColourOfWhatItsColourMeans) {
   const ui::Theme theme(ui::Theme::Kind::Light);
   core::Label model;

@@ -104,6 +104,7 @@ TEST_F(MenusTest, DialogsAreOpenedWithoutHoldingAnythingUp) {
            {"Configuration", "Columns..."},
            {"Configuration", "Spot log..."},
            {"Configuration", "Rejects..."},
+           {"Configuration", "Colours and fonts..."},
            {"Configuration", "Corrections..."}}) {
     Entry(menu, entry).trigger();
     Run(200ms);

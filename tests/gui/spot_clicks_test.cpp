@@ -20,7 +20,7 @@ class SpotClicksTest : public SpotStage {
   }
   // In the middle of a column of a row, from 1.
   QPoint Place(int row, int column) {
-    const ui::SpotPainter painter(size.Get());
+    const ui::SpotPainter painter(font.Get(), size.Get());
     return {painter.ColumnAt(column) - 3, view.PlaceOf(row).center().y()};
   }
   void Click(int row, int column, Qt::KeyboardModifiers keys = Qt::NoModifier) {
@@ -157,7 +157,7 @@ class SpotRowTest : public SpotStage {
     return Picture();
   }
   QRect Columns(int from, int to) {
-    const ui::SpotPainter painter(size.Get());
+    const ui::SpotPainter painter(font.Get(), size.Get());
     return {painter.ColumnAt(from - 1), 0, painter.ColumnAt(to) - painter.ColumnAt(from - 1),
             RowHeight()};
   }

@@ -110,7 +110,7 @@ TEST_F(SpotHeadsTest, TheOrderInForceIsHalfBoldWithAnArrowAndSaysSo) {
 TEST_F(SpotHeadsTest, StandOverTheirColumns) {
   Show({spots::DisplayChoice::kBearing});
   const spots::RowLayout& layout = display.Layout();
-  const ui::SpotPainter painter(size.Get());
+  const ui::SpotPainter painter(font.Get(), size.Get());
   EXPECT_EQ(Head("Sort by DX call").x(), painter.ColumnAt(layout.Start(spots::Column::DxCall) - 1));
   const QRect bearing = Head("Sort by bearing").geometry();
   EXPECT_EQ(bearing.right() + 1, painter.ColumnAt(layout.Start(spots::Column::Bearing) - 1 +

@@ -138,6 +138,9 @@ class SpotStage : public testing::Test {
       settings, {.nodeAddsWords = [] { return false; }, .send = [](auto) {}, .tell = [](auto) {}}};
   core::Label empty;
   core::Property<int> size{13};
+  core::Property<program::SpotFont> font;
+  core::Property<bool> title{true};
+  core::Property<program::ColourValues> values{program::ValuesOf(settings)};
   std::vector<spots::Click> clicks;
   spots::ClickKeys clickChoice;
   const ui::Theme theme{ui::Theme::Kind::Light};
@@ -145,7 +148,7 @@ class SpotStage : public testing::Test {
   ui::SpotView view{{.table = table,
                      .display = display,
                      .empty = empty,
-                     .size = size,
+                     .look = {.size = size, .font = font, .heads = title, .colours = values},
                      .settings = settings,
                      .click = [this](const spots::Click& click) { clicks.push_back(click); },
                      .clickChoice = [this] { return clickChoice; }},

@@ -159,6 +159,18 @@ TEST_F(TncScriptTest, FieldsTakeTheColourOfTheirStep) {
   EXPECT_THAT(Marks(), ElementsAre(Progress::Answered, Progress::TimedOut));
 }
 
+TEST_F(TncScriptTest, FieldsTakeOtherColoursThatTheUserChooses) {
+  Begin();
+  Says("*** CONNECTED to N0DIG");
+  settings.ColourNodeConn = 1111;
+  settings.ColourNodeTrying = 2222;
+  program.tncScript.Recolour();
+  const auto& steps = program.tncScript.steps;
+  EXPECT_EQ(steps[0].ForeColour.Get(), 1111);
+  EXPECT_EQ(steps[1].ForeColour.Get(), 2222);
+  EXPECT_EQ(steps[2].ForeColour.Get(), core::kThemeColour);
+}
+
 TEST_F(TncScriptTest, ConnectBeginsTheScriptAnewWithItsColours) {
   Begin();
   Says("*** CONNECTED to N0DIG");
