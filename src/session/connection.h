@@ -68,6 +68,10 @@ class Connection {
   void Refused(std::string_view line);
   // The user has pressed connect: what was told of earlier attempts may be told again.
   void BeginAnew();
+  // The user turns to something else: nothing connects by itself until he presses connect, or goes
+  // on as before.
+  void InterruptReconnect();
+  void ResumeReconnect();
   // The session that runs is not to be counted when it ends.
   void NotCounted() { ConnectedOnce = false; }
   // The count of disconnects begins anew.
@@ -104,6 +108,9 @@ class Connection {
   void OnConnect();
   void OnError(const platform::SocketFault& fault);
   void RetryNow();
+  // The call is there. Otherwise the user is asked for it, and no link is made.
+  bool KnowsCall();
+  void ConnectOverTnc();
 
   void Count();
   void SessionOver();

@@ -236,6 +236,10 @@ void MainWindow::Do(const Command& command) {
       return connection.cmdDisconnect.Press();
     case Act::Nodes:
       return program_.nodeForm.Show();
+    case Act::RadioClus:
+      return program_.modeSwitch.RadioClus.Press();
+    case Act::TelnetClus:
+      return program_.modeSwitch.TelnetClus.Press();
     case Act::LinkSettings:
       return program_.commForm.Show();
     case Act::TncScript:
@@ -294,6 +298,9 @@ Menus::State MainWindow::StateOf(const Command& command) const {
       return {.enabled = connection.cmdDisconnect.Enabled.Get(),
               .ticked = {},
               .why = tr("There is no link.")};
+    case Act::RadioClus:
+    case Act::TelnetClus:
+      return {.ticked = program_.settings.TncMode == (command.act == Act::RadioClus), .why = {}};
     case Act::CorrectErrors: {
       const core::Check& errors = program_.spotParts.localReject.CorrectErrors;
       return {.enabled = errors.Enabled.Get(),
