@@ -209,6 +209,7 @@ void Connection::Disconnected() {
   timers_.Disable(TimerId::ConnectionTimeout);
   state_.WantMissedSpots = state_.FirstConnect = settings_.GetMissedOnes;
   DisconnectTime = calendar_.GmtNow();
+  if (state_.LoggedIn) LinkEnded = DisconnectTime;
   if (AutoReconnect.Value.Get()) AwaitReconnect();
   state_.SocketConnected = false;
   state_.LoggedIn = false;
@@ -308,6 +309,7 @@ void Connection::EndedOverTnc(std::string why) {
 
 void Connection::LoggedInSetup() {
   ConnectTimeStamp = scheduler_.Now();
+  LinkBegan = calendar_.GmtNow();
   ConnectedOnce = true;
   Show(LinkPhase::Connected);
   state_.LoggedIn = true;

@@ -52,6 +52,9 @@ class Connection {
   platform::Milliseconds ConnectTimeStamp{0};  // of the last login, by the scheduler
   platform::Milliseconds ConnectedAt{0};       // of the last connect event, by the scheduler
   platform::UtcTime DisconnectTime{};          // of the last session
+  // When the last link that had logged in began, and when it ended; the epoch while there was none.
+  platform::UtcTime LinkBegan{};
+  platform::UtcTime LinkEnded{};
   std::string WhyEnded;  // the last link, in a few words; empty while one holds
 
   core::Label lblDisconnects;  // "Disconnects = 3"
