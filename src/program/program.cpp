@@ -158,6 +158,7 @@ spots::SpotParts::Needs Program::NeedsOfSpots() {
           .keepsBottomOfBand = [this] { return settings.BobDx; },
           .RcvdPrompt = [&state](std::string_view line) { return state.RcvdAnyPrompt(line); },
           .latency = [this] { return session.latency.Last(); },
+          .timeCommand = [this] { session.latency.Begin(); },
           .send = [this](std::string_view text) { session.outgoing.Send(text); },
           .sendAsIs = [this](std::string_view text) { return session.outgoing.SendAsIs(text); },
           .holdIntake = [this] { return session.intake.Hold(); },

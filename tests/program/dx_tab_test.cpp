@@ -104,6 +104,16 @@ TEST_F(DxTabTest, OnWinClusterATabThatIsNotOfferedLeadsToTheTable) {
   EXPECT_EQ(desk.program->views.TabType(), "Dx");
 }
 
+TEST_F(DxTabTest, TheAnswerToTheRequestForMissedSpotsIsTimed) {
+  desk.HasUsualConfiguration("\"AutoStart\",-1\r\n\"Get Missed\",-1\r\n");
+  desk.StartNode();
+  desk.Start();
+  const spots::SpotList& list = desk.program->spotParts.lines.list;
+  ASSERT_TRUE(desk.world.RunUntil([&] { return !list.lblCount.Caption.Get().empty(); }, 30s));
+  EXPECT_NE(list.lblSeconds.Caption.Get(), "");
+  EXPECT_NE(desk.program->session.latency.Text3.Caption.Get(), "");
+}
+
 TEST_F(DxTabTest, AColumnIsCalledWhatTheNodeSendsInIt) {
   desk.Start();
   const auto caption = [this](spots::DisplayChoice::Check column) {
