@@ -50,7 +50,7 @@ QVariant NodeRows::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole || !place) return {};
   const std::string& text = (directory_.*ColumnAt(index.column()).texts)()[*place];
   const bool practice = directory_.NodeCalls()[*place] == session::kPracticeNode.call;
-  if (practice && index.column() == kInfo && text.empty()) return tr("practice, on this computer");
+  if (practice && index.column() == kInfo && text.empty()) return tr("practice node");
   return OneLine(text, kLongestNodeText);
 }
 

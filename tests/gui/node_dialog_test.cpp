@@ -104,7 +104,7 @@ TEST_F(NodeDialogTest, ThePracticeNodeSaysWhatItIs) {
   const QAbstractItemModel& model = *List().model();
   for (int row = 0; row < model.rowCount(); ++row) {
     const bool practice = model.index(row, 0).data().toString() == "N0DE-1";
-    EXPECT_EQ(model.index(row, 3).data().toString(), practice ? "practice, on this computer" : "");
+    EXPECT_EQ(model.index(row, 3).data().toString(), practice ? "practice node" : "");
   }
 }
 
