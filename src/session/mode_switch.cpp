@@ -24,16 +24,17 @@ ModeSwitch::ModeSwitch(const platform::Platform& platform, core::Settings& setti
       tasks_(platform.scheduler, needs_.onFault) {}
 
 platform::Task<> ModeSwitch::ChooseRadio() {
-  if (session_.timers.Enabled(TimerId::Reconnect) && !session_.state.LoggedIn)
-    tasks_.Start("RadioClus", InterruptReconnect());
+  const bool interrupts = session_.timers.Enabled(TimerId::Reconnect) && !session_.state.LoggedIn;
+  if (interrupts) session_.connection.InterruptReconnect();
   const bool ended = co_await EndOther(true);
   if (!ended) co_return;
   Take(true);
+  // No form is to hide the question.
+  if (interrupts) co_await AskAboutReconnect();
   AskWhatTheTncLacks();
 }
 
-platform::Task<> ModeSwitch::InterruptReconnect() {
-  session_.connection.InterruptReconnect();
+platform::Task<> ModeSwitch::AskAboutReconnect() {
   platform::Message question{.title = "Disabled",
                              .text =
                                  "Auto Reconnect has been temporarily disabled.\n"
@@ -97,6 +98,7 @@ void ModeSwitch::Take(bool overTnc) {
 }
 
 void ModeSwitch::AskWhatTheTncLacks() {
+  if (!settings_.TncMode) return;  // the user has turned back
   if (settings_.TncPort == 0)
     needs_.askPort();
   else if (!TncScript::HasSteps(settings_))

@@ -36,7 +36,7 @@ class ModeSwitch {
  private:
   platform::Task<> ChooseRadio();
   platform::Task<> ChooseTelnet();
-  platform::Task<> InterruptReconnect();
+  platform::Task<> AskAboutReconnect();
   // True once no link of another mode than this holds; false if the user keeps it.
   platform::Task<bool> EndOther(bool overTnc);
   platform::Task<bool> MayEnd();

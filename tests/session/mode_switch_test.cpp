@@ -154,6 +154,28 @@ TEST_F(ModeSwitchTest, RadioWithoutAPortAsksForOne) {
   EXPECT_TRUE(OnTnc());
 }
 
+TEST_F(ModeSwitchTest, NoFormHidesTheQuestion) {
+  settings.TncPort = 0;
+  LoseLink();
+  ChooseRadio();
+  LetPass(1s);
+  EXPECT_THAT(asked, IsEmpty());
+  ASSERT_TRUE(world.dialogs.AnswerNow(kInterrupted, Answer::No));
+  LetPass(20ms);
+  EXPECT_THAT(asked, ElementsAre("frmComm"));
+}
+
+TEST_F(ModeSwitchTest, NothingIsAskedForATncThatTheUserHasTurnedFromMeanwhile) {
+  settings.TncPort = 0;
+  LoseLink();
+  ChooseRadio();
+  ChooseTelnet();
+  ASSERT_TRUE(world.dialogs.AnswerNow(kInterrupted, Answer::No));
+  LetPass(20ms);
+  EXPECT_THAT(asked, ElementsAre("frmNode"));
+  EXPECT_FALSE(OnTnc());
+}
+
 TEST_F(ModeSwitchTest, RadioWithoutAScriptAsksForOne) {
   settings.TncSteps.clear();
   ChooseRadio();
