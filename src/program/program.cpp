@@ -1,5 +1,7 @@
 #include "program/program.h"
 
+#include <utility>
+
 #include "core/password_file.h"
 #include "core/version.h"
 #include "program/clock_condition.h"
@@ -67,6 +69,7 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                       session.linkText.Tick();
                       DelayedWriteCfg();
                     }}),
+      modeSwitch(platform_, settings, session, NeedsOfModeSwitch()),
       spotParts(platform_, calendar, settings, errorLog, folder_, NeedsOfSpots()),
       profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
                     session.keepAlive, ties_, userSettings),
@@ -78,7 +81,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
         DelayedWriteCfg();
       }),
       views({.winCluster = [this] { return session.state.Kind == session::NodeKind::WinCluster; },
-             .delayedWriteCfg = [this] { DelayedWriteCfg(); }}),
+             .delayedWriteCfg = [this] { DelayedWriteCfg(); },
+             .onFault = errorLog.FaultHandler()}),
       dxTab(views, spotParts.table, session.state),
       appearance(settings, [this] { DelayedWriteCfg(); }),
       textSizes(settings, [this] { DelayedWriteCfg(); }),
@@ -94,9 +98,11 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),
-      macrosFollowing_(views.Changed.Add([this](const Views::Change&) {
+      macrosFollowing_(views.Changed.Add([this](const Views::Step&) {
         session.macros.fraMacros.Visible.Set(session.state.IsArCluster());
       })),
+      columnsNamed_{NameColumn(session.ar17.lblDxState, spots::DisplayChoice::kDxState),
+                    NameColumn(session.ar17.lblOrigState, spots::DisplayChoice::kOrigState)},
       debuggingTicked_(DebuggingOn.Click.Add([this] { WriteDebugCfg(DebuggingOn.Value.Get()); })),
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
@@ -136,6 +142,19 @@ ColourForm::Needs Program::NeedsOfColourForm() {
               }};
 }
 
+session::ModeSwitch::Needs Program::NeedsOfModeSwitch() {
+  return {.takeMode =
+              [this] {
+                TakeMode();
+                commForm.ModeTaken();
+              },
+          .openNodes = [this] { nodeForm.Show(); },
+          .askPort = [this] { commForm.Show(); },
+          .askScript = [this] { tncForm.Show(); },
+          .delayedWriteCfg = [this] { DelayedWriteCfg(); },
+          .onFault = errorLog.FaultHandler()};
+}
+
 spots::SpotParts::Needs Program::NeedsOfSpots() {
   session::SessionState& state = session.state;
   return {.receivers = ties_,
@@ -150,6 +169,7 @@ spots::SpotParts::Needs Program::NeedsOfSpots() {
           .keepsBottomOfBand = [this] { return settings.BobDx; },
           .RcvdPrompt = [&state](std::string_view line) { return state.RcvdAnyPrompt(line); },
           .latency = [this] { return session.latency.Last(); },
+          .timeCommand = [this] { session.latency.Begin(); },
           .send = [this](std::string_view text) { session.outgoing.Send(text); },
           .sendAsIs = [this](std::string_view text) { return session.outgoing.SendAsIs(text); },
           .holdIntake = [this] { return session.intake.Hold(); },
@@ -165,6 +185,12 @@ spots::SpotParts::Needs Program::NeedsOfSpots() {
           .openFixPage = nullptr,
           .delayedWriteCfg = [this] { DelayedWriteCfg(); },
           .onFault = errorLog.FaultHandler()};
+}
+
+platform::Registration Program::NameColumn(core::Label& words, spots::DisplayChoice::Check column) {
+  core::Check& check = spotParts.display.chkAr17[column];
+  return words.Caption.Observe(
+      [&check](const std::string& caption) { check.Caption.Set(caption); });
 }
 
 void Program::TellOfMembers(spots::Membership::List list) {
@@ -241,6 +267,8 @@ void Program::SaveUserInfo(const std::string& password) {
          .kind = platform::Message::Kind::Warning});
   ApplySettings();
   WriteCfg();
+  // Who is new here chooses his node next.
+  if (std::exchange(configurationIsNew_, false)) nodeForm.Show();
 }
 
 void Program::CaptionSetup() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -34,6 +35,7 @@
 #include "program/user_info.h"
 #include "program/views.h"
 #include "session/comm_form.h"
+#include "session/mode_switch.h"
 #include "session/node_form.h"
 #include "session/port_names.h"
 #include "session/session.h"
@@ -119,6 +121,7 @@ class Program {
   session::NodeDirectory nodeDirectory;
   session::NodeUpdate nodeUpdate;  // fraUpdate
   session::NodeForm nodeForm;      // frmNode
+  session::ModeSwitch modeSwitch;  // of the menu of the connection
   spots::SpotParts spotParts;
   filters::UserSettings userSettings;
   filters::ProfileReader profileReader;
@@ -162,7 +165,10 @@ class Program {
   StartOptions::Needs NeedsOfStartOptions();
   session::TncForm::Needs NeedsOfTncForm();
   ColourForm::Needs NeedsOfColourForm();
+  session::ModeSwitch::Needs NeedsOfModeSwitch();
   spots::SpotParts::Needs NeedsOfSpots();
+  // A column of the spots is called what the lines of the node hold in it.
+  platform::Registration NameColumn(core::Label& words, spots::DisplayChoice::Check column);
   void TellOfMembers(spots::Membership::List list);
   void ChooseLinking();
   void WriteDebugCfg(bool on);
@@ -187,6 +193,7 @@ class Program {
   platform::Registration autoReconnectTicked_;
   platform::Registration linkingTicked_;
   platform::Registration macrosFollowing_;
+  std::array<platform::Registration, 2> columnsNamed_;
   platform::Registration saved_;
   platform::Registration debuggingTicked_;
   platform::Tasks tasks_;

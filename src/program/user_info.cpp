@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/location.h"
+#include "core/locator.h"
 #include "core/text.h"
 #include "program/offset_form.h"
 
@@ -11,8 +11,18 @@ namespace {
 
 bool IsLetter(char c) { return core::UCase(c) >= 'A' && core::UCase(c) <= 'Z'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsIn(char c, char first, char last) {
-  return core::UCase(c) >= first && core::UCase(c) <= last;
+
+constexpr const char* kGridLength = "A grid has 4 or 6 characters, for example EN82 or EN82DG.";
+// By the pair of characters in which the first wrong one stands.
+constexpr std::array<const char*, 4> kGridProblems = {
+    "A grid begins with two letters from A to R, for example EN82.",
+    "Behind its two letters a grid has two digits, for example EN82.",
+    "A grid of 6 characters ends in two letters from A to X, for example EN82DG.", kGridLength};
+
+// What can be no part of a grid, whatever is still to be typed.
+std::string GridProblem(std::string_view text) {
+  const std::size_t good = core::LocatorStart(text);
+  return good == text.size() ? "" : kGridProblems[good / 2];
 }
 
 std::string Trimmed(const core::TextBox& box) { return std::string(core::Trim(box.Text.Get())); }
@@ -26,23 +36,30 @@ bool IsCall(std::string_view text) {
          std::any_of(text.begin(), text.end(), IsDigit) && !core::StartsWith(text, "-");
 }
 
-bool IsGrid(std::string_view text) {
-  if (text.size() != 4 && text.size() != 6) return false;
-  const bool square =
-      IsIn(text[0], 'A', 'R') && IsIn(text[1], 'A', 'R') && IsDigit(text[2]) && IsDigit(text[3]);
-  return square && (text.size() == 4 || (IsIn(text[4], 'A', 'X') && IsIn(text[5], 'A', 'X')));
-}
+bool IsGrid(std::string_view text) { return core::CentreOfLocator(text).has_value(); }
 
 UserInfo::UserInfo(core::Settings& settings, Needs needs)
-    : settings_(settings),
-      needs_(std::move(needs)),
-      ok_(cmdOk.Click.Add([this] { PressOk(); })),
-      cancel_(cmdCancel.Click.Add([this] { Open.Set(false); })),
-      opening_(cmdOpen.Click.Add([this] { Show(); })) {
+    : settings_(settings), needs_(std::move(needs)) {
   cmdOpen.Caption.Set("User info…");
   cmdOk.Caption.Set("OK");
   cmdCancel.Caption.Set("Cancel");
   chkSystemZone.Caption.Set("Use the computer's time zone");
+  lblFromGrid.Caption.Set("Worked out from the grid");
+  Watch();
+}
+
+void UserInfo::Watch() {
+  const auto add = [this](core::Observers<>& act, std::function<void()> run) {
+    watching_.push_back(act.Add(std::move(run)));
+  };
+  add(cmdOk.Click, [this] { PressOk(); });
+  add(cmdCancel.Click, [this] { Open.Set(false); });
+  add(cmdOpen.Click, [this] { Show(); });
+  add(txtGrid.Change, [this] {
+    FollowGrid();
+    lblProblem.Caption.Set(GridProblem(Trimmed(txtGrid)));
+  });
+  for (core::TextBox& part : txtLatLong) add(part.Change, [this] { TakeOwnLocation(); });
 }
 
 void UserInfo::Show() {
@@ -58,18 +75,32 @@ void UserInfo::Show() {
   chkSystemZone.Value.Set(systemZone);
   txtGmtOffset.Text.Set(systemZone ? "" : settings_.GmtOffset);
   const auto place = core::ParseLocation(settings_.MyLocation);
-  const auto fill = [&](std::size_t i, const std::string& text) {
-    txtLatLong[i].Text.Set(place ? text : "");
-  };
-  const core::Location shown = place.value_or(core::Location{});
-  fill(0, std::to_string(shown.latitudeDegrees));
-  fill(1, std::to_string(shown.latitudeMinutes));
-  fill(2, std::string(1, shown.latitudeLetter));
-  fill(3, std::to_string(shown.longitudeDegrees));
-  fill(4, std::to_string(shown.longitudeMinutes));
-  fill(5, std::string(1, shown.longitudeLetter));
+  ownLocation_ = place && place != core::CentreOfLocator(settings_.MyGrid);
+  ShowLocation(place);
+  FollowGrid();
   lblProblem.Caption.Set({});
   Open.Set(true);
+}
+
+void UserInfo::ShowLocation(const std::optional<core::Location>& place) {
+  const core::Location shown = place.value_or(core::Location{});
+  const std::array<std::string, 6> parts = {
+      std::to_string(shown.latitudeDegrees),  std::to_string(shown.latitudeMinutes),
+      std::string(1, shown.latitudeLetter),   std::to_string(shown.longitudeDegrees),
+      std::to_string(shown.longitudeMinutes), std::string(1, shown.longitudeLetter)};
+  for (std::size_t i = 0; i < parts.size(); ++i) txtLatLong[i].Text.Set(place ? parts[i] : "");
+}
+
+void UserInfo::FollowGrid() {
+  const auto centre = core::CentreOfLocator(Trimmed(txtGrid));
+  if (!ownLocation_) ShowLocation(centre);
+  lblFromGrid.Visible.Set(!ownLocation_ && centre);
+}
+
+// Who takes his own away gets that of the grid.
+void UserInfo::TakeOwnLocation() {
+  ownLocation_ = !core::Trim(LocationText()).empty();
+  FollowGrid();
 }
 
 void UserInfo::Refresh() {
@@ -96,8 +127,8 @@ std::string UserInfo::Problem() const {
   if (Trimmed(txtName).empty()) return "Enter your name: nodes ask for it.";
   if (Trimmed(txtQth).empty()) return "Enter your QTH: nodes ask for it.";
   const std::string grid = Trimmed(txtGrid);
-  if (!grid.empty() && !IsGrid(grid))
-    return "A grid has 4 or 6 characters, for example EN82 or EN82DG.";
+  if (!GridProblem(grid).empty()) return GridProblem(grid);
+  if (!grid.empty() && !IsGrid(grid)) return kGridLength;
   const std::string place = LocationText();
   if (!core::Trim(place).empty() && !core::ParseLocation(place))
     return "A location has degrees, minutes and N or S, then degrees, minutes and E or W.";

@@ -2,14 +2,18 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "core/controls.h"
+#include "core/location.h"
 #include "core/settings.h"
 
 namespace program {
 
-// frmSettings: who the operator is and where. Its fields are copies; OK checks and stores them.
+// frmSettings: who the operator is and where. Its fields are copies; OK checks and stores them. The
+// location follows the grid as it is typed, unless the user has typed one of his own.
 class UserInfo {
  public:
   struct Needs {
@@ -30,6 +34,7 @@ class UserInfo {
   core::TextBox txtPassword;
   // Latitude, then longitude: degrees, minutes, letter. All six may be empty.
   std::array<core::TextBox, 6> txtLatLong;
+  core::Label lblFromGrid;  // says that the grid has given them
   core::Check chkSystemZone;
   core::TextBox txtGmtOffset;  // hours to add to local time; of no account while the zone is ticked
   core::Label lblProblem;      // what is to be put right before it can be stored
@@ -46,6 +51,10 @@ class UserInfo {
   void Refresh();
 
  private:
+  void Watch();
+  void ShowLocation(const std::optional<core::Location>& place);
+  void FollowGrid();
+  void TakeOwnLocation();
   void PressOk();
   std::string Problem() const;
   void Store();
@@ -53,9 +62,8 @@ class UserInfo {
 
   core::Settings& settings_;
   Needs needs_;
-  platform::Registration ok_;
-  platform::Registration cancel_;
-  platform::Registration opening_;
+  bool ownLocation_ = false;  // the user's own, which no grid replaces
+  std::vector<platform::Registration> watching_;
 };
 
 // Whether a text can be a call: letters, digits, "/" and a "-" before its SSID, with at least one

@@ -1,5 +1,6 @@
 #include "program/views.h"
 
+#include <exception>
 #include <string>
 
 namespace program {
@@ -35,13 +36,12 @@ bool IsTab(int tab) { return tab >= 0 && tab < Views::kTabs; }
 Views::Views(Needs needs) : needs_(std::move(needs)) {
   for (int each = 0; each < kTabs; ++each) RestoreCaption(each);
   FollowNode();
-  SetTabType();
+  Show(Dx);
 }
 
 void Views::Begin(int wanted) {
   const bool good = IsTab(wanted) && tab[static_cast<std::size_t>(wanted)].Enabled.Get();
-  onShow.Set(good ? wanted : Dx);
-  SetTabType();
+  Show(good ? wanted : Dx);
 }
 
 void Views::Choose(int wanted) {
@@ -49,12 +49,19 @@ void Views::Choose(int wanted) {
   if (!Offered(wanted)) wanted = Dx;
   const int from = onShow.Get();
   if (wanted == from || !tab[static_cast<std::size_t>(wanted)].Enabled.Get()) return;
-  onShow.Set(wanted);
-  SetTabType();
-  Changed.Tell({from, wanted});
-  RestoreCaption(wanted);
-  if (from == Dx) RestoreCaption(Dx);
+  try {
+    Change(from, wanted);
+  } catch (const std::exception& fault) {
+    needs_.onFault("SSTab1", fault.what());
+  }
   needs_.delayedWriteCfg();
+}
+
+void Views::Change(int from, int to) {
+  Show(to);
+  Changed.Tell({from, to});
+  RestoreCaption(to);
+  if (from == Dx) RestoreCaption(Dx);
 }
 
 void Views::FollowNode() {
@@ -71,7 +78,12 @@ void Views::FollowNode() {
 
 bool Views::Offered(int each) const { return ViewOf(each).onWinCluster || !needs_.winCluster(); }
 
-void Views::SetTabType() { tabType_ = ViewOf(onShow.Get()).name; }
+void Views::Show(int which) {
+  SetTabType(which);
+  onShow.Set(which);
+}
+
+void Views::SetTabType(int which) { tabType_ = ViewOf(which).name; }
 
 void Views::RestoreCaption(int each) {
   tab[static_cast<std::size_t>(each)].Caption.Set(std::string(ViewOf(each).caption));

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/controls.h"
+#include "platform/tasks.h"
 
 namespace program {
 
@@ -16,6 +17,8 @@ class Views {
   struct Needs {
     std::function<bool()> winCluster;  // whether the node is one
     std::function<void()> delayedWriteCfg;
+    // What one of those that hear of a change has failed with; the change holds.
+    platform::FaultHandler onFault = [](std::string_view, std::string_view) {};
   };
 
   explicit Views(Needs needs);
@@ -25,14 +28,14 @@ class Views {
   core::Property<int> onShow{Dx};
 
   // From one view to another. Told when the view's name is set and while the caption of the view
-  // that is entered still counts.
-  struct Change {
+  // that is entered still counts. The name is set before onShow tells.
+  struct Step {
     int from;
     int to;
   };
-  core::Observers<const Change&> Changed;
+  core::Observers<const Step&> Changed;
 
-  // The name of the view on show, as SetTabType stores it.
+  // The fixed name of the view on show, as SetTabType stores it; captions count, names do not.
   std::string_view TabType() const { return tabType_; }
 
   // The one to begin with. Which is Dx where that tab can't be had.
@@ -45,7 +48,9 @@ class Views {
 
  private:
   bool Offered(int each) const;
-  void SetTabType();
+  void Change(int from, int to);
+  void Show(int which);
+  void SetTabType(int which);
   void RestoreCaption(int each);
 
   Needs needs_;

@@ -322,6 +322,13 @@ void CommForm::OpenPorts(bool tncIsNew, bool networkIsNew) {
   }
 }
 
+void CommForm::ModeTaken() {
+  if (!Open.Get()) return;
+  optMode.Selected.Set(settings_.TncMode ? Tnc : Telnet);
+  LoadKeepAlive();
+  Changed();
+}
+
 void CommForm::NetworkStopped() {
   if (!Open.Get()) return;
   chkNetwork.Value.Set(false);

@@ -65,6 +65,9 @@ class CommForm {
   // Fills the fields and opens the form. One that is open stays as the user has it.
   void Show();
 
+  // The mode was chosen elsewhere: an open form shows it.
+  void ModeTaken();
+
   // The local network was switched off by the node, and has no port any more: an open form shows
   // it.
   void NetworkStopped();

@@ -66,13 +66,7 @@ void Connection::WhichNode() {
 platform::Task<> Connection::ConnectNode() {
   // However this ends, text may be read then.
   const platform::Registration letGo([this] { connectHold_.Release(); });
-  if (settings_.MyCall == "-16") settings_.MyCall.clear();
-  if (core::Trim(settings_.MyCall).empty()) {
-    needs_.askUserInfo();
-    needs_.delayedWriteCfg();
-    SessionOver();
-    co_return;
-  }
+  if (!KnowsCall()) co_return;
   socket_.Close();
   outgoing_.LinkDown();
   intake_.Drop();
@@ -95,6 +89,15 @@ platform::Task<> Connection::ConnectNode() {
   }
   co_await Delay(kConnectEventRest);
   if (state_.SocketConnected) ShowState();
+}
+
+bool Connection::KnowsCall() {
+  if (settings_.MyCall == "-16") settings_.MyCall.clear();
+  if (!core::Trim(settings_.MyCall).empty()) return true;
+  needs_.askUserInfo();
+  needs_.delayedWriteCfg();
+  SessionOver();
+  return false;
 }
 
 void Connection::OpenSocket() {
@@ -206,6 +209,7 @@ void Connection::Disconnected() {
   timers_.Disable(TimerId::ConnectionTimeout);
   state_.WantMissedSpots = state_.FirstConnect = settings_.GetMissedOnes;
   DisconnectTime = calendar_.GmtNow();
+  if (state_.LoggedIn) LinkEnded = DisconnectTime;
   if (AutoReconnect.Value.Get()) AwaitReconnect();
   state_.SocketConnected = false;
   state_.LoggedIn = false;
@@ -244,7 +248,7 @@ void Connection::RetryNow() {
     if (!tncRetry_.Interval())
       timers_.Enable(TimerId::Reconnect);
     else if (!state_.LoggedIn)
-      tncScript_.Connect();
+      ConnectOverTnc();
   } else {
     cmdConnect.Enabled.Set(false);
     cmdDisconnect.Enabled.Set(true);
@@ -305,6 +309,7 @@ void Connection::EndedOverTnc(std::string why) {
 
 void Connection::LoggedInSetup() {
   ConnectTimeStamp = scheduler_.Now();
+  LinkBegan = calendar_.GmtNow();
   ConnectedOnce = true;
   Show(LinkPhase::Connected);
   state_.LoggedIn = true;
@@ -329,9 +334,26 @@ void Connection::BeginAnew() {
 
 void Connection::Try() {
   if (state_.TncMode)
-    tncScript_.Connect();
+    ConnectOverTnc();
   else
     WhichNode();
+}
+
+void Connection::ConnectOverTnc() {
+  if (KnowsCall()) tncScript_.Connect();
+}
+
+void Connection::InterruptReconnect() {
+  AutoReconnect.Value.Set(false);
+  state_.UserDisconnected = true;
+}
+
+void Connection::ResumeReconnect() {
+  AutoReconnect.Value.Set(true);
+  state_.UserDisconnected = false;
+  if (state_.Phase.Get() != LinkPhase::Disconnected) return;
+  timers_.Enable(TimerId::Reconnect);
+  cmdDisconnect.Enabled.Set(true);
 }
 
 void Connection::CloseIfOpen() {

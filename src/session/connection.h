@@ -52,6 +52,9 @@ class Connection {
   platform::Milliseconds ConnectTimeStamp{0};  // of the last login, by the scheduler
   platform::Milliseconds ConnectedAt{0};       // of the last connect event, by the scheduler
   platform::UtcTime DisconnectTime{};          // of the last session
+  // When the last link that had logged in began, and when it ended; the epoch while there was none.
+  platform::UtcTime LinkBegan{};
+  platform::UtcTime LinkEnded{};
   std::string WhyEnded;  // the last link, in a few words; empty while one holds
 
   core::Label lblDisconnects;  // "Disconnects = 3"
@@ -68,6 +71,10 @@ class Connection {
   void Refused(std::string_view line);
   // The user has pressed connect: what was told of earlier attempts may be told again.
   void BeginAnew();
+  // The user turns to something else: nothing connects by itself until he presses connect, or goes
+  // on as before.
+  void InterruptReconnect();
+  void ResumeReconnect();
   // The session that runs is not to be counted when it ends.
   void NotCounted() { ConnectedOnce = false; }
   // The user has chosen other colours for the phases of the link.
@@ -106,6 +113,9 @@ class Connection {
   void OnConnect();
   void OnError(const platform::SocketFault& fault);
   void RetryNow();
+  // The call is there. Otherwise the user is asked for it, and no link is made.
+  bool KnowsCall();
+  void ConnectOverTnc();
 
   void Count();
   void SessionOver();

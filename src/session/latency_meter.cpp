@@ -12,7 +12,10 @@ constexpr std::chrono::seconds kUsualInterval{10};
 
 }  // namespace
 
-void LatencyMeter::Begin() { sentAt_ = scheduler_.Now(); }
+void LatencyMeter::Begin() {
+  sentAt_ = scheduler_.Now();
+  Text3.Caption.Set({});
+}
 
 void LatencyMeter::Latency(std::string_view line) {
   if (!sentAt_ || !state_.RcvdPrompt(line)) return;

@@ -21,7 +21,7 @@ class LatencyMeter {
   // The last reading; 0 before the first.
   platform::Milliseconds Last() const { return last_; }
 
-  // A timed command has been sent.
+  // A timed command has been sent; the last reading is of no account any more.
   void Begin();
   // A line handler that claims nothing: the next prompt ends the time of the command.
   void Latency(std::string_view line);

@@ -15,6 +15,12 @@ std::string ClockText(platform::UtcTime now) {
   return two(time.hours()) + ":" + two(time.minutes()) + ":" + two(time.seconds());
 }
 
+// "21:07:09 UTC, 05-Jan-2026".
+std::string MomentText(platform::UtcTime moment) {
+  const auto days = std::chrono::floor<std::chrono::days>(moment.time_since_epoch());
+  return ClockText(moment) + " UTC, " + core::EnglishDate(static_cast<int>(days.count()));
+}
+
 }  // namespace
 
 std::string SpanText(seconds span) {
@@ -27,7 +33,7 @@ std::string SpanText(seconds span) {
 }
 
 LinkText::LinkText(platform::Scheduler& scheduler, const core::Calendar& calendar,
-                   const core::Settings& settings, const SessionState& session,
+                   const core::Settings& settings, SessionState& session,
                    const Connection& connection, const TncRetry& tncRetry, const Intake& intake,
                    const Timers& timers)
     : scheduler_(scheduler),
@@ -37,7 +43,8 @@ LinkText::LinkText(platform::Scheduler& scheduler, const core::Calendar& calenda
       connection_(connection),
       tncRetry_(tncRetry),
       intake_(intake),
-      timers_(timers) {
+      timers_(timers),
+      trying_(session.Phase.Observe([this](LinkPhase) { tryingSince_ = scheduler_.Now(); })) {
   lblclock[1].ToolTip.Set("UTC");
 }
 
@@ -50,6 +57,7 @@ void LinkText::Tick() {
   node.Caption.Set(named ? session_.ConnectedNodeCall : wanted);
   software.Caption.Set(std::string(DialectOf(session_.Kind).software));
   state.Caption.Set(StateNow());
+  state.ToolTip.Set(MomentsNow());
   age.Caption.Set(AgeNow());
   lblclock[0].Caption.Set(ClockText(calendar_.GmtNow()));
   lblclock[1].Caption.Set("UTC  " + calendar_.GmtDate());
@@ -67,7 +75,14 @@ std::string LinkText::StateNow() const {
     return "next try in " + SpanText(left) + why;
   }
   if (session_.Phase.Get() == LinkPhase::Disconnected) return "not connected" + why;
-  return LinkStands() ? "waiting for the login" : "connecting";
+  const auto since = duration_cast<seconds>(scheduler_.Now() - tryingSince_);
+  return (LinkStands() ? "waiting for the login " : "connecting ") + SpanText(since);
+}
+
+std::string LinkText::MomentsNow() const {
+  if (session_.LoggedIn) return "Since " + MomentText(connection_.LinkBegan);
+  if (connection_.LinkEnded == platform::UtcTime{}) return {};
+  return "The last link ended at " + MomentText(connection_.LinkEnded);
 }
 
 bool LinkText::LinkStands() const {

@@ -14,13 +14,13 @@ namespace session {
 class LinkText {
  public:
   LinkText(platform::Scheduler& scheduler, const core::Calendar& calendar,
-           const core::Settings& settings, const SessionState& session,
-           const Connection& connection, const TncRetry& tncRetry, const Intake& intake,
-           const Timers& timers);
+           const core::Settings& settings, SessionState& session, const Connection& connection,
+           const TncRetry& tncRetry, const Intake& intake, const Timers& timers);
 
-  core::Label node;                     // the call of the node
-  core::Label software;                 // of the node, empty while it is unknown
-  core::Label state;                    // "connected 2 d 4 h", or what is being done about it
+  core::Label node;      // the call of the node
+  core::Label software;  // of the node, empty while it is unknown
+  // "connected 2 d 4 h", or what is being done about it; its tool tip has the moments.
+  core::Label state;
   core::Label age;                      // "last line 1 s ago"
   std::array<core::Label, 2> lblclock;  // the time and the date in UTC
 
@@ -29,6 +29,7 @@ class LinkText {
 
  private:
   std::string StateNow() const;
+  std::string MomentsNow() const;
   std::string AgeNow() const;
   bool LinkStands() const;
   platform::Milliseconds UntilRetry() const;
@@ -41,6 +42,8 @@ class LinkText {
   const TncRetry& tncRetry_;
   const Intake& intake_;
   const Timers& timers_;
+  platform::Milliseconds tryingSince_{0};  // by the scheduler
+  platform::Registration trying_;
 };
 
 // A span of time by its two largest units: "34 s", "5 m 12 s", "2 d 4 h".

@@ -114,8 +114,13 @@ void NodeForm::Choose() {
   if (const auto place = PlaceOf(cboNode.Selected.Get())) FillFields(*place);
 }
 
+// Who looks for nothing, or has found what he looked for, goes on with what is at hand.
 void NodeForm::TakeFirst() {
-  if (!places_.empty()) cboNode.UserSelects(0);
+  const bool found = core::Trim(txtSearch.Text.Get()).empty() || cboNode.Selected.Get() == 0;
+  if (found && cmdApply.Enabled.Get())
+    cmdApply.Press();
+  else if (!places_.empty())
+    cboNode.UserSelects(0);
 }
 
 // Calls of a file may be in lower case; those that the form adds are not.

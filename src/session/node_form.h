@@ -28,8 +28,10 @@ class NodeForm {
            core::ErrorLog& errorLog, Needs needs);
 
   core::Property<bool> Open{false};
-  core::TextBox txtSearch;  // what a node's call, host or text is to hold; upper or lower case
-  core::Choice cboNode;     // the calls that fit the search, in order; kNone if none is at hand
+  // What a node's call, host or text is to hold, in upper or lower case. Return chooses the first
+  // that fits, and presses cmdApply where that is chosen or nothing is looked for.
+  core::TextBox txtSearch;
+  core::Choice cboNode;  // the calls that fit the search, in order; kNone if none is at hand
   core::TextBox txtNodeCall;
   core::TextBox txtNodeAddress;
   core::TextBox txtNodePort;

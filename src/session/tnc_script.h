@@ -48,6 +48,9 @@ class TncScript {
   int ScriptStep = 0;                         // the one that runs, from 0
   std::array<TncStepMark, kMostSteps> steps;  // by the row in the settings
 
+  // Whether there is a step to connect with.
+  static bool HasSteps(const core::Settings& settings) { return !StepsIn(settings).empty(); }
+
   // Begins the script anew, from its first step. Steps without a time-out are none.
   void Connect();
   // In TNC mode: says good-bye, has the TNC end its link, and ends the session.

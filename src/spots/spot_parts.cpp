@@ -143,7 +143,11 @@ SpotRequests::Needs SpotParts::NeedsOfRequests() {
           .sendAsIs = needs_.sendAsIs,
           .listRequested = [this] { lines.list.AskedForSpots(); },
           .setShDxDone = [this](bool done) { lines.list.ShDxDone = done; },
-          .missedRequested = [this] { lines.list.AskedForMissed(); },
+          .missedRequested =
+              [this] {
+                needs_.timeCommand();
+                lines.list.AskedForMissed();
+              },
           .settingsChanged = needs_.delayedWriteCfg};
 }
 

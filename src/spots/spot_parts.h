@@ -51,6 +51,8 @@ class SpotParts {
     std::function<bool()> keepsBottomOfBand;
     std::function<bool(std::string_view line)> RcvdPrompt;
     std::function<platform::Milliseconds()> latency;
+    // The missed spots have been asked for: the time until the prompt is measured.
+    std::function<void()> timeCommand = [] {};
     std::function<void(std::string_view text)> send;  // the next four: to the node
     std::function<bool(std::string_view text)> sendAsIs;
     std::function<platform::Registration()> holdIntake;

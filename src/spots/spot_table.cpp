@@ -34,12 +34,18 @@ void SpotTable::EnterTab() {
   onShow_ = true;
   unseen_ = 0;
   TabCaption.Set("DX");
+  if (!sorted_.IsActive() || reloading_) return;
+  sorted_.Run(SelectedStore().Rows(), Now());
+  RtbDx.Refresh(sorted_.Rows(reversed_));
 }
 
 void SpotTable::LeaveTab() {
   onShow_ = false;
   TabCaption.Set("DX");
-  UpdateDxSpots();
+  if (sorted_.IsActive())
+    sorted_.Renew();
+  else
+    UpdateDxSpots();
   ClearStars();
 }
 
@@ -135,13 +141,13 @@ void SpotTable::SortBy(int button, Press press) {
 }
 
 void SpotTable::RunDxQue() {
-  if (reloading_ || !sorted_.HasWork()) return;
+  if (reloading_ || !onShow_ || !sorted_.HasWork()) return;
   sorted_.Run(SelectedStore().Rows(), Now());
   RtbDx.Refresh(sorted_.Rows(reversed_));
 }
 
 void SpotTable::RefreshLastHour() {
-  if (reloading_ || optSortBy.Get() != kLastHour) return;
+  if (reloading_ || !onShow_ || optSortBy.Get() != kLastHour) return;
   sorted_.Refresh(SelectedStore().Rows(), Now());
   RtbDx.Refresh(sorted_.Rows(reversed_));
 }
@@ -152,7 +158,10 @@ void SpotTable::EndReload() {
 }
 
 void SpotTable::UpdateDxSpots() {
-  if (reloading_) return RtbDx.Redraw({});
+  if (reloading_ || (sorted_.IsActive() && !onShow_)) {
+    sorted_.Renew();
+    return RtbDx.Redraw({});
+  }
   if (sorted_.IsActive()) return ShowSorted();
   RtbDx.Redraw(SelectedStore().Rows());
 }

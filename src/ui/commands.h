@@ -13,6 +13,8 @@ enum class Act {
   Connect,
   Disconnect,
   Nodes,
+  RadioClus,
+  TelnetClus,
   LinkSettings,
   TncScript,
   Quit,

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -27,23 +26,12 @@
 #include "ui/touch_watch.h"
 #include "ui/user_info_dialog.h"
 #include "ui/view_colours.h"
+#include "ui/window_place.h"
 
 namespace ui {
 namespace {
 
 constexpr QSize kUsualSize(1280, 800);
-constexpr int kTwipsPerPixel = 15;
-
-int Pixels(int twips) { return twips / kTwipsPerPixel; }
-int Twips(int pixels) { return pixels * kTwipsPerPixel; }
-
-// A screen may have gone since the place was stored.
-bool OnSomeScreen(const QRect& place) {
-  const auto screens = QGuiApplication::screens();
-  return std::any_of(screens.begin(), screens.end(), [&](const QScreen* each) {
-    return each->availableGeometry().intersects(place);
-  });
-}
 
 // The page of the manual for what is on show.
 std::string_view PageFor(int view) {
@@ -189,7 +177,7 @@ void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
   new UserInfoDialog(program_.userInfo, frames, this);
   new OffsetDialog(program_.offsetForm, frames, this);
   new CommDialog(program_.commForm, frames, this);
-  new TncDialog(program_.tncForm, frames, this);
+  Keep(new TncDialog(program_.tncForm, frames, this), kTncPlace);
   new MessageDialog(program_.messageForm, frames, this);
   new NodeDialog({.form = program_.nodeForm,
                   .update = program_.nodeUpdate,
@@ -201,8 +189,14 @@ void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
                     .settings = program_.settings},
                    frames, theme, this);
   new SpotsDialog(parts.spotsForm, frames, this);
-  new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},
-                    frames, theme, this);
+  Keep(new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},
+                         frames, theme, this),
+       kFixSpotPlace);
+  Keep(columns_, kAr17Place);
+}
+
+void MainWindow::Keep(QDialog* dialog, const PlaceKeys& keys) {
+  new DialogPlace(dialog, program_.settings, keys, [this] { program_.DelayedWriteCfg(); });
 }
 
 void MainWindow::Lay(Frames& frames, LiveTheme& theme) {
@@ -250,6 +244,10 @@ void MainWindow::Do(const Command& command) {
       return connection.cmdDisconnect.Press();
     case Act::Nodes:
       return program_.nodeForm.Show();
+    case Act::RadioClus:
+      return program_.modeSwitch.RadioClus.Press();
+    case Act::TelnetClus:
+      return program_.modeSwitch.TelnetClus.Press();
     case Act::LinkSettings:
       return program_.commForm.Show();
     case Act::TncScript:
@@ -310,6 +308,9 @@ Menus::State MainWindow::StateOf(const Command& command) const {
       return {.enabled = connection.cmdDisconnect.Enabled.Get(),
               .ticked = {},
               .why = tr("There is no link.")};
+    case Act::RadioClus:
+    case Act::TelnetClus:
+      return {.ticked = program_.settings.TncMode == (command.act == Act::RadioClus), .why = {}};
     case Act::CorrectErrors: {
       const core::Check& errors = program_.spotParts.localReject.CorrectErrors;
       return {.enabled = errors.Enabled.Get(),

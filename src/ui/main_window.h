@@ -8,6 +8,7 @@
 #include "program/program.h"
 #include "ui/command_row.h"
 #include "ui/commands.h"
+#include "ui/dialog_place.h"
 #include "ui/display_dialog.h"
 #include "ui/dx_page.h"
 #include "ui/find_bar.h"
@@ -42,6 +43,8 @@ class MainWindow : public QMainWindow {
   void AddPages(Frames& frames, LiveTheme& theme);
   DxPage* MakeDxPage(Frames& frames, LiveTheme& theme);
   void AddDialogs(Frames& frames, LiveTheme& theme);
+  // It comes up where the user left it.
+  void Keep(QDialog* dialog, const PlaceKeys& keys);
   void Do(const spots::Click& click);
   void Lay(Frames& frames, LiveTheme& theme);
   void AddKeys();

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "session/built_in_nodes.h"
 #include "ui/one_line.h"
 
 namespace ui {
@@ -47,7 +48,10 @@ QVariant NodeRows::data(const QModelIndex& index, int role) const {
     return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
   const auto place = form_.PlaceOf(index.row());
   if (role != Qt::DisplayRole || !place) return {};
-  return OneLine((directory_.*ColumnAt(index.column()).texts)()[*place], kLongestNodeText);
+  const std::string& text = (directory_.*ColumnAt(index.column()).texts)()[*place];
+  const bool practice = directory_.NodeCalls()[*place] == session::kPracticeNode.call;
+  if (practice && index.column() == kInfo && text.empty()) return tr("practice node");
+  return OneLine(text, kLongestNodeText);
 }
 
 QVariant NodeRows::headerData(int column, Qt::Orientation side, int role) const {

@@ -43,6 +43,9 @@ TechnicalPanel::TechnicalPanel(program::Program& program, Frames& frames, QWidge
   Add(tr("Share of duplicates among Skimmer spots"), spots.duplicates.SkimmerDupes, frames);
   AddFigure(tr("Spots corrected"), spots.fixList.lblFixes, frames);
   AddFigure(tr("Seconds to the node's answer"), session.latency.Text3, frames);
+  AddFigure(tr("Seconds to the first of the missed spots"), spots.lines.list.lblSeconds, frames);
+  AddFigure(tr("Of these, not the link's own"), spots.lines.list.lblBeyondLatency, frames);
+  AddFigure(tr("Spots in the last list"), spots.lines.list.lblCount, frames);
   AddDebugging(program.DebuggingOn, frames);
 }
 

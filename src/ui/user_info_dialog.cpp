@@ -51,6 +51,11 @@ void UserInfoDialog::AddLocation(QFormLayout* form, program::UserInfo& model, Fr
   }
   row->addStretch();
   form->addRow(tr("Location"), row);
+  auto* from = new QLabel(this);
+  from->setProperty("dim", true);
+  from->setAccessibleName(tr("Where the location is from"));
+  BindLabel(from, model.lblFromGrid, frames);
+  form->addRow(QString(), from);
 }
 
 void UserInfoDialog::AddZone(QFormLayout* form, program::UserInfo& model, Frames& frames) {

@@ -26,6 +26,10 @@ void Desk::Open(const std::vector<std::string>& more) {
   for (const std::string& line : more) configuration += line + "\r\n";
   world.files.folders.insert(kFolder);
   world.files.content[std::string(kFolder) + "/molva.cfg"] = configuration;
+  OpenAnew();
+}
+
+void Desk::OpenAnew() {
   world.files.content[program::Program::kCountryFile] = CtyText({});
   program = std::make_unique<program::Program>(
       world.platform(), kFolder,

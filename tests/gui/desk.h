@@ -29,6 +29,8 @@ class Desk : public ::testing::Test {
   // Starts the program, and shows its window. `more` are lines of its configuration behind the
   // usual ones.
   void Open(const std::vector<std::string>& more = {});
+  // The same in a folder that is not there yet.
+  void OpenAnew();
   // Presses Connect, and lets the node ask for the call and greet.
   void LogIn();
   // Lets time pass, and the window do what it has to do then.

@@ -68,6 +68,24 @@ TEST_F(MenusTest, ConnectAndDisconnectAreThereByTurns) {
   EXPECT_TRUE(Entry("Connection", "Disconnect").isEnabled());
 }
 
+TEST_F(MenusTest, TheWayToTheClusterIsTickedAndTheOtherIsChosen) {
+  EXPECT_TRUE(Entry("Connection", "Cluster by telnet...").isChecked());
+  EXPECT_FALSE(Entry("Connection", "Cluster by radio").isChecked());
+  Entry("Connection", "Cluster by radio").trigger();
+  Run(200ms);
+  EXPECT_FALSE(Entry("Connection", "Cluster by telnet...").isChecked());
+  EXPECT_TRUE(Entry("Connection", "Cluster by radio").isChecked());
+  EXPECT_TRUE(program->session.tncLink.lblTnc.Visible.Get());
+}
+
+TEST_F(MenusTest, ChoosingRadioShowsInTheOpenFormOfTheConnection) {
+  Entry("Connection", "Telnet or TNC, and ports...").trigger();
+  EXPECT_EQ(program->commForm.optMode.Selected.Get(), session::CommForm::Telnet);
+  Entry("Connection", "Cluster by radio").trigger();
+  Run(200ms);
+  EXPECT_EQ(program->commForm.optMode.Selected.Get(), session::CommForm::Tnc);
+}
+
 TEST_F(MenusTest, TheViewOnShowIsTickedAndOthersAreChosen) {
   EXPECT_TRUE(Entry("View", "DX").isChecked());
   Entry("View", "Login Msg").trigger();
@@ -98,6 +116,8 @@ TEST_F(MenusTest, TheCorrectionOfFilterErrorsIsSwitched) {
 TEST_F(MenusTest, DialogsAreOpenedWithoutHoldingAnythingUp) {
   for (const auto& [menu, entry] : std::vector<std::pair<const char*, const char*>>{
            {"Connection", "Nodes..."},
+           {"Connection", "Cluster by telnet..."},
+           {"Connection", "Cluster by radio"},
            {"Connection", "Telnet or TNC, and ports..."},
            {"Connection", "Script for the TNC..."},
            {"Configuration", "User information..."},

@@ -59,7 +59,9 @@ TEST_F(NamesTest, SoHasWhatComesToTheSettingsPageLater) {
   for (core::Label* each :
        {&session.keepAlive.lblKA[0], &session.keepAlive.lblKA[1], &session.keepAlive.lblKA[2],
         &session.connection.lblDisconnects, &session.technical.lblTechnical[0],
-        &session.technical.lblTechnical[1], &session.ar17.lblStatus, &session.latency.Text3}) {
+        &session.technical.lblTechnical[1], &session.ar17.lblStatus, &session.latency.Text3,
+        &program->spotParts.lines.list.lblSeconds, &program->spotParts.lines.list.lblBeyondLatency,
+        &program->spotParts.lines.list.lblCount}) {
     each->Caption.Set("Retry in 3");
     each->Visible.Set(true);
   }

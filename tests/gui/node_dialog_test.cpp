@@ -100,6 +100,14 @@ TEST_F(NodeDialogTest, TabFollowsTheEye) {
   EXPECT_EQ(Chosen(), "N0DE-1");
 }
 
+TEST_F(NodeDialogTest, ThePracticeNodeSaysWhatItIs) {
+  const QAbstractItemModel& model = *List().model();
+  for (int row = 0; row < model.rowCount(); ++row) {
+    const bool practice = model.index(row, 0).data().toString() == "N0DE-1";
+    EXPECT_EQ(model.index(row, 3).data().toString(), practice ? "practice node" : "");
+  }
+}
+
 TEST_F(NodeDialogTest, ItIsSearchedWhileTypingAndUsedByKeyboardAlone) {
   QTest::keyClicks(&Search(), "ai9");
   Run(200ms);

@@ -179,6 +179,22 @@ TEST_F(SortedReaderTest, StaysOnHisRowWhenOthersComeBeforeIt) {
   EXPECT_FALSE(Below().isVisible());
 }
 
+TEST_F(SortedReaderTest, FindsHisRowAgainWhenHeComesBackToTheTab) {
+  ScrollToRow(50);
+  ASSERT_EQ(TopCall(), "K150AAA");
+  table.LeaveTab();
+  view.hide();
+  for (int number = 10; number < 20; ++number) {
+    Spot(Call(number), 14005);
+    Tick();
+  }
+  table.EnterTab();
+  view.show();
+  Run();
+  EXPECT_EQ(TopCall(), "K150AAA");
+  EXPECT_EQ(Calls().size(), 110U);
+}
+
 TEST_F(SortedReaderTest, AtTheTopSeesWhatComesThere) {
   Spot("A1AAA", 14005);
   Tick();

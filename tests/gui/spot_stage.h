@@ -29,6 +29,7 @@ using spots::TableRow;
 class SpotStage : public testing::Test {
  protected:
   void SetUp() override {
+    table.EnterTab();
     view.resize(800, 300);
     view.show();
     QApplication::setActiveWindow(&view);

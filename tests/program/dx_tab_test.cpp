@@ -57,6 +57,75 @@ TEST_F(DxTabTest, TheTabCountsWhatCameUnseenUntilItIsEntered) {
   EXPECT_EQ(Caption(), "DX");
 }
 
+TEST_F(DxTabTest, ASeparatorMarksTheFirstUnseenSpotUntilTheTabIsLeftAgain) {
+  desk.Start();
+  const auto rows = [this] { return Table().RtbDx.Rows().size(); };
+  desk.program->views.Choose(Views::LoginMsg);
+  Spot();
+  Spot();
+  desk.program->views.Choose(Views::Dx);
+  EXPECT_EQ(rows(), 3u) << "it stands while the reader is there";
+  EXPECT_EQ(Table().RtbDx.Rows().front().RowKind(), spots::TableRow::Kind::Stars);
+  desk.program->views.Choose(Views::LoginMsg);
+  EXPECT_EQ(rows(), 2u);
+}
+
+TEST_F(DxTabTest, CountingBeginsAnewWithEachAbsence) {
+  desk.Start();
+  for (int absence = 0; absence < 2; ++absence) {
+    desk.program->views.Choose(Views::Settings);
+    Spot();
+    EXPECT_EQ(Caption(), "DX = 1");
+    desk.program->views.Choose(Views::Dx);
+  }
+}
+
+TEST_F(DxTabTest, EnteringSortsWhatCameMeanwhile) {
+  desk.Start();
+  Table().SortBy(2);
+  desk.program->views.Choose(Views::LoginMsg);
+  for (const char* line :
+       {"DX de DL1ABC:    14025.0  K2BBB        CW up 2                        2100Z",
+        "DX de DL1ABC:    14026.0  K1AAA        CW up 2                        2100Z"})
+    desk.program->spotParts.lines.dx(line);
+  desk.world.Run(1s);
+  EXPECT_TRUE(Table().RtbDx.Rows().empty()) << "nothing is sorted behind another tab";
+  desk.program->views.Choose(Views::Dx);
+  ASSERT_EQ(Table().RtbDx.Rows().size(), 2u);
+  EXPECT_EQ(Table().RtbDx.Rows().front().DxCall(), "K1AAA");
+}
+
+TEST_F(DxTabTest, OnWinClusterATabThatIsNotOfferedLeadsToTheTable) {
+  desk.Start();
+  desk.program->views.Choose(Views::LoginMsg);
+  desk.program->session.state.Kind = session::NodeKind::WinCluster;
+  desk.program->views.Choose(Views::Wx);
+  EXPECT_TRUE(Table().OnShow());
+  EXPECT_EQ(desk.program->views.TabType(), "Dx");
+}
+
+TEST_F(DxTabTest, TheAnswerToTheRequestForMissedSpotsIsTimed) {
+  desk.HasUsualConfiguration("\"AutoStart\",-1\r\n\"Get Missed\",-1\r\n");
+  desk.StartNode();
+  desk.Start();
+  const spots::SpotList& list = desk.program->spotParts.lines.list;
+  ASSERT_TRUE(desk.world.RunUntil([&] { return !list.lblCount.Caption.Get().empty(); }, 30s));
+  EXPECT_NE(list.lblSeconds.Caption.Get(), "");
+  EXPECT_NE(desk.program->session.latency.Text3.Caption.Get(), "");
+}
+
+TEST_F(DxTabTest, AColumnIsCalledWhatTheNodeSendsInIt) {
+  desk.Start();
+  const auto caption = [this](spots::DisplayChoice::Check column) {
+    return desk.program->spotParts.display.chkAr17[column].Caption.Get();
+  };
+  EXPECT_EQ(caption(spots::DisplayChoice::kOrigState), "Orig State/Province");
+  desk.program->session.ar17.lblOrigState.Caption.Set("Orig State");
+  desk.program->session.ar17.lblDxState.Caption.Set("DX St");
+  EXPECT_EQ(caption(spots::DisplayChoice::kOrigState), "Orig State");
+  EXPECT_EQ(caption(spots::DisplayChoice::kDxState), "DX St");
+}
+
 TEST_F(DxTabTest, AnEmptyTableSaysWhatItWaitsFor) {
   desk.Start();
   EXPECT_EQ(Empty(), "Not connected.");

@@ -24,6 +24,32 @@ TEST_F(StartUpTest, NewFolderGetsAConfigurationWithoutAQuestionAndTheUserFormOpe
   EXPECT_FALSE(program.Loading);
 }
 
+TEST_F(StartUpTest, WhoIsNewIsAskedForHisNodeNextAndOnlyOnce) {
+  program::Program& program = desk.Start();
+  const auto fill = [&program] {
+    program.userInfo.Show();
+    program.userInfo.txtCall.UserTypes("K1TST");
+    program.userInfo.txtName.UserTypes("Anna");
+    program.userInfo.txtQth.UserTypes("Ann Arbor, MI");
+    program.userInfo.cmdOk.Press();
+  };
+  EXPECT_FALSE(program.nodeForm.Open.Get());
+  fill();
+  EXPECT_TRUE(program.nodeForm.Open.Get());
+  EXPECT_EQ(program.nodeForm.txtNodeCall.Text.Get(), "N0DE-1");
+  program.nodeForm.cmdExit.Press();
+  fill();
+  EXPECT_FALSE(program.nodeForm.Open.Get());
+}
+
+TEST_F(StartUpTest, ChangedUserInfoOfAConfigurationThatWasThereOpensNothingElse) {
+  desk.HasUsualConfiguration();
+  program::Program& program = desk.Start();
+  program.userInfo.Show();
+  program.userInfo.cmdOk.Press();
+  EXPECT_FALSE(program.nodeForm.Open.Get());
+}
+
 TEST_F(StartUpTest, CompleteConfigurationOpensNoDialog) {
   desk.HasUsualConfiguration();
   program::Program& program = desk.Start();

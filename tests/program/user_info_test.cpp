@@ -17,6 +17,19 @@ class UserInfoTest : public testing::Test {
     form.txtQth.UserTypes("Ann Arbor, MI");
   }
 
+  void TypeLocation(const std::array<const char*, 6>& parts) {
+    for (std::size_t i = 0; i < parts.size(); ++i) form.txtLatLong[i].UserTypes(parts[i]);
+  }
+  // As the fields have it.
+  std::string Location() const {
+    std::string text;
+    for (const core::TextBox& part : form.txtLatLong) {
+      if (!text.empty() && !part.Text.Get().empty()) text += ' ';
+      text += part.Text.Get();
+    }
+    return text;
+  }
+
   Desk desk;
   program::Program& program = desk.Start();
   program::UserInfo& form = program.userInfo;
@@ -78,6 +91,85 @@ TEST_F(UserInfoTest, LocationIsStoredAndComesBackInItsParts) {
   form.Show();
   EXPECT_EQ(form.txtLatLong[2].Text.Get(), "N");
   EXPECT_EQ(form.txtLatLong[3].Text.Get(), "83");
+}
+
+TEST_F(UserInfoTest, LocationIsWorkedOutFromTheGridAsItIsTyped) {
+  form.txtGrid.UserTypes("EN8");
+  EXPECT_EQ(Location(), "");
+  EXPECT_FALSE(form.lblFromGrid.Visible.Get());
+  form.txtGrid.UserTypes("EN82");
+  EXPECT_EQ(Location(), "42 30 N 83 0 W");
+  EXPECT_TRUE(form.lblFromGrid.Visible.Get());
+  form.txtGrid.UserTypes("EN82D");
+  EXPECT_EQ(Location(), "");
+  form.txtGrid.UserTypes("en82dg ");
+  EXPECT_EQ(Location(), "42 16 N 83 43 W");
+  form.cmdOk.Press();
+  EXPECT_EQ(program.settings.MyLocation, "42 16 N 83 43 W");
+}
+
+TEST_F(UserInfoTest, OwnLocationStaysWhateverGridIsTyped) {
+  TypeLocation({"42", "17", "N", "83", "44", "W"});
+  form.txtGrid.UserTypes("EN82DG");
+  EXPECT_EQ(Location(), "42 17 N 83 44 W");
+  EXPECT_FALSE(form.lblFromGrid.Visible.Get());
+  form.cmdOk.Press();
+  EXPECT_EQ(program.settings.MyLocation, "42 17 N 83 44 W");
+  form.Show();
+  form.txtGrid.UserTypes("JN58");
+  EXPECT_EQ(Location(), "42 17 N 83 44 W");
+}
+
+TEST_F(UserInfoTest, LocationOfTheGridFollowsItAgainTheNextTime) {
+  form.txtGrid.UserTypes("EN82");
+  form.cmdOk.Press();
+  form.Show();
+  EXPECT_TRUE(form.lblFromGrid.Visible.Get());
+  form.txtGrid.UserTypes("JN58");
+  EXPECT_EQ(Location(), "48 30 N 11 0 E");
+}
+
+TEST_F(UserInfoTest, PartOfALocationThatTheUserChangedIsHisOwn) {
+  form.txtGrid.UserTypes("EN82");
+  form.txtLatLong[1].UserTypes("17");
+  form.txtGrid.UserTypes("JN58");
+  EXPECT_EQ(Location(), "42 17 N 83 0 W");
+}
+
+TEST_F(UserInfoTest, WhoTakesHisLocationAwayGetsThatOfTheGrid) {
+  form.txtGrid.UserTypes("EN82");
+  TypeLocation({"10", "", "", "", "", ""});
+  EXPECT_EQ(Location(), "10");
+  form.txtLatLong[0].UserTypes("");
+  EXPECT_EQ(Location(), "42 30 N 83 0 W");
+}
+
+TEST_F(UserInfoTest, GridThatWasStoredWithoutALocationGivesOne) {
+  form.cmdCancel.Press();
+  program.settings.MyGrid = "EN82";
+  form.Show();
+  EXPECT_EQ(Location(), "42 30 N 83 0 W");
+}
+
+TEST_F(UserInfoTest, WrongGridSaysAtOnceWhatIsWrong) {
+  const auto problem = [this](const char* grid) {
+    form.txtGrid.UserTypes(grid);
+    return form.lblProblem.Caption.Get();
+  };
+  for (const char* good : {"", "e", "EN", "EN8", "EN82", "EN82d", "EN82DG"})
+    EXPECT_EQ(problem(good), "") << good;
+  EXPECT_THAT(problem("9"), HasSubstr("letters from A to R"));
+  EXPECT_THAT(problem("ES"), HasSubstr("letters from A to R"));
+  EXPECT_THAT(problem("ENX"), HasSubstr("two digits"));
+  EXPECT_THAT(problem("EN82Y"), HasSubstr("A to X"));
+  EXPECT_THAT(problem("EN82DG1"), HasSubstr("4 or 6 characters"));
+}
+
+TEST_F(UserInfoTest, WrongGridIsNotStored) {
+  form.txtGrid.UserTypes("EN82DGX");
+  form.cmdOk.Press();
+  EXPECT_TRUE(form.Open.Get());
+  EXPECT_THAT(form.lblProblem.Caption.Get(), HasSubstr("4 or 6 characters"));
 }
 
 TEST_F(UserInfoTest, LocationThatIsNoPlaceIsRefused) {

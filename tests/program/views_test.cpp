@@ -44,6 +44,28 @@ TEST_F(ViewsTest, TheNameOfTheViewOnShowGoesWithIt) {
                                  "Talk", "Announce", "Wx", "Mail"));
 }
 
+TEST_F(ViewsTest, TheNameIsStoredBeforeAnybodyHearsOfTheChange) {
+  std::vector<std::string> names;
+  const auto watching = views.onShow.Observe([&](int) { names.emplace_back(views.TabType()); });
+  views.Begin(Views::LoginMsg);
+  views.Choose(Views::Settings);
+  EXPECT_THAT(names, ElementsAre("Dx", "Talk", "Technical"));
+}
+
+TEST_F(ViewsTest, ACaptionThatCountsLeavesTheNameAsItIs) {
+  MakeAllThere();
+  views.tab[Views::Ann].Caption.Set("Ann = 3");
+  views.Choose(Views::Ann);
+  EXPECT_EQ(views.TabType(), "Announce");
+}
+
+TEST_F(ViewsTest, EachChangeIsWrittenAndARefusedOneIsNot) {
+  views.Choose(Views::LoginMsg);
+  views.Choose(Views::LoginMsg);
+  views.Choose(Views::Mail);
+  EXPECT_EQ(writes, 1);
+}
+
 TEST_F(ViewsTest, BeginsWithTheTabThatIsWanted) {
   views.Begin(Views::LoginMsg);
   EXPECT_EQ(views.onShow.Get(), Views::LoginMsg);
@@ -72,10 +94,23 @@ TEST_F(ViewsTest, EnteringAViewRestoresItsCaptionBehindItsRules) {
   views.tab[Views::Mail].Caption.Set("Mail = 2");
   std::vector<std::pair<std::string, std::string>> seen;
   const auto watching = views.Changed.Add(
-      [&](const Views::Change&) { seen.emplace_back(views.TabType(), Caption(Views::Mail)); });
+      [&](const Views::Step&) { seen.emplace_back(views.TabType(), Caption(Views::Mail)); });
   views.Choose(Views::Mail);
   EXPECT_THAT(seen, ElementsAre(Pair("Mail", "Mail = 2")));
   EXPECT_EQ(Caption(Views::Mail), "Mail");
+  EXPECT_EQ(writes, 1);
+}
+
+TEST_F(ViewsTest, AViewThatFailsIsReportedAndTheChangeHolds) {
+  std::vector<std::pair<std::string, std::string>> faults;
+  Views failing{{.winCluster = [] { return false; },
+                 .delayedWriteCfg = [this] { ++writes; },
+                 .onFault = [&](auto name, auto what) { faults.emplace_back(name, what); }}};
+  const auto watching =
+      failing.Changed.Add([](const Views::Step&) { throw std::runtime_error("no such page"); });
+  failing.Choose(Views::LoginMsg);
+  EXPECT_THAT(faults, ElementsAre(Pair("SSTab1", "no such page")));
+  EXPECT_EQ(failing.onShow.Get(), Views::LoginMsg);
   EXPECT_EQ(writes, 1);
 }
 
@@ -91,7 +126,7 @@ TEST_F(ViewsTest, LeavingTheSpotsRestoresTheirCaption) {
 TEST_F(ViewsTest, AChangeTellsWhereItComesFrom) {
   std::vector<std::pair<int, int>> changes;
   const auto watching = views.Changed.Add(
-      [&](const Views::Change& change) { changes.emplace_back(change.from, change.to); });
+      [&](const Views::Step& change) { changes.emplace_back(change.from, change.to); });
   views.Choose(Views::Dx);
   EXPECT_THAT(changes, IsEmpty()) << "it is on show";
   views.Choose(Views::LoginMsg);

@@ -28,6 +28,14 @@ TEST_F(LatencyMeterTest, PromptWithoutATimedCommandShowsNothing) {
   EXPECT_EQ(Shown(), "");
 }
 
+TEST_F(LatencyMeterTest, NewCommandClearsTheLastReading) {
+  Answered(1s);
+  ASSERT_NE(Shown(), "");
+  meter.Begin();
+  EXPECT_EQ(Shown(), "");
+  EXPECT_EQ(meter.Last(), 1s) << "what it is subtracted from may still come";
+}
+
 TEST_F(LatencyMeterTest, LineThatIsNoPromptLeavesTheMark) {
   meter.Begin();
   world.Run(1s);

@@ -1,6 +1,6 @@
 #include "session/link_text.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "session/session_fixture.h"
 
@@ -32,9 +32,53 @@ class LinkTextTest : public SessionFixture {
 TEST_F(LinkTextTest, SaysWhatIsBeingDoneAboutTheLink) {
   EXPECT_EQ(State(), "not connected");
   PressConnect();
-  EXPECT_EQ(State(), "connecting");
+  EXPECT_EQ(State(), "connecting 0 s");
   LetPass(2s);
-  EXPECT_EQ(State(), "waiting for the login");
+  EXPECT_EQ(State(), "waiting for the login 2 s");
+}
+
+TEST_F(LinkTextTest, CountsHowLongATryHangs) {
+  world.network.silentAddresses = {"10.1.2.3"};
+  PressConnect();
+  LetPass(12s);
+  EXPECT_EQ(State(), "connecting 12 s");
+}
+
+TEST_F(LinkTextTest, TellsTheMomentsOfTheLinkWhenItIsPointedAt) {
+  const auto moments = [this] {
+    program.linkText.Tick();
+    return program.linkText.state.ToolTip.Get();
+  };
+  EXPECT_EQ(moments(), "");
+  world.clock.Set(std::chrono::sys_days{std::chrono::year{2026} / 1 / 5} + 21h + 7min);
+  LogIn();
+  EXPECT_THAT(moments(), testing::MatchesRegex("Since 21:07:0[0-9] UTC, 05-Jan-2026"));
+  LetPass(4h);
+  NodeCloses();
+  const std::string ended = moments();
+  EXPECT_THAT(ended, testing::MatchesRegex("The last link ended at 01:07:0[0-9] UTC, 06-Jan-2026"));
+  node.refuses = true;
+  LetPass(5min);
+  EXPECT_EQ(moments(), ended) << "a try that fails is no link";
+}
+
+TEST_F(LinkTextTest, SaysWhyANodeIsNotReached) {
+  settings.NodeHost = "nowhere.example";
+  Connect();
+  EXPECT_THAT(State(), testing::MatchesRegex("next try in .*  ·  .+")) << "no such host";
+  PressDisconnect();
+  LetPass(3s);
+  settings.NodeHost = "node.example";
+  settings.NodeNumberedAddress.clear();
+  node.refuses = true;
+  Connect();
+  EXPECT_THAT(State(), testing::HasSubstr("refused"));
+}
+
+TEST_F(LinkTextTest, SaysWhyANodeThatAsksForNoLoginIsGivenUp) {
+  PressConnect();
+  LetPass(50s);
+  EXPECT_THAT(State(), testing::HasSubstr("the node asked for no login"));
 }
 
 TEST_F(LinkTextTest, NamesTheNodeThatTheNextLinkGoesTo) {

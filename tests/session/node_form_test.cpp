@@ -253,6 +253,24 @@ TEST_F(NodeFormTest, ReturnInTheSearchChoosesTheFirstThatFits) {
   EXPECT_EQ(Fields(), "NC7J dxc.nc7j.com 7373");
 }
 
+TEST_F(NodeFormTest, ReturnInAnEmptySearchUsesTheNodeAtHand) {
+  Start();
+  const std::string before = settings.NodeCall;
+  form.txtSearch.UserPressesReturn();
+  EXPECT_FALSE(form.Open.Get());
+  EXPECT_EQ(settings.NodeCall, before);
+}
+
+TEST_F(NodeFormTest, ReturnOnceMoreUsesTheNodeThatWasFound) {
+  Start();
+  form.txtSearch.UserTypes("nc7");
+  form.txtSearch.UserPressesReturn();
+  EXPECT_TRUE(form.Open.Get());
+  form.txtSearch.UserPressesReturn();
+  EXPECT_FALSE(form.Open.Get());
+  EXPECT_EQ(settings.NodeCall, "NC7J");
+}
+
 TEST_F(NodeFormTest, AnEntryIsARowOfTheDirectory) {
   Start();
   form.txtSearch.UserTypes("nc7");

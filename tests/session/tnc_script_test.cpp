@@ -434,11 +434,11 @@ TEST_F(TncScriptTest, LinkBarNamesTheClusterAndHowLongItIsToTheNextTry) {
   PressConnect();
   LetPass(1s);
   EXPECT_EQ(program.linkText.node.Caption.Get(), "N0CLU");
-  EXPECT_EQ(program.linkText.state.Caption.Get(), "connecting");
+  EXPECT_EQ(program.linkText.state.Caption.Get(), "connecting 1 s");
   Says("*** CONNECTED to N0DIG");
   Says("*** CONNECTED to N0CLU");
   LetPass(1s);
-  EXPECT_EQ(program.linkText.state.Caption.Get(), "waiting for the login");
+  EXPECT_EQ(program.linkText.state.Caption.Get(), "waiting for the login 0 s");
   EXPECT_NE(program.linkText.age.Caption.Get(), "");
   program.tncScript.DisconnectTNC();
   program.linkText.Tick();

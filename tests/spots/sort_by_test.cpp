@@ -131,6 +131,70 @@ TEST_F(SortBy, NoSeparatorIsSetInASortedView) {
   EXPECT_THAT(CallsInStore(k20m, 0), ElementsAre("AA"));
 }
 
+TEST_F(SortBy, HiddenTableIsNotSortedUntilItIsEntered) {
+  ReceiveCalls({"BB"});
+  table.SortBy(kByCall);
+  table.LeaveTab();
+  int told = -1;
+  const auto watching = table.RtbDx.Observe([&](const auto&) { ++told; });
+  ReceiveCalls({"CC", "AA"});
+  Tick();
+  EXPECT_EQ(told, 0);
+  table.EnterTab();
+  EXPECT_EQ(told, 1);
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA", "BB", "CC"));
+  ReceiveCalls({"AB"});
+  Tick();
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA", "AB", "BB", "CC"));
+}
+
+TEST_F(SortBy, ReaderOfASortedViewFindsHisPlaceAgainWhenHeComesBack) {
+  ReceiveCalls({"BB"});
+  table.SortBy(kByCall);
+  table.LeaveTab();
+  std::vector<spots::DxPane::Change> told;
+  const auto watching =
+      table.RtbDx.Observe([&](const spots::DxPane::Change& change) { told.push_back(change); });
+  table.EnterTab();
+  ASSERT_EQ(told.size(), 2u);
+  EXPECT_TRUE(told.back().sameList);
+}
+
+TEST_F(SortBy, HiddenTableTakesAnotherOrderOrBandWhenItIsEntered) {
+  ReceiveCalls({"B20", "A20"}, "14025.0");
+  ReceiveCalls({"A40"}, "7012.3");
+  table.LeaveTab();
+  table.SortBy(kByCall);
+  table.rail.optBand.UserSelects(k20m);
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  table.EnterTab();
+  EXPECT_THAT(CallsInTable(), ElementsAre("A20", "B20"));
+}
+
+TEST_F(SortBy, HiddenSummaryHasForgottenWhatIsTooOldWhenItIsEntered) {
+  ReceiveCalls({"AA"});
+  table.SortBy(kLastHour);
+  table.LeaveTab();
+  world.Run(std::chrono::hours(2));
+  table.RefreshLastHour();
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA", ""));
+  table.EnterTab();
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+}
+
+TEST_F(SortBy, ReloadBehindAnotherTabIsThereWhenTheTableIsEntered) {
+  table.SortBy(kByCall);
+  table.LeaveTab();
+  table.BeginReload();
+  ReceiveCalls({"BB", "AA"});
+  table.EnterTab();
+  EXPECT_THAT(CallsInTable(), IsEmpty());
+  table.LeaveTab();
+  table.EndReload();
+  table.EnterTab();
+  EXPECT_THAT(CallsInTable(), ElementsAre("AA", "BB"));
+}
+
 TEST_F(SortBy, LastHourFollowsTheClock) {
   ReceiveCalls({"AA"});  // at 21:16
   table.SortBy(kLastHour);

@@ -75,6 +75,7 @@ EVENINGS = (
             Picture("spot-log", ("Spot log...",), dialog="Dx Spot Log File "),
             Picture("rejects", ("Rejects...",), dialog="Reject spots"),
             Picture("corrections", ("Corrections...",), dialog="Fix Spots"),
+            Picture("colours", ("Colours and fonts...",), dialog="Color and Font Selection"),
             Picture("keys", ("key:ctrl+question",), dialog="Keys"),
             Picture("manual", ("key:alt+1", "key:F1"), dialog="Manual"),
             Picture("raw-view", ("key:F9",)),
