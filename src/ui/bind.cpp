@@ -44,22 +44,20 @@ void BindTint(QWidget* widget, core::Control& model, Frames& frames) {
   });
 }
 
-// The text with the mark of its mnemonic, which must not be an "&".
-QString Marked(QString text, const QString& letter) {
-  const auto at = letter.isEmpty() ? -1 : text.indexOf(letter, 0, Qt::CaseInsensitive);
-  return at < 0 ? text : text.insert(at, QLatin1Char('&'));
+// Shows text of the rules as it stands: an "&" in it is no mnemonic.
+QString Caption(const QWidget& widget, const QString& line) {
+  return Marked(Literally(line), widget.property("mnemonic").toString());
 }
 
-// Shows text of the rules as it stands: an "&" in it is no mnemonic. Without a name of its own the
-// widget goes by that text.
+// Without a name of its own the widget goes by its text.
 void BindCaption(QAbstractButton* widget, core::Control& model, Frames& frames) {
   const bool named = !widget->accessibleName().isEmpty();
-  BindProperty<std::string>(
-      widget, model.Caption, frames, [widget, named](const std::string& text) {
-        const QString line = OneLine(text, kLongestLabel);
-        widget->setText(Marked(Literally(line), widget->property("mnemonic").toString()));
-        if (!named) widget->setAccessibleName(line);
-      });
+  BindProperty<std::string>(widget, model.Caption, frames,
+                            [widget, named](const std::string& text) {
+                              const QString line = OneLine(text, kLongestLabel);
+                              widget->setText(Caption(*widget, line));
+                              if (!named) widget->setAccessibleName(line.trimmed());
+                            });
 }
 
 void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
@@ -95,7 +93,7 @@ void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
   const QString name = widget->accessibleName();
   BindProperty<std::string>(widget, model.Caption, frames, [widget, name](const std::string& text) {
     const QString line = OneLine(text, kLongestLabel);
-    widget->setText(widget->buddy() != nullptr ? Literally(line) : line);
+    widget->setText(widget->buddy() != nullptr ? Caption(*widget, line) : line);
     const bool says = !name.isEmpty() && !line.isEmpty();
     widget->setAccessibleName(says ? name + ": " + line : name);
   });

@@ -1,6 +1,7 @@
 #include "ui/dx_page.h"
 
 #include <QCheckBox>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -10,6 +11,7 @@
 #include "ui/bind.h"
 #include "ui/get_spots_panel.h"
 #include "ui/member_panel.h"
+#include "ui/tab_order.h"
 
 namespace ui {
 namespace {
@@ -42,15 +44,19 @@ DxPage::DxPage(Models models, Acts acts, Frames& frames, LiveTheme& theme, QWidg
   auto* rail = new BandRailView(models.table.rail, models.settings, frames, theme, this);
   auto* column = new QVBoxLayout;
   column->setSpacing(0);
-  column->addWidget(MakeStrip(models, acts, frames));
+  FoldRow* strip = MakeStrip(models, acts, frames);
+  column->addWidget(strip);
   column->addWidget(spots_, 1);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
   row->addWidget(rail);
   row->addLayout(column, 1);
-  setFocusProxy(spots_);
+  OrderParts(window(), {rail, strip, spots_});
 }
+
+// No focus proxy: the Tab key would go past the bands and the strip to it.
+void DxPage::focusInEvent(QFocusEvent* event) { spots_->setFocus(event->reason()); }
 
 FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frames) {
   auto* strip = new FoldRow(this);

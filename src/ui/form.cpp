@@ -52,6 +52,12 @@ QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& mode
   return field;
 }
 
+void NameByLabel(QComboBox* box, QLabel* label, const QString& name) {
+  box->setAccessibleName(name);
+  label->setAccessibleName(name);
+  label->setBuddy(box);
+}
+
 void AddProblem(QFormLayout* form, core::Label& model, Frames& frames) {
   auto* problem = new QLabel(form->parentWidget());
   problem->setProperty("bad", true);

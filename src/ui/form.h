@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QComboBox>
 #include <QDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -16,6 +17,10 @@ namespace ui {
 
 // Adds a labelled field; the label's mnemonic leads to it, and its words are its spoken name.
 QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& model, Frames& frames);
+
+// Ties the label to the box, and has both speak as `name`: for a screen reader the name of a combo
+// box is what is chosen in it, and its label tells what that is.
+void NameByLabel(QComboBox* box, QLabel* label, const QString& name);
 
 // Adds the line that says what is to be put right; spoken when it changes.
 void AddProblem(QFormLayout* form, core::Label& model, Frames& frames);

@@ -29,7 +29,7 @@ class MainWindow : public QMainWindow {
   // All three outlive the window.
   MainWindow(program::Program& program, Frames& frames, LiveTheme& theme);
 
-  // At a page of docs/manual, by its name without the ending.
+  // At a page of docs/manual, by its name without the ending, or with "#" at one of its headings.
   void OpenManual(std::string_view page);
 
  protected:
@@ -42,6 +42,8 @@ class MainWindow : public QMainWindow {
   void AddPages(Frames& frames);
   DxPage* MakeDxPage(Frames& frames, LiveTheme& theme);
   void AddDialogs(Frames& frames, LiveTheme& theme);
+  // F1 in the dialog opens the manual at that page.
+  void AddHelp(QDialog* dialog, const char* page);
   void Do(const spots::Click& click);
   void Lay(Frames& frames, LiveTheme& theme);
   void AddKeys();

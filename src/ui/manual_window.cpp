@@ -1,7 +1,10 @@
 #include "ui/manual_window.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QVBoxLayout>
 
 namespace ui {
@@ -26,15 +29,16 @@ class Page : public QTextBrowser {
 
 }  // namespace
 
-ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent), text_(new Page(this)) {
+ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent) {
   setWindowTitle(tr("Manual"));
   resize(kUsualSize);
-  text_->setAccessibleName(tr("Manual page"));
-  text_->setOpenExternalLinks(true);
-  text_->document()->setDocumentMargin(kMargin);
   auto* contents = new QPushButton(tr("&Contents"), this);
   auto* back = new QPushButton(tr("&Back"), this);
   back->setEnabled(false);
+  text_ = new Page(this);  // behind the buttons for the Tab key
+  text_->setAccessibleName(tr("Manual page"));
+  text_->setOpenExternalLinks(true);
+  text_->document()->setDocumentMargin(kMargin);
   for (QPushButton* button : {contents, back}) button->setAutoDefault(false);
   connect(contents, &QPushButton::clicked, this, [this] { Open(QStringLiteral("index")); });
   connect(back, &QPushButton::clicked, text_, &QTextBrowser::backward);
@@ -50,10 +54,22 @@ ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent), text_(new Page(th
 
 void ManualWindow::Open(const QString& page) {
   show();
-  text_->setSource(QUrl(QStringLiteral("qrc:/docs/manual/%1.md").arg(page)),
-                   QTextDocument::MarkdownResource);
+  text_->setSource(
+      QUrl(QStringLiteral("qrc:/docs/manual/%1.md").arg(page.section(QLatin1Char('#'), 0, 0))),
+      QTextDocument::MarkdownResource);
+  GoTo(page.section(QLatin1Char('#'), 1));
   text_->setFocus();
   activateWindow();
+}
+
+void ManualWindow::GoTo(const QString& heading) {
+  const QTextDocument& document = *text_->document();
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() == 0 || block.text() != heading) continue;
+    text_->setTextCursor(QTextCursor(block));
+    const QRectF place = document.documentLayout()->blockBoundingRect(block);
+    text_->verticalScrollBar()->setValue(static_cast<int>(place.top()));
+  }
 }
 
 }  // namespace ui

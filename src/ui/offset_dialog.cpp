@@ -18,6 +18,7 @@ OffsetDialog::OffsetDialog(program::OffsetForm& model, Frames& frames, QWidget* 
   setMinimumWidth(kWidth);
   QFormLayout* form = MakeForm(this);
   auto* zone = new QCheckBox(this);
+  zone->setProperty("mnemonic", QStringLiteral("z"));
   BindCheck(zone, model.chkSystemZone, frames);
   form->addRow(tr("Time zone"), zone);
   QLineEdit* hours = AddField(form, tr("&Hours to add to local time"), model.txtHours, frames);

@@ -16,6 +16,10 @@ class SettingsPage : public QScrollArea {
  public:
   SettingsPage(program::Program& program, Frames& frames, QWidget* parent);
 
+ protected:
+  // The page hands its focus to the first of its controls.
+  void focusInEvent(QFocusEvent* event) override;
+
  private:
   QVBoxLayout* AddColumn();
   // Its heading stands in it.
@@ -33,6 +37,7 @@ class SettingsPage : public QScrollArea {
 
   QWidget* page_;
   QHBoxLayout* columns_;
+  QWidget* first_ = nullptr;
 };
 
 }  // namespace ui

@@ -1,6 +1,5 @@
 #include "ui/tnc_dialog.h"
 
-#include <QAction>
 #include <QLabel>
 
 #include "platform/qt/qt_text.h"
@@ -42,10 +41,6 @@ TncDialog::TncDialog(session::TncForm& model, Frames& frames, QWidget* parent) :
     AddStep(grid, step, model, frames);
   whole->addStretch();
   AddFoot(whole, model, frames);
-  auto* help = new QAction(this);
-  help->setShortcut(Qt::Key_F1);
-  connect(help, &QAction::triggered, this, [&model] { model.cmdHelp.Press(); });
-  addAction(help);
   BindDialog(this, model.Open, model.cmdClose, frames);
 }
 

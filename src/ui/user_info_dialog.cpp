@@ -50,11 +50,14 @@ void UserInfoDialog::AddLocation(QFormLayout* form, program::UserInfo& model, Fr
     row->addWidget(new QLabel(units[i], this));
   }
   row->addStretch();
-  form->addRow(tr("Location"), row);
+  auto* label = new QLabel(tr("&Location"), this);
+  label->setBuddy(row->itemAt(0)->widget());
+  form->addRow(label, row);
 }
 
 void UserInfoDialog::AddZone(QFormLayout* form, program::UserInfo& model, Frames& frames) {
   auto* zone = new QCheckBox(this);
+  zone->setProperty("mnemonic", QStringLiteral("z"));
   BindCheck(zone, model.chkSystemZone, frames);
   form->addRow(tr("Time zone"), zone);
   QLineEdit* hours = AddField(form, tr("Hours to G&MT"), model.txtGmtOffset, frames);

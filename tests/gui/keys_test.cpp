@@ -153,7 +153,8 @@ TEST_F(KeysTest, AllKeysAreListedAndTheListHoldsNothingUp) {
 
 TEST_F(KeysTest, EveryKeyOfTheListIsAShortcutOfItsOwn) {
   std::set<QString> all;
-  for (const QShortcut* each : window->findChildren<QShortcut*>())
+  for (const QShortcut* each :
+       window->findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly))
     EXPECT_TRUE(all.insert(each->key().toString()).second) << each->key().toString().toStdString();
   for (const ui::Command& command : ui::Commands()) {
     if (!command.HasKey()) continue;

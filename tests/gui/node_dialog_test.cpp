@@ -1,10 +1,8 @@
 #include "ui/node_dialog.h"
 
-#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QProgressBar>
-#include <map>
 
 #include "gui/desk.h"
 
@@ -64,28 +62,6 @@ TEST_F(NodeDialogTest, TheButtonBesideTheNodeOpensItWithTheSelectedOne) {
   EXPECT_EQ(Chosen(), "N0DE-1");
   EXPECT_EQ(Field("Host of the node").text(), "127.0.0.1");
   EXPECT_TRUE(Search().hasFocus());
-}
-
-TEST_F(NodeDialogTest, EverythingInItHasANameOfItsOwn) {
-  std::map<QString, int> names;
-  for (const QWidget* each : Dialog().findChildren<QWidget*>())
-    if (each->isVisible() && each->focusPolicy() != Qt::NoFocus) ++names[each->accessibleName()];
-  EXPECT_GT(names.size(), 10U);
-  for (const auto& [name, count] : names)
-    EXPECT_TRUE(count == 1 && !name.trimmed().isEmpty()) << '"' << name.toStdString() << '"';
-}
-
-TEST_F(NodeDialogTest, EveryMnemonicIsThereOnce) {
-  std::map<QChar, int> keys;
-  const auto count = [&keys](const QString& text) {
-    const auto at = text.indexOf('&');
-    if (at >= 0) ++keys[text[at + 1].toLower()];
-  };
-  for (const auto* each : Dialog().findChildren<QAbstractButton*>()) count(each->text());
-  for (const auto* each : Dialog().findChildren<QLabel*>())
-    if (each->buddy() != nullptr) count(each->text());
-  EXPECT_EQ(keys.size(), 11U);
-  for (const auto& [key, times] : keys) EXPECT_EQ(times, 1) << key.toLatin1();
 }
 
 TEST_F(NodeDialogTest, TabFollowsTheEye) {
