@@ -113,7 +113,10 @@ void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames) {
 void BindTick(QCheckBox* widget, core::Check& model, Frames& frames) {
   BindCommon(widget, model, frames);
   BindProperty<bool>(widget, model.Value, frames, [widget](bool on) { widget->setChecked(on); });
-  QObject::connect(widget, &QCheckBox::clicked, widget, [&model](bool on) { model.UserSets(on); });
+  // However the user turns it: a screen reader does it without a click.
+  QObject::connect(widget, &QCheckBox::toggled, widget, [&model](bool on) {
+    if (on != model.Value.Get()) model.UserSets(on);
+  });
 }
 
 void BindChoice(QComboBox* widget, core::Choice& model, Frames& frames) {
@@ -135,8 +138,9 @@ void BindOptions(QButtonGroup* widgets, core::Choice& model, Frames& frames) {
   BindProperty<int>(widgets, model.Selected, frames, [widgets](int selected) {
     if (QAbstractButton* button = widgets->button(selected)) button->setChecked(true);
   });
-  QObject::connect(widgets, &QButtonGroup::idClicked, widgets,
-                   [&model](int option) { model.UserSelects(option); });
+  QObject::connect(widgets, &QButtonGroup::idToggled, widgets, [&model](int option, bool on) {
+    if (on && option != model.Selected.Get()) model.UserSelects(option);
+  });
 }
 
 void BindList(QListWidget* widget, core::ListBox& model, Frames& frames) {
@@ -147,7 +151,9 @@ void BindList(QListWidget* widget, core::ListBox& model, Frames& frames) {
       [widget, &model](const core::ListBox::Change& change) { Follow(*widget, model, change); });
   auto* selection = new Watch(widget);
   selection->observing = model.Selected.Observe([widget](int place) { Select(*widget, place); });
-  QObject::connect(widget, &QListWidget::currentRowChanged, widget, [&model](int place) {
+  QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [widget, &model] {
+    const QModelIndexList rows = widget->selectionModel()->selectedRows();
+    const int place = rows.isEmpty() ? core::ListBox::kNone : rows.front().row();
     if (place != model.Selected.Get()) model.UserSelects(place);
   });
 }
@@ -172,8 +178,10 @@ void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames) {
     const QString now = TextOf(text);
     if (widget->text() != now) widget->setText(now);
   });
-  QObject::connect(widget, &QLineEdit::textEdited, widget,
-                   [&model](const QString& text) { model.UserTypes(text.toStdString()); });
+  // However the user puts it there: a screen reader or a voice sets the whole text at once.
+  QObject::connect(widget, &QLineEdit::textChanged, widget, [&model](const QString& text) {
+    if (text != TextOf(model.Text.Get())) model.UserTypes(text.toStdString());
+  });
   QObject::connect(widget, &QLineEdit::returnPressed, widget,
                    [&model] { model.UserPressesReturn(); });
 }

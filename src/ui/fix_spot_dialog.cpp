@@ -106,11 +106,13 @@ QWidget* FixSpotDialog::MakeRows(Frames& frames, LiveTheme& theme) {
   BindProperty<int>(view_, model_.form.cboCall.Selected, frames,
                     [this](int row) { SelectRow(row); });
   changing_ = model_.list.Changed.Add([this] { item_->Changed(); });
-  connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-          [this](const QModelIndex& now) {
-            core::Choice& choice = model_.form.cboCall;
-            if (now.row() != choice.Selected.Get()) choice.UserSelects(now.row());
-          });
+  // What is chosen, not what is current: a screen reader chooses without going there.
+  connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+    const auto chosen = view_->selectionModel()->selectedRows();
+    const int row = chosen.isEmpty() ? spots::FixForm::kNone : chosen.front().row();
+    core::Choice& choice = model_.form.cboCall;
+    if (row != choice.Selected.Get()) choice.UserSelects(row);
+  });
   return view_;
 }
 

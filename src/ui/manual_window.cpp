@@ -35,18 +35,21 @@ ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent) {
   auto* contents = new QPushButton(tr("&Contents"), this);
   auto* back = new QPushButton(tr("&Back"), this);
   back->setEnabled(false);
+  auto* close = new QPushButton(tr("Close"), this);
   text_ = new Page(this);  // behind the buttons for the Tab key
   text_->setAccessibleName(tr("Manual page"));
   text_->setOpenExternalLinks(true);
   text_->document()->setDocumentMargin(kMargin);
-  for (QPushButton* button : {contents, back}) button->setAutoDefault(false);
+  for (QPushButton* button : {contents, back, close}) button->setAutoDefault(false);
   connect(contents, &QPushButton::clicked, this, [this] { Open(QStringLiteral("index")); });
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
   connect(back, &QPushButton::clicked, text_, &QTextBrowser::backward);
   connect(text_, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(contents);
   buttons->addWidget(back);
   buttons->addStretch();
+  buttons->addWidget(close);
   auto* column = new QVBoxLayout(this);
   column->addLayout(buttons);
   column->addWidget(text_, 1);

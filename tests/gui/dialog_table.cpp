@@ -26,6 +26,7 @@ std::span<const DialogRow> Dialogs() {
        .entry = "User information...",
        .page = "first-evening",
        .primary = "OK",
+       .closes = "Cancel",
        .together = {"Latitude, ", "Longitude, "}},
       {.title = "DX Spots",
        .menu = "Configuration",
@@ -56,7 +57,8 @@ std::span<const DialogRow> Dialogs() {
       {.title = "Offset from GMT",
        .open = [](program::Program& program) { program.offsetForm.Show(); },
        .page = "first-evening",
-       .primary = "OK"},
+       .primary = "OK",
+       .closes = "Cancel"},
       {.title = "Get spots from the node", .button = "Get spots…"},
       {.title = "LoTW and eQSL users", .button = "LoTW and eQSL users…"},
   };

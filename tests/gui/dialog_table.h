@@ -17,6 +17,7 @@ struct DialogRow {
   void (*open)(program::Program& program) = nullptr;
   const char* page = "";     // of the manual, by F1; with the heading behind "#"
   const char* primary = "";  // the button that Return presses
+  const char* closes = "Close";
   // Controls without an Alt key or a label of their own: what their names begin with. They stand
   // beside one that has it, and keys of another kind do what they do.
   std::vector<const char*> together = {};
