@@ -44,6 +44,10 @@ QFormLayout* MakeForm(QWidget* dialog) {
   return form;
 }
 
+void SetUsualWidth(QDialog* dialog, int width) {
+  dialog->resize(dialog->sizeHint().expandedTo(QSize(width, 0)));
+}
+
 QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& model, Frames& frames) {
   auto* field = new QLineEdit(form->parentWidget());
   field->setAccessibleName(SpokenName(label));

@@ -43,6 +43,10 @@ QLabel* AddNotice(QBoxLayout* column, const QString& name, core::Label& model, F
 QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog);
 QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog);
 
+// Has a dialog that is laid out come up that wide, or as wide as its controls need at this scale. A
+// least width of its own would be in force in place of what its controls need.
+void SetUsualWidth(QDialog* dialog, int width);
+
 // The layout of a dialog, with the spacing of all.
 QFormLayout* MakeForm(QWidget* dialog);
 

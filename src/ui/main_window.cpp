@@ -78,6 +78,7 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
   AddPages(frames);
   Lay(frames, theme);
   AddDialogs(frames, theme);
+  AddMenus(frames);
   AddKeys();
   new TouchWatch(this, frames);
   BindProperty<std::string>(this, program.title, frames, [this](const std::string& title) {
@@ -223,10 +224,18 @@ void MainWindow::Lay(Frames& frames, LiveTheme& theme) {
   OrderParts(this, {linkBar_, conditions, tabs_, pages_, raw_, commandRow_});
 }
 
+void MainWindow::AddMenus(Frames& frames) {
+  auto* menus = new Menus({.state = [this](const Command& command) { return StateOf(command); },
+                           .run = [this](const Command& command) { Do(command); }},
+                          this);
+  setMenuBar(menus);
+  session::Connection& connection = program_.session.connection;
+  for (core::Button* each : {&connection.cmdConnect, &connection.cmdDisconnect})
+    BindProperty<bool>(menus, each->Enabled, frames,
+                       [menus](bool) { menus->Refresh(Menu::Connection); });
+}
+
 void MainWindow::AddKeys() {
-  setMenuBar(new Menus({.state = [this](const Command& command) { return StateOf(command); },
-                        .run = [this](const Command& command) { Do(command); }},
-                       this));
   for (const Command& command : Commands()) {
     if (!command.HasKey()) continue;
     for (const QKeySequence& keys : QKeySequence::listFromString(QLatin1String(command.keys)))

@@ -46,6 +46,7 @@ class MainWindow : public QMainWindow {
   void AddHelp(QDialog* dialog, const char* page);
   void Do(const spots::Click& click);
   void Lay(Frames& frames, LiveTheme& theme);
+  void AddMenus(Frames& frames);
   void AddKeys();
   void Do(const Command& command);
   Menus::State StateOf(const Command& command) const;

@@ -21,7 +21,6 @@ constexpr int kNumberWidth = 72;
 SpotsDialog::SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(QLatin1String(spots::SpotsForm::kTitle));
-  setMinimumWidth(kWidth);
   QFormLayout* form = MakeForm(this);
   form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   AddCheck(form, model.chkSave, "S", frames);
@@ -33,6 +32,7 @@ SpotsDialog::SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* paren
   AddMemory(form, model, frames);
   AddCheck(form, model.chkShowNrs, "N", frames);
   AddCloseButton(form, this);
+  SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, frames);
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 using platform::qt::TextOf;
 
-constexpr QSize kUsualTncSize(680, 400);
+constexpr QSize kUsualTncSize(760, 420);
 constexpr int kSecondsWidth = 56;
 constexpr int kClusterWidth = 140;
 constexpr int kProgressWidth = 72;
@@ -66,7 +66,6 @@ void TncDialog::AddHead(QGridLayout* grid, int column, core::Label& model, Frame
   BindLabel(head, model, frames);
   auto* more = new QLabel(TextOf(model.ToolTip.Get()), this);
   more->setProperty("dim", true);
-  more->setWordWrap(true);
   grid->addWidget(more, 1, column, 1, column == kTime ? 2 : 1, Qt::AlignTop);
 }
 

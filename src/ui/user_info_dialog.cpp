@@ -18,7 +18,6 @@ constexpr int kDegreesWidth = 56;
 UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(tr("User information"));
-  setMinimumWidth(kWidth);
   QFormLayout* form = MakeForm(this);
   AddField(form, tr("&Call"), model.txtCall, frames)->setFocus();
   AddField(form, tr("&Name"), model.txtName, frames);
@@ -31,6 +30,7 @@ UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget
   AddZone(form, model, frames);
   AddProblem(form, model.lblProblem, frames);
   AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
+  SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, model.cmdCancel, frames);
 }
 

@@ -106,6 +106,15 @@ TEST_F(SpokenTest, TheNodeIsConnectedToAndLeft) {
   EXPECT_EQ(program->session.WinsockOut->State(), platform::SocketState::Closed);
 }
 
+TEST_F(SpokenTest, SoItIsByTheMenuAlthoughNobodyOpensIt) {
+  Choose("Connect");
+  Run(2s);
+  EXPECT_EQ(node.calls, 1);
+  Choose("Disconnect");
+  Run(3s);
+  EXPECT_EQ(program->session.WinsockOut->State(), platform::SocketState::Closed);
+}
+
 TEST_F(SpokenTest, AViewIsChosenByItsTab) {
   Press(Window(), "Login Msg");
   EXPECT_EQ(program->views.onShow.Get(), program::Views::LoginMsg);
