@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "gui/opened_row.h"
+#include "ui/spot_view.h"
 
 // Room for every word: on a small screen, in every dialog, at each scale that the test is run with.
 namespace gui {
@@ -79,6 +80,30 @@ TEST_F(SizesTest, TheWindowWorksOnASmallScreen) {
     EXPECT_EQ(window->size(), QSize(kSmallScreen.width(), kSmallScreen.height() - kTitle));
     EXPECT_EQ(CutOff(*window).join("; ").toStdString(), "");
   }
+}
+
+// When the window has gone to a screen with smaller pixels, nothing of the other's is in it.
+TEST_F(SizesTest, TheTableIsDrawnInThePixelsOfItsScreen) {
+  Open();
+  LogIn();
+  program->session.state.Recognise(session::NodeKind::Spider);
+  for (const char* call : {"3Y0J", "P5DX"})
+    node.Say(std::string("DX de W1TST:     14025.0  ") + call +
+             "         CW up 2                        2116Z");
+  Run(1s);
+  QWidget& table = *Named<ui::SpotView>(*window, "Spots")->viewport();
+  const auto drawn = [&table](int pixels) {
+    QImage image(table.size() * pixels, QImage::Format_RGB32);
+    image.setDevicePixelRatio(pixels);
+    table.render(&image);
+    return image;
+  };
+  const QImage plain = drawn(1);
+  QImage enlarged = plain.scaled(plain.size() * 2);
+  enlarged.setDevicePixelRatio(2);
+  const QImage dense = drawn(2);
+  EXPECT_NE(dense, enlarged);
+  EXPECT_EQ(dense.pixelColor(1, 1), plain.pixelColor(0, 0));
 }
 
 }  // namespace
