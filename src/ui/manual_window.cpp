@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QHBoxLayout>
+#include <QImageReader>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -12,18 +13,78 @@ namespace {
 
 constexpr QSize kUsualSize(760, 640);
 constexpr int kMargin = 8;
+constexpr int kStepOfAList = 40;  // what stands in a list begins further right
 
-// A picture of a window is wider than a page that is read: it is drawn as wide as the page.
+// A picture of a window is wider than a page that is read: it is drawn as wide as the page. A page
+// has many, which take longer to read than all of its text: each is read once the text around it is
+// on the screen, and until then its room is kept.
 class Page : public QTextBrowser {
  public:
   using QTextBrowser::QTextBrowser;
 
   QVariant loadResource(int type, const QUrl& name) override {
-    const QVariant content = QTextBrowser::loadResource(type, name);
-    if (type != QTextDocument::ImageResource) return content;
-    const QImage picture = QImage::fromData(content.toByteArray());
-    const int room = viewport()->width() - 4 * kMargin;
-    return picture.width() > room ? picture.scaledToWidth(room, Qt::SmoothTransformation) : picture;
+    if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
+    QImage room(SizeOf(FileOf(name)), kUnread);
+    room.setColor(0, qRgba(0, 0, 0, 0));
+    room.fill(0);
+    return room;
+  }
+
+ protected:
+  // Laid out once, when it is whole: each row of a table would lay it out anew.
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override {
+    document()->setLayoutEnabled(false);
+    QTextBrowser::doSetSource(name, type);
+    document()->setLayoutEnabled(true);
+  }
+
+  void paintEvent(QPaintEvent* event) override {
+    QTextBrowser::paintEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { ReadPictures(); }, Qt::QueuedConnection);
+  }
+
+ private:
+  static constexpr QImage::Format kUnread = QImage::Format_Mono;  // no picture of a window is
+
+  // The pages and their pictures are in the program.
+  QString FileOf(const QUrl& name) const {
+    return QLatin1Char(':') + source().resolved(name).path();
+  }
+
+  QSize SizeOf(const QString& file) const {
+    const QSize whole = QImageReader(file).size();
+    const int room = viewport()->width() - 4 * kMargin - kStepOfAList;
+    return whole.width() > room ? whole.scaled(room, whole.height(), Qt::KeepAspectRatio) : whole;
+  }
+
+  // Those in view.
+  void ReadPictures() {
+    const QTextBlock end = cursorForPosition(viewport()->rect().bottomRight()).block().next();
+    for (QTextBlock block = cursorForPosition({0, 0}).block(); block.isValid() && block != end;
+         block = block.next())
+      ReadPicturesOf(block);
+  }
+
+  void ReadPicturesOf(const QTextBlock& block) {
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+      const QTextCharFormat format = part.fragment().charFormat();
+      if (!format.isImageFormat()) continue;
+      const QUrl name = format.toImageFormat().name();
+      const auto here = document()->resource(QTextDocument::ImageResource, name).value<QImage>();
+      if (here.format() != kUnread) continue;
+      document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name),
+                              Drawn(FileOf(name), here.size()));
+      viewport()->update();
+    }
+  }
+
+  QImage Drawn(const QString& file, const QSize& size) const {
+    const qreal ratio = devicePixelRatioF();
+    QImage picture =
+        QImage(file).scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(ratio);
+    return picture;
   }
 };
 

@@ -1,12 +1,33 @@
+#include <QApplication>
 #include <QDirIterator>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
 
 #include "gui/desk.h"
 
 namespace gui {
 namespace {
+
+// Goes down the page, and gives its pictures as they are drawn there.
+std::vector<QImage> PicturesOf(QTextBrowser& page) {
+  std::vector<QImage> pictures;
+  const QTextDocument& text = *page.document();
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+      const QTextCharFormat format = part.fragment().charFormat();
+      if (!format.isImageFormat()) continue;
+      page.setTextCursor(QTextCursor(block));
+      page.ensureCursorVisible();
+      page.grab();
+      QApplication::processEvents();  // they come behind the text
+      pictures.push_back(text.resource(QTextDocument::ImageResource, format.toImageFormat().name())
+                             .value<QImage>());
+    }
+  return pictures;
+}
 
 class ManualTest : public Desk {
  protected:
@@ -54,6 +75,23 @@ TEST_F(ManualTest, EveryLinkAndEveryPictureOfItIsThere) {
     }
   }
   EXPECT_GT(links, 10);
+}
+
+TEST_F(ManualTest, EveryPictureIsDrawnAndNoPageIsWiderThanItsWindow) {
+  Open();
+  window->OpenManual("index");
+  int pictures = 0;
+  for (QDirIterator pages(":/docs/manual"); pages.hasNext();) {
+    const std::string page = QFileInfo(pages.next()).completeBaseName().toStdString();
+    window->OpenManual(page);
+    Run(1ms);
+    for (const QImage& picture : PicturesOf(Page())) {
+      EXPECT_GT(picture.depth(), 1) << page << " shows what stands there before it is drawn";
+      ++pictures;
+    }
+    EXPECT_EQ(Page().horizontalScrollBar()->maximum(), 0) << page;
+  }
+  EXPECT_GT(pictures, 5);
 }
 
 }  // namespace
