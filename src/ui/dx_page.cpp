@@ -72,7 +72,7 @@ FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frame
   BindLabel(rows, models.numbers.txtrtb2, frames);
   strip->Controls()->addWidget(rows);
   AddFind(strip);
-  auto* get = MakeButton(tr("Get spots"), tr("Get spots…"), strip);
+  auto* get = new DropButton(tr("Get spots"), tr("Get spots…"), strip);
   new GetSpotsPanel(models.requests, acts.clearSpots, frames, get);
   strip->Controls()->addWidget(get);
   const auto add = [&](const QString& caption, const QString& name, std::function<void()> act) {
@@ -117,7 +117,7 @@ void DxPage::AddSources(FoldRow* strip, spots::SpotTable& table, Frames& frames)
 }
 
 void DxPage::AddMembership(FoldRow* strip, spots::Membership& model, Frames& frames) {
-  auto* lists = MakeButton(tr("LoTW/eQSL"), tr("LoTW and eQSL users…"), strip);
+  auto* lists = new DropButton(tr("LoTW/eQSL"), tr("LoTW and eQSL users…"), strip);
   new MemberPanel(model, frames, lists);
   strip->Controls()->addWidget(lists);
   auto* query = new QLineEdit(strip);

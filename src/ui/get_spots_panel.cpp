@@ -22,7 +22,7 @@ QString CallHint(bool usable) {
 }  // namespace
 
 GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear,
-                             Frames& frames, QPushButton* button)
+                             Frames& frames, DropButton* button)
     : DropPanel(button, tr("Get spots from the node")),
       requests_(requests),
       band_(new QComboBox(this)),

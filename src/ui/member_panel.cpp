@@ -9,7 +9,7 @@
 
 namespace ui {
 
-MemberPanel::MemberPanel(spots::Membership& model, Frames& frames, QPushButton* button)
+MemberPanel::MemberPanel(spots::Membership& model, Frames& frames, DropButton* button)
     : DropPanel(button, tr("LoTW and eQSL users")) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 16, 16, 16);

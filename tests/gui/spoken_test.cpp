@@ -154,6 +154,21 @@ TEST_F(SpokenTest, ACallIsRejectedAndShownAgain) {
   EXPECT_EQ(list->childCount(), 0);
 }
 
+TEST_F(SpokenTest, WhatAButtonDropsIsAPartOfItWhileItIsThere) {
+  LogIn();
+  program->session.state.Recognise(session::NodeKind::Spider);
+  QAccessibleInterface* button = Spoken(Window(), "Get spots…");
+  EXPECT_EQ(button->childCount(), 0);
+  Do(button, QAccessibleActionInterface::pressAction());
+  ASSERT_EQ(button->childCount(), 1);
+  EXPECT_EQ(button->child(0)->text(QAccessible::Name), "Get spots from the node");
+  EXPECT_EQ(button->indexOfChild(button->child(0)), 0);
+  Enter(Window(), "Call to get spots of", "k1abc");
+  Press(Window(), "Get the spots of this band or call");
+  EXPECT_THAT(node.Heard().back(), testing::HasSubstr("k1abc"));
+  EXPECT_EQ(button->childCount(), 0);
+}
+
 TEST_F(SpokenTest, ColumnsAreChosen) {
   QAccessibleInterface* dialog = Opened("Columns...", "DX Spots");
   Turn(dialog, "Expanded display");
