@@ -175,13 +175,13 @@ void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames) {
   // Not with the next frame: the user's next key goes into what the rules have left.
   auto* watch = new Watch(widget);
   watch->observing = model.Text.Observe([widget](const std::string& text) {
+    const QSignalBlocker silent(widget);
     const QString now = TextOf(text);
     if (widget->text() != now) widget->setText(now);
   });
   // However the user puts it there: a screen reader or a voice sets the whole text at once.
-  QObject::connect(widget, &QLineEdit::textChanged, widget, [&model](const QString& text) {
-    if (text != TextOf(model.Text.Get())) model.UserTypes(text.toStdString());
-  });
+  QObject::connect(widget, &QLineEdit::textChanged, widget,
+                   [&model](const QString& text) { model.UserTypes(text.toStdString()); });
   QObject::connect(widget, &QLineEdit::returnPressed, widget,
                    [&model] { model.UserPressesReturn(); });
 }
