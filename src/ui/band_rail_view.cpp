@@ -137,8 +137,11 @@ BandRailView::BandRailView(spots::BandRail& model, const core::Settings& setting
     addItem(new Band(model, band));
   Watch(frames);
   BindProperty<Theme>(this, theme, frames, [this](const Theme&) { viewport()->update(); });
-  connect(this, &QListWidget::currentRowChanged, this, [this](int band) {
-    if (band >= 0 && band != model_.SelectedBand()) model_.optBand.UserSelects(band);
+  // What is chosen, not what is current: a screen reader chooses without going there.
+  connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    if (!rows.isEmpty() && rows.front().row() != model_.SelectedBand())
+      model_.optBand.UserSelects(rows.front().row());
   });
 }
 

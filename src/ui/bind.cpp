@@ -53,22 +53,20 @@ void BindTint(QLabel* widget, core::Control& model, Frames& frames) {
                              [widget](core::Colour colour) { Tint(widget, colour); });
 }
 
-// The text with the mark of its mnemonic, which must not be an "&".
-QString Marked(QString text, const QString& letter) {
-  const auto at = letter.isEmpty() ? -1 : text.indexOf(letter, 0, Qt::CaseInsensitive);
-  return at < 0 ? text : text.insert(at, QLatin1Char('&'));
+// Shows text of the rules as it stands: an "&" in it is no mnemonic.
+QString Caption(const QWidget& widget, const QString& line) {
+  return Marked(Literally(line), widget.property("mnemonic").toString());
 }
 
-// Shows text of the rules as it stands: an "&" in it is no mnemonic. Without a name of its own the
-// widget goes by that text.
+// Without a name of its own the widget goes by its text.
 void BindCaption(QAbstractButton* widget, core::Control& model, Frames& frames) {
   const bool named = !widget->accessibleName().isEmpty();
-  BindProperty<std::string>(
-      widget, model.Caption, frames, [widget, named](const std::string& text) {
-        const QString line = OneLine(text, kLongestLabel);
-        widget->setText(Marked(Literally(line), widget->property("mnemonic").toString()));
-        if (!named) widget->setAccessibleName(line);
-      });
+  BindProperty<std::string>(widget, model.Caption, frames,
+                            [widget, named](const std::string& text) {
+                              const QString line = OneLine(text, kLongestLabel);
+                              widget->setText(Caption(*widget, line));
+                              if (!named) widget->setAccessibleName(line.trimmed());
+                            });
 }
 
 void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
@@ -95,6 +93,14 @@ void Follow(QListWidget& widget, const core::ListBox& model, const core::ListBox
   widget.setCurrentRow(model.Selected.Get());
 }
 
+// What opens is looked at: its contents are not left for later.
+void BindOpen(QDialog* widget, core::Property<bool>& open, Frames& frames) {
+  BindProperty<bool>(widget, open, frames, [widget, &frames](bool on) {
+    if (on) frames.Touched();
+    widget->setVisible(on);
+  });
+}
+
 }  // namespace
 
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
@@ -104,7 +110,7 @@ void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
   const QString name = widget->accessibleName();
   BindProperty<std::string>(widget, model.Caption, frames, [widget, name](const std::string& text) {
     const QString line = OneLine(text, kLongestLabel);
-    widget->setText(widget->buddy() != nullptr ? Literally(line) : line);
+    widget->setText(widget->buddy() != nullptr ? Caption(*widget, line) : line);
     const bool says = !name.isEmpty() && !line.isEmpty();
     widget->setAccessibleName(says ? name + ": " + line : name);
   });
@@ -124,7 +130,10 @@ void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames) {
 void BindTick(QCheckBox* widget, core::Check& model, Frames& frames) {
   BindCommon(widget, model, frames);
   BindProperty<bool>(widget, model.Value, frames, [widget](bool on) { widget->setChecked(on); });
-  QObject::connect(widget, &QCheckBox::clicked, widget, [&model](bool on) { model.UserSets(on); });
+  // However the user turns it: a screen reader does it without a click.
+  QObject::connect(widget, &QCheckBox::toggled, widget, [&model](bool on) {
+    if (on != model.Value.Get()) model.UserSets(on);
+  });
 }
 
 void BindChoice(QComboBox* widget, core::Choice& model, Frames& frames) {
@@ -146,8 +155,9 @@ void BindOptions(QButtonGroup* widgets, core::Choice& model, Frames& frames) {
   BindProperty<int>(widgets, model.Selected, frames, [widgets](int selected) {
     if (QAbstractButton* button = widgets->button(selected)) button->setChecked(true);
   });
-  QObject::connect(widgets, &QButtonGroup::idClicked, widgets,
-                   [&model](int option) { model.UserSelects(option); });
+  QObject::connect(widgets, &QButtonGroup::idToggled, widgets, [&model](int option, bool on) {
+    if (on && option != model.Selected.Get()) model.UserSelects(option);
+  });
 }
 
 void BindList(QListWidget* widget, core::ListBox& model, Frames& frames) {
@@ -158,20 +168,22 @@ void BindList(QListWidget* widget, core::ListBox& model, Frames& frames) {
       [widget, &model](const core::ListBox::Change& change) { Follow(*widget, model, change); });
   auto* selection = new Watch(widget);
   selection->observing = model.Selected.Observe([widget](int place) { Select(*widget, place); });
-  QObject::connect(widget, &QListWidget::currentRowChanged, widget, [&model](int place) {
+  QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [widget, &model] {
+    const QModelIndexList rows = widget->selectionModel()->selectedRows();
+    const int place = rows.isEmpty() ? core::ListBox::kNone : rows.front().row();
     if (place != model.Selected.Get()) model.UserSelects(place);
   });
 }
 
 void BindDialog(QDialog* widget, core::Property<bool>& open, core::Button& cancel, Frames& frames) {
-  BindProperty<bool>(widget, open, frames, [widget](bool on) { widget->setVisible(on); });
+  BindOpen(widget, open, frames);
   QObject::connect(widget, &QDialog::rejected, widget, [&open, &cancel] {
     if (open.Get()) cancel.Press();
   });
 }
 
 void BindDialog(QDialog* widget, core::Property<bool>& open, Frames& frames) {
-  BindProperty<bool>(widget, open, frames, [widget](bool on) { widget->setVisible(on); });
+  BindOpen(widget, open, frames);
   QObject::connect(widget, &QDialog::rejected, widget, [&open] { open.Set(false); });
 }
 
@@ -180,10 +192,12 @@ void BindTextBox(QLineEdit* widget, core::TextBox& model, Frames& frames) {
   // Not with the next frame: the user's next key goes into what the rules have left.
   auto* watch = new Watch(widget);
   watch->observing = model.Text.Observe([widget](const std::string& text) {
+    const QSignalBlocker silent(widget);
     const QString now = TextOf(text);
     if (widget->text() != now) widget->setText(now);
   });
-  QObject::connect(widget, &QLineEdit::textEdited, widget,
+  // However the user puts it there: a screen reader or a voice sets the whole text at once.
+  QObject::connect(widget, &QLineEdit::textChanged, widget,
                    [&model](const QString& text) { model.UserTypes(text.toStdString()); });
   QObject::connect(widget, &QLineEdit::returnPressed, widget,
                    [&model] { model.UserPressesReturn(); });

@@ -21,8 +21,9 @@ namespace ui {
 // A label that has an accessible name says its text behind it: "Node: N0DE-1". What the rules have
 // in red, green or blue is in the theme's bad, good or accent; a colour that the user chose is as
 // he chose it.
+// The letter in the property "mnemonic" of a label with a buddy, of a button and of a box is its
+// key, where its caption has that letter.
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames);
-// The letter in a button's property "mnemonic" is its key, where its caption has that letter.
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames);
 void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames);
 // The same for a box whose words are its own, where the model's caption says something else.

@@ -60,8 +60,9 @@ QFormLayout* CommDialog::AddGroup(QVBoxLayout* column, const QString& heading) {
 void CommDialog::AddChoice(QFormLayout* group, const QString& label, const QString& name,
                            core::Choice& model, Frames& frames) {
   auto* box = new QComboBox(this);
-  box->setAccessibleName(name);
-  group->addRow(label, box);
+  auto* words = new QLabel(label, this);
+  NameByLabel(box, words, name);
+  group->addRow(words, box);
   BindChoice(box, model, frames);
 }
 
@@ -101,9 +102,9 @@ void CommDialog::FillNode(QFormLayout* group, session::CommForm& model, Frames& 
   AddChoice(group, tr("&Watch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
             model.optKA, frames);
   auto* minutes = new QComboBox(this);
-  minutes->setAccessibleName(tr("Keep-alive minutes, 0 is off"));
   auto* words = new QLabel(this);
-  words->setBuddy(minutes);
+  words->setProperty("mnemonic", QStringLiteral("K"));
+  NameByLabel(minutes, words, tr("Keep-alive minutes, 0 is off"));
   group->addRow(words, minutes);
   BindLabel(words, model.lblKA, frames);
   BindChoice(minutes, model.cboKA, frames);
@@ -113,10 +114,11 @@ void CommDialog::AddPort(QFormLayout* group, const std::array<QString, 3>& label
                          const QString& whose, session::PortChoice& model, Frames& frames) {
   AddChoice(group, labels[0], tr("Port of the %1").arg(whose), model.optCommPort, frames);
   auto* device = new QComboBox(this);
-  device->setAccessibleName(tr("Device of the %1").arg(whose));
+  auto* words = new QLabel(labels[1], this);
+  NameByLabel(device, words, tr("Device of the %1").arg(whose));
   device->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   device->setMinimumContentsLength(kDeviceLetters);
-  group->addRow(labels[1], device);
+  group->addRow(words, device);
   BindChoice(device, model.cboDevice, frames);
   AddChoice(group, labels[2], tr("Baud of the %1").arg(whose), model.cboBaud, frames);
 }

@@ -12,6 +12,7 @@
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
 #include "ui/form.h"
+#include "ui/one_line.h"
 
 namespace ui {
 namespace {
@@ -27,6 +28,12 @@ constexpr std::array kSpotter = {Choice::kOrigCty,  Choice::kOrigState, Choice::
                                  Choice::kOrigItu,  Choice::kOrigGrid,  Choice::kNode,
                                  Choice::kSpotterIp};
 constexpr std::array kRow = {Choice::kComments, Choice::kWide, Choice::kDate, Choice::kDontUse};
+
+constexpr std::array kFormatKeys = {"l", "x"};
+// By Choice::Check, the letter of its key.
+constexpr std::array<const char*, Choice::kChecks> kKeys = {"N", "m", "B", "c", "y", "k", "t",
+                                                            "O", "v", "D", "Q", "I", "7", "S",
+                                                            "u", "Z", "e", "G", "r", "W"};
 
 // Where the caption alone says too little to the ear.
 QString NameOf(Choice::Check check) {
@@ -84,11 +91,12 @@ QWidget* DisplayDialog::MakeFormat(Frames& frames) {
   auto* row = new QHBoxLayout;
   row->setSpacing(16);
   auto* group = new QButtonGroup(format);
-  int option = 0;
+  std::size_t option = 0;
   for (const std::string& caption : model_.optFormat.Options.Get()) {
-    auto* button = new QRadioButton(platform::qt::TextOf(caption), format);
-    button->setAccessibleName(tr("%1 display").arg(button->text()));
-    group->addButton(button, option++);
+    const QString words = platform::qt::TextOf(caption);
+    auto* button = new QRadioButton(Marked(words, QLatin1String(kFormatKeys[option])), format);
+    button->setAccessibleName(tr("%1 display").arg(words));
+    group->addButton(button, static_cast<int>(option++));
     row->addWidget(button);
   }
   row->addStretch();
@@ -107,6 +115,7 @@ QVBoxLayout* DisplayDialog::MakeGroup(const QString& heading, std::span<const Ch
   for (const Check each : checks) {
     auto* box = new QCheckBox(this);
     box->setAccessibleName(NameOf(each));
+    box->setProperty("mnemonic", QLatin1String(kKeys[each]));
     BindCheck(box, model_.chkAr17[each], frames);
     group->addWidget(box);
   }
@@ -117,7 +126,7 @@ void DisplayDialog::AddWidth(QVBoxLayout* group, Frames& frames) {
   auto* field = new QLineEdit(this);
   field->setFixedWidth(kWidthOfField);
   field->setAccessibleName(tr("Width of a classic row, 45 to 130 characters"));
-  auto* label = new QLabel(tr("&Width"), this);
+  auto* label = new QLabel(tr("Widt&h"), this);
   label->setBuddy(field);
   auto* row = new QHBoxLayout;
   row->setSpacing(8);
@@ -134,17 +143,13 @@ QWidget* DisplayDialog::MakeFoot(Frames& frames) {
   auto* row = new QHBoxLayout(foot);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(8);
-  auto* apply = new QPushButton(foot);
-  apply->setProperty("primary", true);
-  apply->setDefault(true);
-  apply->setAccessibleName(tr("Apply the display"));
-  BindButton(apply, model_.cmdApply, frames);
+  row->addStretch();
+  MakePrimary(
+      AddButton(row, tr("Apply the display"), QStringLiteral("A"), model_.cmdApply, frames));
   auto* close = new QPushButton(tr("Close"), foot);
   close->setAutoDefault(false);
   close->setAccessibleName(close->text());
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
-  row->addStretch();
-  row->addWidget(apply);
   row->addWidget(close);
   return foot;
 }

@@ -1,6 +1,7 @@
 #include "ui/dx_page.h"
 
 #include <QCheckBox>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -10,6 +11,7 @@
 #include "ui/bind.h"
 #include "ui/get_spots_panel.h"
 #include "ui/member_panel.h"
+#include "ui/tab_order.h"
 
 namespace ui {
 namespace {
@@ -42,15 +44,19 @@ DxPage::DxPage(Models models, Acts acts, Frames& frames, LiveTheme& theme, QWidg
   auto* rail = new BandRailView(models.table.rail, models.settings, frames, theme, this);
   auto* column = new QVBoxLayout;
   column->setSpacing(0);
-  column->addWidget(MakeStrip(models, acts, frames));
+  FoldRow* strip = MakeStrip(models, acts, frames);
+  column->addWidget(strip);
   column->addWidget(spots_, 1);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
   row->addWidget(rail);
   row->addLayout(column, 1);
-  setFocusProxy(spots_);
+  OrderParts(window(), {rail, strip, spots_});
 }
+
+// No focus proxy: the Tab key would go past the bands and the strip to it.
+void DxPage::focusInEvent(QFocusEvent* event) { spots_->setFocus(event->reason()); }
 
 FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frames) {
   auto* strip = new FoldRow(this);
@@ -66,7 +72,7 @@ FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frame
   BindLabel(rows, models.numbers.txtrtb2, frames);
   strip->Controls()->addWidget(rows);
   AddFind(strip);
-  auto* get = MakeButton(tr("Get spots"), tr("Get spots…"), strip);
+  auto* get = new DropButton(tr("Get spots"), tr("Get spots…"), strip);
   new GetSpotsPanel(models.requests, acts.clearSpots, frames, get);
   strip->Controls()->addWidget(get);
   const auto add = [&](const QString& caption, const QString& name, std::function<void()> act) {
@@ -111,7 +117,7 @@ void DxPage::AddSources(FoldRow* strip, spots::SpotTable& table, Frames& frames)
 }
 
 void DxPage::AddMembership(FoldRow* strip, spots::Membership& model, Frames& frames) {
-  auto* lists = MakeButton(tr("LoTW/eQSL"), tr("LoTW and eQSL users…"), strip);
+  auto* lists = new DropButton(tr("LoTW/eQSL"), tr("LoTW and eQSL users…"), strip);
   new MemberPanel(model, frames, lists);
   strip->Controls()->addWidget(lists);
   auto* query = new QLineEdit(strip);

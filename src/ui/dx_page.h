@@ -15,8 +15,8 @@
 
 namespace ui {
 
-// The page of the spots: the bands, and the table of the one that is chosen. The focus of the page
-// is that of the table.
+// The page of the spots: the bands, and the table of the one that is chosen. The page hands its
+// focus to the table.
 class DxPage : public QWidget {
  public:
   struct Models {
@@ -45,6 +45,9 @@ class DxPage : public QWidget {
 
   // Puts the user where he can type what he looks for.
   void OpenFind();
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   FoldRow* MakeStrip(const Models& models, const Acts& acts, Frames& frames);

@@ -7,7 +7,7 @@ namespace ui {
 
 FindField::FindField(Searchable& searched, std::function<void(bool found)> told, QWidget* parent)
     : QLineEdit(parent), searched_(searched), told_(std::move(told)) {
-  connect(this, &QLineEdit::textEdited, this, [this] { Find(Searchable::Way::Here); });
+  connect(this, &QLineEdit::textChanged, this, [this] { Find(Searchable::Way::Here); });
 }
 
 void FindField::Find(Searchable::Way way) {

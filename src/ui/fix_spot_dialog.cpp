@@ -15,6 +15,7 @@
 #include "ui/bind.h"
 #include "ui/fonts.h"
 #include "ui/form.h"
+#include "ui/one_line.h"
 
 namespace ui {
 namespace {
@@ -24,9 +25,13 @@ using platform::qt::TextOf;
 constexpr QSize kUsualSize(680, 620);  // so that the last head has room
 constexpr int kCallWidth = 150;
 constexpr int kFieldWidth = 68;
+constexpr std::array kFieldKeys = {"l", "y", "S", "Q", "U", "G"};  // from the call on
 
-QPushButton* MakeButton(const QString& name, core::Button& model, Frames& frames, QWidget* parent) {
+// `key` is a letter of its caption.
+QPushButton* MakeButton(const QString& name, const char* key, core::Button& model, Frames& frames,
+                        QWidget* parent) {
   auto* button = new QPushButton(parent);
+  button->setProperty("mnemonic", QLatin1String(key));
   button->setAutoDefault(false);
   button->setAccessibleName(name);
   BindButton(button, model, frames);
@@ -101,11 +106,13 @@ QWidget* FixSpotDialog::MakeRows(Frames& frames, LiveTheme& theme) {
   BindProperty<int>(view_, model_.form.cboCall.Selected, frames,
                     [this](int row) { SelectRow(row); });
   changing_ = model_.list.Changed.Add([this] { item_->Changed(); });
-  connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-          [this](const QModelIndex& now) {
-            core::Choice& choice = model_.form.cboCall;
-            if (now.row() != choice.Selected.Get()) choice.UserSelects(now.row());
-          });
+  // What is chosen, not what is current: a screen reader chooses without going there.
+  connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+    const auto chosen = view_->selectionModel()->selectedRows();
+    const int row = chosen.isEmpty() ? spots::FixForm::kNone : chosen.front().row();
+    core::Choice& choice = model_.form.cboCall;
+    if (row != choice.Selected.Get()) choice.UserSelects(row);
+  });
   return view_;
 }
 
@@ -124,9 +131,9 @@ QLayout* FixSpotDialog::MakeEntry(Frames& frames) {
   row->addWidget(new QLabel(tr("Has applied:"), this));
   for (core::Check& each : model_.form.chkFix) row->addWidget(MakeTick(each, frames, this));
   row->addStretch();
-  row->addWidget(MakeButton(tr("Delete the correction"), model_.form.cmdDel, frames, this));
-  row->addWidget(
-      MakeButton(tr("Delete the correction and edit it"), model_.form.cmdDelAdd, frames, this));
+  row->addWidget(MakeButton(tr("Delete the correction"), "D", model_.form.cmdDel, frames, this));
+  row->addWidget(MakeButton(tr("Delete the correction and edit it"), "t", model_.form.cmdDelAdd,
+                            frames, this));
   return row;
 }
 
@@ -149,14 +156,16 @@ QLayout* FixSpotDialog::MakeAdding(Frames& frames) {
     field->setAccessibleName(tr("%1 of the correction").arg(caption));
     BindTextBox(field, *box, frames);
     connect(field, &QLineEdit::returnPressed, this, [&form] { form.cmdAdd.Press(); });
-    auto* label = new QLabel(caption, this);
+    const QLatin1String key(kFieldKeys[static_cast<std::size_t>(column)]);
+    auto* label = new QLabel(Marked(caption, key), this);
+    label->setBuddy(field);
     label->setProperty("dim", true);
     grid->addWidget(label, 1, column);
     grid->addWidget(field, 2, column);
     grid->setColumnStretch(column, column == 0 ? 2 : 1);
     ++column;
   }
-  grid->addWidget(MakeButton(tr("Add the correction"), form.cmdAdd, frames, this), 2, column);
+  grid->addWidget(MakeButton(tr("Add the correction"), "A", form.cmdAdd, frames, this), 2, column);
   return grid;
 }
 
@@ -165,16 +174,17 @@ QLayout* FixSpotDialog::MakeLists(Frames& frames) {
   auto* group = new QButtonGroup(this);
   int option = 0;
   for (const std::string& caption : model_.form.optFixSpot.Options.Get()) {
-    auto* button = new QRadioButton(TextOf(caption), this);
-    button->setAccessibleName(tr("Import: %1").arg(button->text()));
+    const QString words = TextOf(caption);
+    auto* button = new QRadioButton(Marked(words, words.left(1)), this);
+    button->setAccessibleName(tr("Import: %1").arg(words));
     group->addButton(button, option++);
     row->addWidget(button);
   }
   BindOptions(group, model_.form.optFixSpot, frames);
   row->addWidget(
-      MakeButton(tr("Web Update of the corrections"), model_.form.cmdWebUpdate, frames, this));
+      MakeButton(tr("Web Update of the corrections"), "W", model_.form.cmdWebUpdate, frames, this));
   row->addWidget(
-      MakeButton(tr("Help on the list from the web"), model_.form.cmdHelp, frames, this));
+      MakeButton(tr("Help on the list from the web"), "H", model_.form.cmdHelp, frames, this));
   row->addStretch();
   const auto add = [&](const QString& caption, const QString& name, void (FixSpotDialog::*act)()) {
     auto* button = new QPushButton(caption, this);
@@ -183,8 +193,8 @@ QLayout* FixSpotDialog::MakeLists(Frames& frames) {
     connect(button, &QPushButton::clicked, this, act);
     row->addWidget(button);
   };
-  add(tr("Import…"), tr("Import corrections from a file"), &FixSpotDialog::ChooseImport);
-  add(tr("Export…"), tr("Export corrections to a file"), &FixSpotDialog::ChooseExport);
+  add(tr("&Import…"), tr("Import corrections from a file"), &FixSpotDialog::ChooseImport);
+  add(tr("&Export…"), tr("Export corrections to a file"), &FixSpotDialog::ChooseExport);
   return row;
 }
 

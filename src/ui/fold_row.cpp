@@ -29,6 +29,7 @@ FoldRow::FoldRow(QWidget* parent)
 void FoldRow::AddFolding(QPushButton* button) {
   folding_.push_back(button);
   row_->insertWidget(row_->count() - 1, button);
+  setTabOrder(button, more_);
 }
 
 QSize FoldRow::minimumSizeHint() const {

@@ -44,12 +44,22 @@ QFormLayout* MakeForm(QWidget* dialog) {
   return form;
 }
 
+void SetUsualWidth(QDialog* dialog, int width) {
+  dialog->resize(dialog->sizeHint().expandedTo(QSize(width, 0)));
+}
+
 QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& model, Frames& frames) {
   auto* field = new QLineEdit(form->parentWidget());
   field->setAccessibleName(SpokenName(label));
   form->addRow(label, field);
   BindTextBox(field, model, frames);
   return field;
+}
+
+void NameByLabel(QComboBox* box, QLabel* label, const QString& name) {
+  box->setAccessibleName(name);
+  label->setAccessibleName(name);
+  label->setBuddy(box);
 }
 
 void AddProblem(QFormLayout* form, core::Label& model, Frames& frames) {

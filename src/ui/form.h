@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QComboBox>
 #include <QDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -16,6 +17,10 @@ namespace ui {
 
 // Adds a labelled field; the label's mnemonic leads to it, and its words are its spoken name.
 QLineEdit* AddField(QFormLayout* form, const QString& label, core::TextBox& model, Frames& frames);
+
+// Ties the label to the box, and has both speak as `name`: for a screen reader the name of a combo
+// box is what is chosen in it, and its label tells what that is.
+void NameByLabel(QComboBox* box, QLabel* label, const QString& name);
 
 // Adds the line that says what is to be put right; spoken when it changes.
 void AddProblem(QFormLayout* form, core::Label& model, Frames& frames);
@@ -37,6 +42,10 @@ QLabel* AddNotice(QBoxLayout* column, const QString& name, core::Label& model, F
 // right. Return does not press it.
 QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog);
 QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog);
+
+// Has a dialog that is laid out come up that wide, or as wide as its controls need at this scale. A
+// least width of its own would be in force in place of what its controls need.
+void SetUsualWidth(QDialog* dialog, int width);
 
 // The layout of a dialog, with the spacing of all.
 QFormLayout* MakeForm(QWidget* dialog);

@@ -7,6 +7,7 @@
 #include "program/dx_tab.h"
 #include "spots/bands.h"
 #include "ui/bind.h"
+#include "ui/form.h"
 
 namespace ui {
 namespace {
@@ -21,34 +22,39 @@ QString CallHint(bool usable) {
 }  // namespace
 
 GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear,
-                             Frames& frames, QPushButton* button)
+                             Frames& frames, DropButton* button)
     : DropPanel(button, tr("Get spots from the node")),
       requests_(requests),
       band_(new QComboBox(this)),
       call_(new QLineEdit(this)) {
   FillBands();
-  band_->setAccessibleName(tr("Band to get spots of"));
   call_->setAccessibleName(tr("Call to get spots of"));
   call_->setFixedWidth(kFieldWidth);
   auto* count = new QLineEdit(this);
   count->setAccessibleName(tr("How many missed spots to get, 0 to 100"));
   count->setFixedWidth(kFieldWidth);
   BindTextBox(count, requests.txtGetNr, frames);
-  auto* get = new QPushButton(tr("Get Spots"), this);
+  auto* get = new QPushButton(tr("&Get Spots"), this);
   get->setAccessibleName(tr("Get the spots of this band or call"));
-  auto* missed = new QPushButton(tr("Missed"), this);
+  auto* missed = new QPushButton(tr("&Missed"), this);
   missed->setAccessibleName(tr("Get the missed spots"));
-  auto* clearing = new QPushButton(tr("Clear Spots"), this);
+  auto* clearing = new QPushButton(tr("Clear &Spots"), this);
   clearing->setAccessibleName(tr("Clear all spots from the table"));
+  auto* bandLabel = new QLabel(tr("&Band"), this);
+  NameByLabel(band_, bandLabel, tr("Band to get spots of"));
+  auto* callLabel = new QLabel(tr("&Call"), this);
+  callLabel->setBuddy(call_);
+  auto* countLabel = new QLabel(tr("C&ount"), this);
+  countLabel->setBuddy(count);
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 16, 16, 16);
   grid->setSpacing(8);
-  grid->addWidget(new QLabel(tr("Band"), this), 0, 0);
+  grid->addWidget(bandLabel, 0, 0);
   grid->addWidget(band_, 0, 1);
-  grid->addWidget(new QLabel(tr("Call"), this), 1, 0);
+  grid->addWidget(callLabel, 1, 0);
   grid->addWidget(call_, 1, 1);
   grid->addWidget(get, 1, 2);
-  grid->addWidget(new QLabel(tr("Count"), this), 2, 0);
+  grid->addWidget(countLabel, 2, 0);
   grid->addWidget(count, 2, 1);
   grid->addWidget(missed, 2, 2);
   grid->addWidget(clearing, 3, 2);

@@ -15,7 +15,7 @@ class GetSpotsPanel : public DropPanel {
  public:
   // The requests outlive it. `clear` empties the table.
   GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear, Frames& frames,
-                QPushButton* button);
+                DropButton* button);
 
  private:
   void FillBands();

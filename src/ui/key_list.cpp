@@ -6,12 +6,14 @@
 #include <QVBoxLayout>
 
 #include "ui/commands.h"
+#include "ui/form.h"
 
 namespace ui {
 namespace {
 
 constexpr QSize kUsualSize(480, 560);
 constexpr int kKeyWidth = 130;
+constexpr int kMargin = 8;
 
 QString Spelled(const Command& command) {
   QStringList names;
@@ -40,6 +42,7 @@ KeyList::KeyList(QWidget* parent) : QDialog(parent) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(list);
+  AddCloseButton(column, this)->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
 }
 
 }  // namespace ui

@@ -22,6 +22,7 @@
 #include "ui/settings_page.h"
 #include "ui/spots_dialog.h"
 #include "ui/status_line.h"
+#include "ui/tab_order.h"
 #include "ui/tnc_dialog.h"
 #include "ui/touch_watch.h"
 #include "ui/user_info_dialog.h"
@@ -67,6 +68,7 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
   AddPages(frames, theme);
   Lay(frames, theme);
   AddDialogs(frames, theme);
+  AddMenus(frames);
   AddKeys();
   new TouchWatch(this, frames);
   BindProperty<std::string>(this, program.title, frames, [this](const std::string& title) {
@@ -174,29 +176,42 @@ void MainWindow::Do(const spots::Click& click) {
 
 void MainWindow::AddDialogs(Frames& frames, LiveTheme& theme) {
   spots::SpotParts& parts = program_.spotParts;
-  new UserInfoDialog(program_.userInfo, frames, this);
-  new OffsetDialog(program_.offsetForm, frames, this);
-  new CommDialog(program_.commForm, frames, this);
-  Keep(new TncDialog(program_.tncForm, frames, this), kTncPlace);
-  new MessageDialog(program_.messageForm, frames, this);
-  new NodeDialog({.form = program_.nodeForm,
-                  .update = program_.nodeUpdate,
-                  .directory = program_.nodeDirectory},
-                 frames, this);
-  new ColourDialog({.form = program_.colourForm,
-                    .look = program_.dxLook,
-                    .size = program_.textSizes.Size[program::TextSizes::Dx],
-                    .settings = program_.settings},
-                   frames, theme, this);
-  new SpotsDialog(parts.spotsForm, frames, this);
-  Keep(new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},
-                         frames, theme, this),
-       kFixSpotPlace);
   Keep(columns_, kAr17Place);
+  AddHelp(columns_, "dx#Columns");
+  AddHelp(rejects_, "dx#What you don't want to see");
+  AddHelp(new UserInfoDialog(program_.userInfo, frames, this), "first-evening");
+  AddHelp(new OffsetDialog(program_.offsetForm, frames, this), "first-evening");
+  AddHelp(new CommDialog(program_.commForm, frames, this), "tnc");
+  auto* tnc = new TncDialog(program_.tncForm, frames, this);
+  Keep(tnc, kTncPlace);
+  AddHelp(tnc, "tnc");
+  AddHelp(new MessageDialog(program_.messageForm, frames, this), "index");
+  AddHelp(new NodeDialog({.form = program_.nodeForm,
+                          .update = program_.nodeUpdate,
+                          .directory = program_.nodeDirectory},
+                         frames, this),
+          "nodes");
+  AddHelp(new ColourDialog({.form = program_.colourForm,
+                            .look = program_.dxLook,
+                            .size = program_.textSizes.Size[program::TextSizes::Dx],
+                            .settings = program_.settings},
+                           frames, theme, this),
+          "window#Colours and fonts");
+  AddHelp(new SpotsDialog(parts.spotsForm, frames, this), "dx#The log");
+  auto* corrections =
+      new FixSpotDialog({.form = parts.fixForm, .list = parts.fixList, .files = program_.files()},
+                        frames, theme, this);
+  Keep(corrections, kFixSpotPlace);
+  AddHelp(corrections, "dx#What you know better");
 }
 
 void MainWindow::Keep(QDialog* dialog, const PlaceKeys& keys) {
   new DialogPlace(dialog, program_.settings, keys, [this] { program_.DelayedWriteCfg(); });
+}
+
+void MainWindow::AddHelp(QDialog* dialog, const char* page) {
+  connect(new QShortcut(Qt::Key_F1, dialog), &QShortcut::activated, this,
+          [this, page] { OpenManual(page); });
 }
 
 void MainWindow::Lay(Frames& frames, LiveTheme& theme) {
@@ -209,19 +224,29 @@ void MainWindow::Lay(Frames& frames, LiveTheme& theme) {
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
+  auto* conditions = new ConditionsBar(program_.conditions, frames, theme, this);
   rows->addWidget(linkBar_);
-  rows->addWidget(new ConditionsBar(program_.conditions, frames, theme, this));
+  rows->addWidget(conditions);
   rows->addWidget(tabs_);
   rows->addWidget(splitter_, 1);
   rows->addWidget(commandRow_);
   rows->addWidget(new StatusLine(program_.session, frames, theme, this));
   setCentralWidget(column);
+  OrderParts(this, {linkBar_, conditions, tabs_, pages_, raw_, commandRow_});
+}
+
+void MainWindow::AddMenus(Frames& frames) {
+  auto* menus = new Menus({.state = [this](const Command& command) { return StateOf(command); },
+                           .run = [this](const Command& command) { Do(command); }},
+                          this);
+  setMenuBar(menus);
+  session::Connection& connection = program_.session.connection;
+  for (core::Button* each : {&connection.cmdConnect, &connection.cmdDisconnect})
+    BindProperty<bool>(menus, each->Enabled, frames,
+                       [menus](bool) { menus->Refresh(Menu::Connection); });
 }
 
 void MainWindow::AddKeys() {
-  setMenuBar(new Menus({.state = [this](const Command& command) { return StateOf(command); },
-                        .run = [this](const Command& command) { Do(command); }},
-                       this));
   for (const Command& command : Commands()) {
     if (!command.HasKey()) continue;
     for (const QKeySequence& keys : QKeySequence::listFromString(QLatin1String(command.keys)))
@@ -358,13 +383,13 @@ void MainWindow::Find() {
 }
 
 void MainWindow::ListKeys() {
-  if (keyList_ == nullptr) keyList_ = new KeyList(this);
+  if (keyList_ == nullptr) AddHelp(keyList_ = new KeyList(this), "window");
   keyList_->show();
   keyList_->activateWindow();
 }
 
 void MainWindow::OpenManual(std::string_view page) {
-  if (manual_ == nullptr) manual_ = new ManualWindow(this);
+  if (manual_ == nullptr) AddHelp(manual_ = new ManualWindow(this), "index");
   manual_->Open(platform::qt::TextOf(page));
 }
 

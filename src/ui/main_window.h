@@ -30,7 +30,7 @@ class MainWindow : public QMainWindow {
   // All three outlive the window.
   MainWindow(program::Program& program, Frames& frames, LiveTheme& theme);
 
-  // At a page of docs/manual, by its name without the ending.
+  // At a page of docs/manual, by its name without the ending, or with "#" at one of its headings.
   void OpenManual(std::string_view page);
 
  protected:
@@ -45,8 +45,11 @@ class MainWindow : public QMainWindow {
   void AddDialogs(Frames& frames, LiveTheme& theme);
   // It comes up where the user left it.
   void Keep(QDialog* dialog, const PlaceKeys& keys);
+  // F1 in the dialog opens the manual at that page.
+  void AddHelp(QDialog* dialog, const char* page);
   void Do(const spots::Click& click);
   void Lay(Frames& frames, LiveTheme& theme);
+  void AddMenus(Frames& frames);
   void AddKeys();
   void Do(const Command& command);
   Menus::State StateOf(const Command& command) const;

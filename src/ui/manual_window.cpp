@@ -1,8 +1,10 @@
 #include "ui/manual_window.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QHBoxLayout>
 #include <QImageReader>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QVBoxLayout>
 
@@ -14,15 +16,18 @@ constexpr int kMargin = 8;
 constexpr int kStepOfAList = 40;  // what stands in a list begins further right
 
 // A picture of a window is wider than a page that is read: it is drawn as wide as the page. A page
-// has many, which take longer to read than all of its text: each is read when it comes into view,
-// and until then something of its size stands there.
+// has many, which take longer to read than all of its text: each is read once the text around it is
+// on the screen, and until then its room is kept.
 class Page : public QTextBrowser {
  public:
   using QTextBrowser::QTextBrowser;
 
   QVariant loadResource(int type, const QUrl& name) override {
     if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
-    return QImage(SizeOf(FileOf(name)), kUnread);
+    QImage room(SizeOf(FileOf(name)), kUnread);
+    room.setColor(0, qRgba(0, 0, 0, 0));
+    room.fill(0);
+    return room;
   }
 
  protected:
@@ -34,11 +39,9 @@ class Page : public QTextBrowser {
   }
 
   void paintEvent(QPaintEvent* event) override {
-    const QTextBlock end = cursorForPosition(viewport()->rect().bottomRight()).block().next();
-    for (QTextBlock block = cursorForPosition({0, 0}).block(); block.isValid() && block != end;
-         block = block.next())
-      ReadPicturesOf(block);
     QTextBrowser::paintEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { ReadPictures(); }, Qt::QueuedConnection);
   }
 
  private:
@@ -55,6 +58,14 @@ class Page : public QTextBrowser {
     return whole.width() > room ? whole.scaled(room, whole.height(), Qt::KeepAspectRatio) : whole;
   }
 
+  // Those in view.
+  void ReadPictures() {
+    const QTextBlock end = cursorForPosition(viewport()->rect().bottomRight()).block().next();
+    for (QTextBlock block = cursorForPosition({0, 0}).block(); block.isValid() && block != end;
+         block = block.next())
+      ReadPicturesOf(block);
+  }
+
   void ReadPicturesOf(const QTextBlock& block) {
     for (auto part = block.begin(); !part.atEnd(); ++part) {
       const QTextCharFormat format = part.fragment().charFormat();
@@ -64,6 +75,7 @@ class Page : public QTextBrowser {
       if (here.format() != kUnread) continue;
       document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name),
                               Drawn(FileOf(name), here.size()));
+      viewport()->update();
     }
   }
 
@@ -78,23 +90,27 @@ class Page : public QTextBrowser {
 
 }  // namespace
 
-ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent), text_(new Page(this)) {
+ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent) {
   setWindowTitle(tr("Manual"));
   resize(kUsualSize);
-  text_->setAccessibleName(tr("Manual page"));
-  text_->setOpenExternalLinks(true);
-  text_->document()->setDocumentMargin(kMargin);
   auto* contents = new QPushButton(tr("&Contents"), this);
   auto* back = new QPushButton(tr("&Back"), this);
   back->setEnabled(false);
-  for (QPushButton* button : {contents, back}) button->setAutoDefault(false);
+  auto* close = new QPushButton(tr("Close"), this);
+  text_ = new Page(this);  // behind the buttons for the Tab key
+  text_->setAccessibleName(tr("Manual page"));
+  text_->setOpenExternalLinks(true);
+  text_->document()->setDocumentMargin(kMargin);
+  for (QPushButton* button : {contents, back, close}) button->setAutoDefault(false);
   connect(contents, &QPushButton::clicked, this, [this] { Open(QStringLiteral("index")); });
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
   connect(back, &QPushButton::clicked, text_, &QTextBrowser::backward);
   connect(text_, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(contents);
   buttons->addWidget(back);
   buttons->addStretch();
+  buttons->addWidget(close);
   auto* column = new QVBoxLayout(this);
   column->addLayout(buttons);
   column->addWidget(text_, 1);
@@ -102,10 +118,22 @@ ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent), text_(new Page(th
 
 void ManualWindow::Open(const QString& page) {
   show();
-  text_->setSource(QUrl(QStringLiteral("qrc:/docs/manual/%1.md").arg(page)),
-                   QTextDocument::MarkdownResource);
+  text_->setSource(
+      QUrl(QStringLiteral("qrc:/docs/manual/%1.md").arg(page.section(QLatin1Char('#'), 0, 0))),
+      QTextDocument::MarkdownResource);
+  GoTo(page.section(QLatin1Char('#'), 1));
   text_->setFocus();
   activateWindow();
+}
+
+void ManualWindow::GoTo(const QString& heading) {
+  const QTextDocument& document = *text_->document();
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() == 0 || block.text() != heading) continue;
+    text_->setTextCursor(QTextCursor(block));
+    const QRectF place = document.documentLayout()->blockBoundingRect(block);
+    text_->verticalScrollBar()->setValue(static_cast<int>(place.top()));
+  }
 }
 
 }  // namespace ui

@@ -2,19 +2,26 @@
 
 #include <QCheckBox>
 #include <QVBoxLayout>
+#include <array>
+#include <utility>
 
 #include "ui/bind.h"
 
 namespace ui {
 
-MemberPanel::MemberPanel(spots::Membership& model, Frames& frames, QPushButton* button)
+MemberPanel::MemberPanel(spots::Membership& model, Frames& frames, DropButton* button)
     : DropPanel(button, tr("LoTW and eQSL users")) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 16, 16, 16);
   column->setSpacing(8);
-  for (core::Check* each : {&model.showlotw, &model.showeqsl, &model.RejectNot, &model.LotwChecker,
-                            &model.eQSLchecker}) {
+  const std::array<std::pair<core::Check*, const char*>, 5> checks = {{{&model.showlotw, "L"},
+                                                                       {&model.showeqsl, "Q"},
+                                                                       {&model.RejectNot, "R"},
+                                                                       {&model.LotwChecker, "w"},
+                                                                       {&model.eQSLchecker, "e"}}};
+  for (const auto& [each, key] : checks) {
     auto* box = new QCheckBox(this);
+    box->setProperty("mnemonic", QLatin1String(key));
     BindCheck(box, *each, frames);
     column->addWidget(box);
   }

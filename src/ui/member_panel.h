@@ -10,7 +10,7 @@ namespace ui {
 class MemberPanel : public DropPanel {
  public:
   // The model outlives it.
-  MemberPanel(spots::Membership& model, Frames& frames, QPushButton* button);
+  MemberPanel(spots::Membership& model, Frames& frames, DropButton* button);
 };
 
 }  // namespace ui

@@ -26,10 +26,12 @@ class Menus : public QMenuBar {
 
   Menus(Needs needs, QWidget* parent);
 
+  // Has the entries stand as their commands do now, for who looks at them without opening the menu.
+  void Refresh(Menu which);
+
  private:
   void Fill(QMenu* menu, Menu which);
   void AddEntry(QMenu* menu, const Command& command);
-  void Refresh(Menu which);
 
   struct Entry {
     const Command* command;

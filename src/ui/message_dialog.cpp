@@ -8,6 +8,7 @@
 
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/form.h"
 #include "ui/one_line.h"
 
 namespace ui {
@@ -27,7 +28,6 @@ QString Joined(const std::vector<std::string>& lines) {
 MessageDialog::MessageDialog(program::MessageForm& model, Frames& frames, QWidget* parent)
     : QDialog(parent) {
   setAttribute(Qt::WA_ShowWithoutActivating);
-  setMinimumWidth(kWidth);
   auto* heading = new QLabel(this);
   heading->setProperty("heading", true);
   auto* text = new QLabel(this);
@@ -51,6 +51,7 @@ MessageDialog::MessageDialog(program::MessageForm& model, Frames& frames, QWidge
   BindProperty<std::vector<std::string>>(
       text, model.Lines, frames,
       [text](const std::vector<std::string>& lines) { text->setText(Joined(lines)); });
+  SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, model.cmdClose, frames);
 }
 

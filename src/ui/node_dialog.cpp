@@ -43,31 +43,22 @@ class NodeSearch : public QLineEdit {
   std::function<void()> goDown_;
 };
 
-// The caption with its key marked.
-QString Marked(const std::string& caption, char key) {
-  const QString text = TextOf(caption);
-  const auto at = text.indexOf(QLatin1Char(key));
-  return at < 0 ? text : text.left(at) + QLatin1Char('&') + text.mid(at);
-}
-
 // Goes by its caption, unless it is given a name.
-QPushButton* AddButton(QBoxLayout* row, core::Button& model, char key, Frames& frames,
+QPushButton* AddButton(QBoxLayout* row, core::Button& model, const char* key, Frames& frames,
                        QWidget* parent, bool primary = false) {
   auto* button = new QPushButton(parent);
   button->setAutoDefault(false);
   button->setProperty("primary", primary);
+  button->setProperty("mnemonic", QLatin1String(key));
   BindButton(button, model, frames);
-  BindProperty<std::string>(
-      button, model.Caption, frames,
-      [button, key](const std::string& caption) { button->setText(Marked(caption, key)); });
   row->addWidget(button);
   return button;
 }
 
-QCheckBox* MakeCheck(core::Check& model, char key, Frames& frames, QWidget* parent) {
-  auto* box = new QCheckBox(Marked(model.Caption.Get(), key), parent);
-  box->setAccessibleName(TextOf(model.Caption.Get()));
-  BindTick(box, model, frames);
+QCheckBox* MakeCheck(core::Check& model, const char* key, Frames& frames, QWidget* parent) {
+  auto* box = new QCheckBox(parent);
+  box->setProperty("mnemonic", QLatin1String(key));
+  BindCheck(box, model, frames);
   return box;
 }
 
@@ -115,7 +106,7 @@ NodeDialog::NodeDialog(Model model, Frames& frames, QWidget* parent)
   column->addLayout(MakeSearch(frames));
   column->addWidget(MakeRows(frames), 1);
   column->addLayout(MakeFields(frames));
-  column->addWidget(MakeCheck(model_.form.chkSecondary, 'S', frames, this));
+  column->addWidget(MakeCheck(model_.form.chkSecondary, "S", frames, this));
   column->addWidget(MakeResult(model_.form.lblResult, tr("Result"), frames, this));
   column->addLayout(MakeButtons(frames));
   column->addSpacing(8);
@@ -200,11 +191,11 @@ QLayout* NodeDialog::MakeFields(Frames& frames) {
 QLayout* NodeDialog::MakeButtons(Frames& frames) {
   session::NodeForm& form = model_.form;
   QHBoxLayout* row = MakeLine();
-  QPushButton* add = AddButton(row, form.cmdNewNode, 'A', frames, this);
-  AddButton(row, form.cmdDelete, 'D', frames, this);
+  QPushButton* add = AddButton(row, form.cmdNewNode, "A", frames, this);
+  AddButton(row, form.cmdDelete, "D", frames, this);
   row->addStretch();
-  QPushButton* use = AddButton(row, form.cmdApply, 'U', frames, this, true);
-  AddButton(row, form.cmdExit, 'l', frames, this);
+  QPushButton* use = AddButton(row, form.cmdApply, "U", frames, this, true);
+  AddButton(row, form.cmdExit, "l", frames, this);
   // Return does the one of the two that is right for the call in the field.
   BindProperty<bool>(add, form.cmdNewNode.Enabled, frames,
                      [add, use](bool isNew) { (isNew ? add : use)->setDefault(true); });
@@ -226,7 +217,7 @@ QLayout* NodeDialog::MakeUpdate(Frames& frames) {
   column->addWidget(MakeResult(update.lblResult, tr("Result of the update"), frames, this));
   for (core::Label& warning : update.lblWarning)
     column->addWidget(MakeLabel(warning, "dim", frames, this));
-  column->addWidget(MakeCheck(update.Check1, 'm', frames, this));
+  column->addWidget(MakeCheck(update.Check1, "m", frames, this));
   return column;
 }
 
@@ -241,7 +232,7 @@ QLayout* NodeDialog::MakeVersions(Frames& frames) {
     row->addSpacing(16);
   }
   row->addStretch();
-  auto* button = AddButton(row, update.cmdNode, 't', frames, this);
+  auto* button = AddButton(row, update.cmdNode, "t", frames, this);
   BindProperty<bool>(button, update.Fetching, frames, [button](bool fetching) {
     button->setAccessibleName(fetching ? tr("Stop the update of the list of nodes")
                                        : tr("Update the list of nodes"));

@@ -15,9 +15,9 @@ constexpr int kWidth = 400;
 OffsetDialog::OffsetDialog(program::OffsetForm& model, Frames& frames, QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(tr("Offset from GMT"));
-  setMinimumWidth(kWidth);
   QFormLayout* form = MakeForm(this);
   auto* zone = new QCheckBox(this);
+  zone->setProperty("mnemonic", QStringLiteral("z"));
   BindCheck(zone, model.chkSystemZone, frames);
   form->addRow(tr("Time zone"), zone);
   QLineEdit* hours = AddField(form, tr("&Hours to add to local time"), model.txtHours, frames);
@@ -26,6 +26,7 @@ OffsetDialog::OffsetDialog(program::OffsetForm& model, Frames& frames, QWidget* 
                      [hours](bool system) { hours->setEnabled(!system); });
   AddProblem(form, model.lblProblem, frames);
   AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
+  SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, model.cmdCancel, frames);
 }
 

@@ -51,4 +51,9 @@ QString OneLine(std::string_view bytes, core::Position longest) {
 
 QString Literally(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
 
+QString Marked(QString caption, const QString& letter) {
+  const auto at = letter.isEmpty() ? -1 : caption.indexOf(letter, 0, Qt::CaseInsensitive);
+  return at < 0 ? caption : caption.insert(at, QLatin1Char('&'));
+}
+
 }  // namespace ui

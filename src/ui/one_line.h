@@ -14,4 +14,8 @@ QString OneLine(std::string_view bytes, core::Position longest);
 // The same for a widget that takes an "&" for the mark of a mnemonic.
 QString Literally(QString text);
 
+// The caption with the first of that letter, small or capital, marked as its mnemonic; as it is if
+// it has none.
+QString Marked(QString caption, const QString& letter);
+
 }  // namespace ui

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <array>
+#include <utility>
 
 #include "ui/bind.h"
 #include "ui/fonts.h"
@@ -20,14 +21,14 @@ constexpr QSize kUsualSize(720, 520);
 
 // The words of a list, for the eye and for the ear.
 struct ListWords {
-  const char* heading;
+  const char* heading;  // with the key of the field below
   const char* entry;
   const char* example;
 };
 constexpr std::array<ListWords, spots::RejectLists::kKinds> kWords = {{
-    {QT_TR_NOOP("DX calls"), QT_TR_NOOP("DX call"), QT_TR_NOOP("K1ABC, K1* or */MM")},
-    {QT_TR_NOOP("Spotters and nodes"), QT_TR_NOOP("spotter or node"), QT_TR_NOOP("W1TST")},
-    {QT_TR_NOOP("Words in comments"), QT_TR_NOOP("word in comments"), QT_TR_NOOP("pirate")},
+    {QT_TR_NOOP("&DX calls"), QT_TR_NOOP("DX call"), QT_TR_NOOP("K1ABC, K1* or */MM")},
+    {QT_TR_NOOP("&Spotters and nodes"), QT_TR_NOOP("spotter or node"), QT_TR_NOOP("W1TST")},
+    {QT_TR_NOOP("&Words in comments"), QT_TR_NOOP("word in comments"), QT_TR_NOOP("pirate")},
 }};
 
 // Its Delete key does what the button does.
@@ -105,9 +106,15 @@ QWidget* RejectDialog::MakeSwitches(spots::RejectForm& form, core::Check& correc
   auto* column = new QVBoxLayout(switches);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
-  for (core::Check* each : {&form.chkEnabled, &form.chkInvalid, &form.chkCounty, &form.chkDupes,
-                            &form.chkOwnCall, &correctErrors}) {
+  const std::array<std::pair<core::Check*, const char*>, 6> checks = {{{&form.chkEnabled, "E"},
+                                                                       {&form.chkInvalid, "I"},
+                                                                       {&form.chkCounty, "C"},
+                                                                       {&form.chkDupes, "A"},
+                                                                       {&form.chkOwnCall, "O"},
+                                                                       {&correctErrors, "F"}}};
+  for (const auto& [each, key] : checks) {
     auto* box = new QCheckBox(switches);
+    box->setProperty("mnemonic", QLatin1String(key));
     BindCheck(box, *each, frames);
     column->addWidget(box);
     if (each != &form.chkInvalid) continue;
@@ -127,12 +134,13 @@ QWidget* RejectDialog::MakeList(spots::RejectLists::Kind kind, spots::RejectForm
   auto* heading = new QLabel(tr(words.heading), group);
   heading->setProperty("heading", true);
   auto* list = new EntryList(form.cmdDelete[kind], group);
-  list->setAccessibleName(tr("Rejected: %1").arg(tr(words.heading)));
+  list->setAccessibleName(tr("Rejected: %1").arg(tr(words.heading).remove(QLatin1Char('&'))));
   list->setFont(FixedFont());
   BindList(list, lists.lstReject[kind], frames);
   auto* field = new QLineEdit(group);
   field->setAccessibleName(tr("To be rejected: %1").arg(entry));
   field->setPlaceholderText(tr(words.example));
+  heading->setBuddy(field);
   BindTextBox(field, form.txtReject[kind], frames);
   auto* add = MakeButton(tr("Add %1").arg(entry), form.cmdAdd[kind], frames, group);
   auto* remove = MakeButton(tr("Delete %1").arg(entry), form.cmdDelete[kind], frames, group);

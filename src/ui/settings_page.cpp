@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include "ui/bind.h"
+#include "ui/form.h"
 #include "ui/macro_panel.h"
 #include "ui/style.h"
 #include "ui/technical_panel.h"
@@ -75,6 +76,8 @@ void SettingsPage::BindGround(core::Property<program::ColourValues>& values, Fra
   BindProperty<Theme>(this, theme, frames, [show](const Theme&) { show(); });
 }
 
+void SettingsPage::focusInEvent(QFocusEvent* event) { first_->setFocus(event->reason()); }
+
 QVBoxLayout* SettingsPage::AddColumn() {
   auto* column = new QWidget(page_);
   column->setMaximumWidth(kColumnWidth);
@@ -99,9 +102,8 @@ void SettingsPage::AddChoice(QHBoxLayout* row, const QString& label, const QStri
                              core::Choice& model, Frames& frames) {
   auto* box = new ScrolledComboBox(page_);
   box->setFocusPolicy(Qt::StrongFocus);
-  box->setAccessibleName(name);
   auto* words = new QLabel(label, page_);
-  words->setBuddy(box);
+  NameByLabel(box, words, name);
   BindChoice(box, model, frames);
   row->addWidget(words);
   row->addWidget(box);
@@ -126,7 +128,7 @@ void SettingsPage::FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Fr
   row->addWidget(who);
   row->addWidget(change);
   row->addStretch();
-  setFocusProxy(change);
+  first_ = change;
 }
 
 void SettingsPage::FillConnection(QVBoxLayout* group, program::Program& program, Frames& frames) {

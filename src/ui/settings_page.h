@@ -17,6 +17,10 @@ class SettingsPage : public QScrollArea {
  public:
   SettingsPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent);
 
+ protected:
+  // The page hands its focus to the first of its controls.
+  void focusInEvent(QFocusEvent* event) override;
+
  private:
   void BindGround(core::Property<program::ColourValues>& values, Frames& frames, LiveTheme& theme);
   QVBoxLayout* AddColumn();
@@ -35,6 +39,7 @@ class SettingsPage : public QScrollArea {
 
   QWidget* page_;
   QHBoxLayout* columns_;
+  QWidget* first_ = nullptr;
 };
 
 }  // namespace ui

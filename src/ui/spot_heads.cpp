@@ -178,7 +178,7 @@ void SpotHeads::MakeHeads() {
     heads_.push_back(head);
     head->show();
   }
-  if (!heads_.empty()) heads_.front()->setFocusPolicy(Qt::TabFocus);
+  if (!heads_.empty()) LetTabReach(heads_.front());
   Renew();
 }
 
@@ -212,9 +212,14 @@ void SpotHeads::Press(int button, spots::SpotTable::Press press) {
 void SpotHeads::Go(const SpotHead* from, int steps) {
   const auto at = static_cast<int>(std::find(heads_.begin(), heads_.end(), from) - heads_.begin());
   const int to = std::clamp(at + steps, 0, static_cast<int>(heads_.size()) - 1);
-  for (SpotHead* head : heads_) head->setFocusPolicy(Qt::NoFocus);
-  heads_[static_cast<std::size_t>(to)]->setFocusPolicy(Qt::TabFocus);
+  LetTabReach(heads_[static_cast<std::size_t>(to)]);
   heads_[static_cast<std::size_t>(to)]->setFocus(Qt::TabFocusReason);
+}
+
+void SpotHeads::LetTabReach(SpotHead* head) {
+  for (SpotHead* each : heads_) each->setFocusPolicy(Qt::NoFocus);
+  head->setFocusPolicy(Qt::TabFocus);
+  setTabOrder(parentWidget(), head);
 }
 
 void SpotHeads::paintEvent(QPaintEvent*) {

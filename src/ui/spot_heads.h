@@ -39,6 +39,8 @@ class SpotHeads : public QWidget {
   void MakeHeads();
   void Press(int button, spots::SpotTable::Press press);
   void Go(const SpotHead* from, int steps);
+  // The one head that the Tab key reaches, from the rows.
+  void LetTabReach(SpotHead* head);
 
   spots::SpotTable& table_;
   spots::DisplayChoice& display_;

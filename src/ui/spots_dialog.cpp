@@ -2,11 +2,11 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QPushButton>
 
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
 #include "ui/form.h"
+#include "ui/one_line.h"
 
 namespace ui {
 namespace {
@@ -21,33 +21,37 @@ constexpr int kNumberWidth = 72;
 SpotsDialog::SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(QLatin1String(spots::SpotsForm::kTitle));
-  setMinimumWidth(kWidth);
   QFormLayout* form = MakeForm(this);
   form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-  AddCheck(form, model.chkSave, frames);
-  AddCheck(form, model.chkDelete, frames);
-  AddNumber(form, model.Text1, frames);
-  AddCheck(form, model.chkLoad, frames);
-  AddNumber(form, model.txtReloadNr, frames);
+  AddCheck(form, model.chkSave, "S", frames);
+  AddCheck(form, model.chkDelete, "D", frames);
+  AddNumber(form, model.Text1, "k", frames);
+  AddCheck(form, model.chkLoad, "L", frames);
+  AddNumber(form, model.txtReloadNr, "h", frames);
   AddReload(form, model, frames);
   AddMemory(form, model, frames);
-  AddCheck(form, model.chkShowNrs, frames);
+  AddCheck(form, model.chkShowNrs, "N", frames);
   AddCloseButton(form, this);
+  SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, frames);
 }
 
-void SpotsDialog::AddCheck(QFormLayout* form, core::Check& model, Frames& frames) {
+void SpotsDialog::AddCheck(QFormLayout* form, core::Check& model, const char* key, Frames& frames) {
   auto* box = new QCheckBox(this);
+  box->setProperty("mnemonic", QLatin1String(key));
   BindCheck(box, model, frames);
   form->addRow(box);
 }
 
-void SpotsDialog::AddNumber(QFormLayout* form, core::TextBox& model, Frames& frames) {
-  AddField(form, TextOf(model.Caption.Get()), model, frames)->setFixedWidth(kNumberWidth);
+void SpotsDialog::AddNumber(QFormLayout* form, core::TextBox& model, const char* key,
+                            Frames& frames) {
+  AddField(form, Marked(TextOf(model.Caption.Get()), QLatin1String(key)), model, frames)
+      ->setFixedWidth(kNumberWidth);
 }
 
 void SpotsDialog::AddMemory(QFormLayout* form, spots::SpotsForm& model, Frames& frames) {
   const std::array says = {tr("all bands together"), tr("each band")};
+  const std::array keyed = {tr("&all bands together"), tr("each &band")};
   auto* heading = new QLabel(this);
   heading->setProperty("heading", true);
   BindLabel(heading, model.lblMemory, frames);
@@ -58,22 +62,16 @@ void SpotsDialog::AddMemory(QFormLayout* form, spots::SpotsForm& model, Frames& 
     field->setFixedWidth(kNumberWidth);
     field->setAccessibleName(tr("Max spots displayed, %1").arg(says[i]));
     BindTextBox(field, box, frames);
-    form->addRow(tr("%1, %2").arg(TextOf(box.Caption.Get()), says[i]), field);
+    form->addRow(tr("%1, %2").arg(TextOf(box.Caption.Get()), keyed[i]), field);
   }
 }
 
 void SpotsDialog::AddReload(QFormLayout* form, spots::SpotsForm& model, Frames& frames) {
   auto* row = new QHBoxLayout;
   row->setSpacing(8);
-  const auto add = [&](const QString& name, core::Button& button) {
-    auto* widget = new QPushButton(this);
-    widget->setAutoDefault(false);
-    widget->setAccessibleName(name);
-    BindButton(widget, button, frames);
-    row->addWidget(widget);
-  };
-  add(tr("Reload the spot log"), model.cmdReload);
-  add(tr("Stop the reload"), model.cmdStop);
+  form->addRow(row);
+  AddButton(row, tr("Reload the spot log"), QStringLiteral("R"), model.cmdReload, frames);
+  AddButton(row, tr("Stop the reload"), QStringLiteral("t"), model.cmdStop, frames);
   auto* count = new QLabel(this);
   count->setProperty("dim", true);
   count->setAccessibleName(tr("Spots read"));
@@ -83,7 +81,6 @@ void SpotsDialog::AddReload(QFormLayout* form, spots::SpotsForm& model, Frames& 
   row->addWidget(count);
   row->addWidget(unit);
   row->addStretch();
-  form->addRow(row);
 }
 
 }  // namespace ui

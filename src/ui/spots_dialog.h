@@ -14,8 +14,9 @@ class SpotsDialog : public QDialog {
   SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* parent);
 
  private:
-  void AddCheck(QFormLayout* form, core::Check& model, Frames& frames);
-  void AddNumber(QFormLayout* form, core::TextBox& model, Frames& frames);
+  // `key` is a letter of the caption.
+  void AddCheck(QFormLayout* form, core::Check& model, const char* key, Frames& frames);
+  void AddNumber(QFormLayout* form, core::TextBox& model, const char* key, Frames& frames);
   void AddMemory(QFormLayout* form, spots::SpotsForm& model, Frames& frames);
   void AddReload(QFormLayout* form, spots::SpotsForm& model, Frames& frames);
 };

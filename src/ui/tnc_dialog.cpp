@@ -1,6 +1,5 @@
 #include "ui/tnc_dialog.h"
 
-#include <QAction>
 #include <QLabel>
 
 #include "platform/qt/qt_text.h"
@@ -12,7 +11,7 @@ namespace {
 
 using platform::qt::TextOf;
 
-constexpr QSize kUsualTncSize(680, 400);
+constexpr QSize kUsualTncSize(760, 420);
 constexpr int kSecondsWidth = 56;
 constexpr int kClusterWidth = 140;
 constexpr int kProgressWidth = 72;
@@ -42,10 +41,6 @@ TncDialog::TncDialog(session::TncForm& model, Frames& frames, QWidget* parent) :
     AddStep(grid, step, model, frames);
   whole->addStretch();
   AddFoot(whole, model, frames);
-  auto* help = new QAction(this);
-  help->setShortcut(Qt::Key_F1);
-  connect(help, &QAction::triggered, this, [&model] { model.cmdHelp.Press(); });
-  addAction(help);
   BindDialog(this, model.Open, model.cmdClose, frames);
 }
 
@@ -71,7 +66,6 @@ void TncDialog::AddHead(QGridLayout* grid, int column, core::Label& model, Frame
   BindLabel(head, model, frames);
   auto* more = new QLabel(TextOf(model.ToolTip.Get()), this);
   more->setProperty("dim", true);
-  more->setWordWrap(true);
   grid->addWidget(more, 1, column, 1, column == kTime ? 2 : 1, Qt::AlignTop);
 }
 

@@ -18,7 +18,6 @@ constexpr int kDegreesWidth = 56;
 UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(tr("User information"));
-  setMinimumWidth(kWidth);
   QFormLayout* form = MakeForm(this);
   AddField(form, tr("&Call"), model.txtCall, frames)->setFocus();
   AddField(form, tr("&Name"), model.txtName, frames);
@@ -31,6 +30,7 @@ UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget
   AddZone(form, model, frames);
   AddProblem(form, model.lblProblem, frames);
   AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
+  SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, model.cmdCancel, frames);
 }
 
@@ -50,7 +50,9 @@ void UserInfoDialog::AddLocation(QFormLayout* form, program::UserInfo& model, Fr
     row->addWidget(new QLabel(units[i], this));
   }
   row->addStretch();
-  form->addRow(tr("Location"), row);
+  auto* label = new QLabel(tr("&Location"), this);
+  label->setBuddy(row->itemAt(0)->widget());
+  form->addRow(label, row);
   auto* from = new QLabel(this);
   from->setProperty("dim", true);
   from->setAccessibleName(tr("Where the location is from"));
@@ -60,6 +62,7 @@ void UserInfoDialog::AddLocation(QFormLayout* form, program::UserInfo& model, Fr
 
 void UserInfoDialog::AddZone(QFormLayout* form, program::UserInfo& model, Frames& frames) {
   auto* zone = new QCheckBox(this);
+  zone->setProperty("mnemonic", QStringLiteral("z"));
   BindCheck(zone, model.chkSystemZone, frames);
   form->addRow(tr("Time zone"), zone);
   QLineEdit* hours = AddField(form, tr("Hours to G&MT"), model.txtGmtOffset, frames);

@@ -229,6 +229,38 @@ TEST_F(BindTest, OnlyTheUsersTypingIsAChange) {
   EXPECT_EQ(model.Text.Get(), "by a rule!");
 }
 
+TEST_F(BindTest, ATextThatAScreenReaderSetsIsTypingButNotWhatTheFieldMakesOfTheRules) {
+  core::TextBox model;
+  int changes = 0;
+  const auto watching = model.Change.Add([&changes] { ++changes; });
+  QLineEdit widget;
+  widget.setMaxLength(3);
+  ui::BindTextBox(&widget, model, frames);
+  widget.setText("all");
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(model.Text.Get(), "all");
+  model.Text.Set("longer");
+  EXPECT_EQ(widget.text(), "lon");
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(model.Text.Get(), "longer");
+}
+
+TEST_F(BindTest, ATickIsOneActHoweverTheUserTurnsIt) {
+  core::Check model;
+  int clicks = 0;
+  const auto watching = model.Click.Add([&clicks] { ++clicks; });
+  QCheckBox widget;
+  ui::BindCheck(&widget, model, frames);
+  widget.click();
+  EXPECT_EQ(clicks, 1);
+  widget.toggle();
+  EXPECT_EQ(clicks, 2);
+  model.Value.Set(true);
+  Frame();
+  EXPECT_TRUE(widget.isChecked());
+  EXPECT_EQ(clicks, 2);
+}
+
 TEST_F(BindTest, AKeyGoesIntoTheTextThatTheRulesHaveLeft) {
   core::TextBox model;
   QLineEdit widget;

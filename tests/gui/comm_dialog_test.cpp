@@ -38,18 +38,6 @@ class CommDialogTest : public OpenedDialog {
   }
 };
 
-TEST_F(CommDialogTest, EverythingHasANameOfItsOwn) {
-  const auto names = NamesIn(OpenedComm());
-  EXPECT_GT(names.size(), 20U);
-  ExpectOneOfEach(names);
-}
-
-TEST_F(CommDialogTest, EachMnemonicLeadsToOnePlace) {
-  const auto letters = Mnemonics(OpenedComm());
-  EXPECT_GT(letters.size(), 15U);
-  ExpectOneOfEach(letters);
-}
-
 TEST_F(CommDialogTest, TabFollowsTheEye) {
   QDialog& dialog = OpenedComm();
   Click(dialog, "Feed another computer over a serial port");
@@ -65,16 +53,6 @@ TEST_F(CommDialogTest, TabFollowsTheEye) {
                    "Device of the local network", "Baud of the local network",
                    "Echo what is typed on the local network", "Look for devices",
                    "Apply the connection", "Close"}));
-}
-
-TEST_F(CommDialogTest, EscapeClosesItAndItOpensAgain) {
-  for (int time = 0; time < 2; ++time) {
-    QDialog& dialog = OpenedComm();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    Run(200ms);
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_FALSE(program->commForm.Open.Get());
-  }
 }
 
 TEST_F(CommDialogTest, TheStreamGoesOnBehindIt) {

@@ -17,7 +17,7 @@ class CommandLineTest : public Desk {
   void Enter(const char* text) {
     Type(text);
     Press(Qt::Key_Return);
-    Run(100ms);
+    Run(200ms);
   }
 };
 
@@ -32,7 +32,7 @@ TEST_F(CommandLineTest, ReturnSendsTheLineAsTypedAndEmptiesIt) {
 TEST_F(CommandLineTest, TheEnterKeyOfTheNumberPadSendsToo) {
   Type("who");
   Press(Qt::Key_Enter, Qt::KeypadModifier);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(node.Heard().back(), "who");
 }
 
@@ -41,7 +41,7 @@ TEST_F(CommandLineTest, TypedTextLeavesAsUtf8) {
   typed.setCommitString(QString::fromUtf8("ann Grüße"));
   QApplication::sendEvent(&CommandLine(), &typed);
   Press(Qt::Key_Return);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(node.Heard().back(), "ann Gr\xC3\xBC\xC3\x9F\x65");
 }
 
@@ -50,7 +50,7 @@ TEST_F(CommandLineTest, TwoLinesTypedFasterThanAFrameStayTwoLines) {
   Press(Qt::Key_Return);
   Type("sh/wwv");
   Press(Qt::Key_Return);
-  Run(100ms);
+  Run(200ms);
   const auto heard = node.Heard();
   EXPECT_THAT(std::vector(heard.end() - 2, heard.end()), ElementsAre("who", "sh/wwv"));
 }
@@ -60,7 +60,7 @@ TEST_F(CommandLineTest, UpAndDownGoThroughTheLinesTypedBefore) {
   QStringList seen;
   for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down}) {
     Press(key);
-    Run(100ms);
+    Run(200ms);
     seen << CommandLine().text();
   }
   EXPECT_EQ(seen, QStringList({"three", "two", "one", "one", "two"}));
@@ -71,7 +71,7 @@ TEST_F(CommandLineTest, ARecalledLineCanBeChangedAtOnce) {
   Press(Qt::Key_Up);
   Type("0");
   Press(Qt::Key_Return);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(node.Heard().back(), "sh/dx 50");
 }
 

@@ -20,7 +20,7 @@ class FindTest : public Desk {
   void OpenIn(QWidget& view) {
     view.setFocus();
     Press(Qt::Key_F, Qt::ControlModifier);
-    Run(100ms);
+    Run(200ms);
   }
   QLineEdit& Field() { return *Named<QLineEdit>(*window, "Find in raw view"); }
   void Type(const char* text) { QTest::keyClicks(&Field(), text); }

@@ -35,7 +35,7 @@ TEST_F(FirstStartTest, LeadsFromAnEmptyFolderToTheLoginByKeyboardAlone) {
   TypeAndGoOn("anna");
   TypeAndGoOn("Ann Arbor, MI");
   Type("en82dg");
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(Field("Latitude, degrees"), "42");
   EXPECT_EQ(Field("Longitude, minutes"), "43");
   Press(Qt::Key_Return);
@@ -68,7 +68,7 @@ TEST_F(FirstStartTest, AWrongGridSaysWhatIsWrongWhileItIsTyped) {
   ASSERT_EQ(DialogInSight(), "User information");
   QLineEdit& grid = *Named<QLineEdit>(*window, "Grid");
   QTest::keyClicks(&grid, "8");
-  Run(100ms);
+  Run(200ms);
   EXPECT_THAT(program->userInfo.lblProblem.Caption.Get(), testing::HasSubstr("two letters"));
   QLabel* says = nullptr;
   for (QLabel* each : window->findChildren<QLabel*>())

@@ -80,10 +80,10 @@ TEST_F(KeysTest, NothingMovesWhenTheFocusDoes) {
   for (QPlainTextEdit* view : window->findChildren<QPlainTextEdit*>()) {
     const QRect before = view->viewport()->geometry();
     view->setFocus();
-    Run(100ms);
+    Run(200ms);
     EXPECT_EQ(view->viewport()->geometry(), before);
     CommandLine().setFocus();
-    Run(100ms);
+    Run(200ms);
     EXPECT_EQ(view->viewport()->geometry(), before);
   }
 }
@@ -93,12 +93,12 @@ TEST_F(KeysTest, CtrlPlusAndMinusChangeTheTextOfTheViewWithTheFocus) {
   Raw().setFocus();
   Press(Qt::Key_Plus, Qt::ControlModifier);
   Press(Qt::Key_Equal, Qt::ControlModifier);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(Raw().font().pixelSize(), 15);
   EXPECT_EQ(login.font().pixelSize(), 13);
   login.setFocus();
   Press(Qt::Key_Minus, Qt::ControlModifier);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(login.font().pixelSize(), 12);
   EXPECT_EQ(Raw().font().pixelSize(), 15);
 }
@@ -106,7 +106,7 @@ TEST_F(KeysTest, CtrlPlusAndMinusChangeTheTextOfTheViewWithTheFocus) {
 TEST_F(KeysTest, FromElsewhereTheyChangeTheViewOnThePage) {
   CommandLine().setFocus();
   Press(Qt::Key_Plus, Qt::ControlModifier);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(Named(*window, "Login message of the node")->font().pixelSize(), 14);
   EXPECT_EQ(Raw().font().pixelSize(), 13);
 }
@@ -118,7 +118,7 @@ TEST_F(KeysTest, AReaderAtTheEndStaysThereWhenTheTextGrows) {
   Raw().setFocus();
   for (int step = 0; step < 19; ++step) {
     Press(Qt::Key_Plus, Qt::ControlModifier);
-    Run(100ms);
+    Run(200ms);
     ASSERT_TRUE(IsAtEnd(Raw())) << step;
   }
   EXPECT_EQ(Raw().font().pixelSize(), 32);
@@ -129,7 +129,7 @@ TEST_F(KeysTest, EscapeReturnsToTheSpots) {
     program->views.Choose(program::Views::LoginMsg);
     Named(*window, place)->setFocus();
     Press(Qt::Key_Escape);
-    Run(100ms);
+    Run(200ms);
     EXPECT_EQ(Tabs().currentIndex(), program::Views::Dx);
     EXPECT_EQ(Focus(), "Spots");
   }
@@ -137,7 +137,7 @@ TEST_F(KeysTest, EscapeReturnsToTheSpots) {
 
 TEST_F(KeysTest, AllKeysAreListedAndTheListHoldsNothingUp) {
   Press(Qt::Key_Question, Qt::ControlModifier);
-  Run(100ms);
+  Run(200ms);
   auto* list = Named<QTreeWidget>(*window, "Keys and what they do");
   ASSERT_TRUE(list->isVisible());
   EXPECT_FALSE(list->window()->isModal());
@@ -153,7 +153,8 @@ TEST_F(KeysTest, AllKeysAreListedAndTheListHoldsNothingUp) {
 
 TEST_F(KeysTest, EveryKeyOfTheListIsAShortcutOfItsOwn) {
   std::set<QString> all;
-  for (const QShortcut* each : window->findChildren<QShortcut*>())
+  for (const QShortcut* each :
+       window->findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly))
     EXPECT_TRUE(all.insert(each->key().toString()).second) << each->key().toString().toStdString();
   for (const ui::Command& command : ui::Commands()) {
     if (!command.HasKey()) continue;

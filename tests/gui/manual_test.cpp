@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QDirIterator>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -21,6 +22,7 @@ std::vector<QImage> PicturesOf(QTextBrowser& page) {
       page.setTextCursor(QTextCursor(block));
       page.ensureCursorVisible();
       page.grab();
+      QApplication::processEvents();  // they come behind the text
       pictures.push_back(text.resource(QTextDocument::ImageResource, format.toImageFormat().name())
                              .value<QImage>());
     }

@@ -18,18 +18,18 @@ TEST_F(OffsetDialogTest, EscapeClosesItWhateverStandsInItAndItOpensAgain) {
   Open();
   program::OffsetForm& form = program->offsetForm;
   form.Show();
-  Run(100ms);
+  Run(200ms);
   QDialog* dialog = Dialog();
   ASSERT_NE(dialog, nullptr);
   EXPECT_TRUE(dialog->isVisible());
   form.chkSystemZone.UserSets(false);
   form.txtHours.UserTypes("nonsense");
   QTest::keyClick(dialog, Qt::Key_Escape);
-  Run(100ms);
+  Run(200ms);
   EXPECT_FALSE(form.Open.Get());
   EXPECT_FALSE(dialog->isVisible());
   form.Show();
-  Run(100ms);
+  Run(200ms);
   EXPECT_TRUE(dialog->isVisible());
 }
 

@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QStringList>
-#include <map>
 
 #include "gui/desk.h"
 
@@ -33,14 +32,6 @@ class OpenedDialog : public Desk {
     return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0;
   }
 
-  // How often each name is there.
-  static std::map<QString, int> NamesIn(const QDialog& dialog) {
-    std::map<QString, int> names;
-    for (const QWidget* each : dialog.findChildren<QWidget*>())
-      if (each->isVisible() && each->focusPolicy() != Qt::NoFocus) ++names[each->accessibleName()];
-    return names;
-  }
-
   // The names in the order in which the Tab key goes from one to the next, from the first on.
   static QStringList TabOrder(QDialog& dialog) {
     QStringList names;
@@ -48,24 +39,6 @@ class OpenedDialog : public Desk {
          each = each->nextInFocusChain())
       if (dialog.isAncestorOf(each) && CanBeReached(*each)) names << each->accessibleName();
     return names;
-  }
-
-  // How often each letter is a mnemonic.
-  static std::map<QString, int> Mnemonics(const QDialog& dialog) {
-    std::map<QString, int> letters;
-    const auto add = [&](const QString& text) {
-      const QKeySequence key = QKeySequence::mnemonic(text);
-      if (!key.isEmpty()) ++letters[key.toString()];
-    };
-    for (const QLabel* each : dialog.findChildren<QLabel*>())
-      if (each->buddy() != nullptr) add(each->text());
-    for (const QAbstractButton* each : dialog.findChildren<QAbstractButton*>()) add(each->text());
-    return letters;
-  }
-
-  static void ExpectOneOfEach(const std::map<QString, int>& counted) {
-    for (const auto& [name, count] : counted)
-      EXPECT_TRUE(count == 1 && !name.trimmed().isEmpty()) << '"' << name.toStdString() << '"';
   }
 };
 

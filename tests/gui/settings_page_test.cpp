@@ -24,7 +24,7 @@ class SettingsPageTest : public Desk {
   void GetMacros() {
     LogIn();
     Button("Get Macros").click();
-    Run(100ms);
+    Run(200ms);
     for (int i = 0; i < 10; ++i)
       node.Say("Macro " + std::to_string(i) + " = sh/dx " + std::to_string(i));
     Run(1s);
@@ -64,7 +64,7 @@ TEST_F(SettingsPageTest, EachButtonStandsBesideItsFieldAndSendsIt) {
     EXPECT_NEAR(button.geometry().center().y(), field.geometry().center().y(), 1);
     EXPECT_LT(button.geometry().right(), field.x());
     button.click();
-    Run(100ms);
+    Run(200ms);
     EXPECT_EQ(node.Heard().back(), "SH/DX " + number);
   }
 }
@@ -73,7 +73,7 @@ TEST_F(SettingsPageTest, ReturnInAFieldSendsIt) {
   GetMacros();
   Field("Macro 0").setFocus();
   Press(Qt::Key_Return);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(node.Heard().back(), "SH/DX 0");
 }
 
@@ -84,7 +84,7 @@ TEST_F(SettingsPageTest, WhoChangesAMacroHasLocalOnes) {
   Run(200ms);
   EXPECT_EQ(Text("Shown"), "Local Macros");
   Press(Qt::Key_Return);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(node.Heard().back(), "SH/DX 3X");
 }
 

@@ -10,8 +10,8 @@ namespace {
 using ui::Theme;
 using ui::Token;
 
-const Theme kLightTheme(Theme::Kind::Light);
-const Theme kDarkTheme(Theme::Kind::Dark);
+const Theme kSpotsInLight(Theme::Kind::Light);
+const Theme kSpotsInDark(Theme::Kind::Dark);
 
 constexpr core::Colour Stored(int red, int green, int blue) {
   return red + (green << 8) + (blue << 16);
@@ -21,7 +21,7 @@ TEST(SpotColoursTest, WithoutAChoiceTheyAreTheThemes) {
   const core::Settings usual;
   core::Settings none;
   none.ColourDx = 0;
-  for (const Theme& theme : {kLightTheme, kDarkTheme})
+  for (const Theme& theme : {kSpotsInLight, kSpotsInDark})
     for (const core::Settings& settings : {usual, none}) {
       const ui::SpotColours colours = ui::ColoursOf(settings, theme);
       EXPECT_EQ(colours.ground, theme[Token::Ground]);
@@ -38,7 +38,7 @@ TEST(SpotColoursTest, WithoutAChoiceTheyAreTheThemes) {
 TEST(SpotColoursTest, ABandColourThatTheUserChoseHoldsInBothThemes) {
   core::Settings settings;
   settings.SpotColor[5] = Stored(0x12, 0x34, 0x56);
-  for (const Theme& theme : {kLightTheme, kDarkTheme}) {
+  for (const Theme& theme : {kSpotsInLight, kSpotsInDark}) {
     EXPECT_EQ(ui::ColoursOf(settings, theme).OfBand(6), QColor(0x12, 0x34, 0x56));
     EXPECT_EQ(ui::BandColourOf(6, settings, theme), QColor(0x12, 0x34, 0x56));
   }
@@ -50,13 +50,13 @@ TEST(SpotColoursTest, AGroundThatTheUserChoseHoldsInBothThemesAndEverythingCanBe
       for (const int blue : {0, 120, 255}) {
         core::Settings settings;
         settings.ColourDx = std::max(Stored(red, green, blue), 1);
-        const ui::SpotColours light = ui::ColoursOf(settings, kLightTheme);
-        const ui::SpotColours dark = ui::ColoursOf(settings, kDarkTheme);
+        const ui::SpotColours light = ui::ColoursOf(settings, kSpotsInLight);
+        const ui::SpotColours dark = ui::ColoursOf(settings, kSpotsInDark);
         EXPECT_EQ(light.ground, dark.ground);
         EXPECT_EQ(light.text, dark.text);
-        EXPECT_TRUE(light.text == kLightTheme[Token::Text] ||
-                    light.text == kDarkTheme[Token::Text]);
-        for (const Theme& theme : {kLightTheme, kDarkTheme})
+        EXPECT_TRUE(light.text == kSpotsInLight[Token::Text] ||
+                    light.text == kSpotsInDark[Token::Text]);
+        for (const Theme& theme : {kSpotsInLight, kSpotsInDark})
           EXPECT_GE(ui::Contrast(light.text, light.ground),
                     ui::Contrast(theme[Token::Text], light.ground));
         for (int band = 1; band <= 16; ++band)

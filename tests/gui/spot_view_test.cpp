@@ -191,7 +191,7 @@ TEST_F(SpotViewTest, AReaderAtTheEndStaysThere) {
   for (int batch = 0; batch < 20; ++batch) {
     Add(30);
     if (batch > 5) pane.RemoveSpots(30);
-    Run(100ms);
+    Run(200ms);
     ASSERT_TRUE(AtEnd()) << batch;
   }
   view.resize(800, 150);
@@ -211,7 +211,7 @@ TEST_F(SpotViewTest, AReaderWhoScrolledAwayStaysOnHisRowWhileOthersComeAndGo) {
   for (int batch = 0; batch < 20; ++batch) {
     Add(20);
     pane.RemoveSpots(10);
-    Run(100ms);
+    Run(200ms);
     ASSERT_EQ(TopCall(), reading);
   }
 }

@@ -9,7 +9,7 @@ class TabsTest : public Desk {
  protected:
   void Enable(Views::Tab tab) {
     program->views.tab[tab].Enabled.Set(true);
-    Run(100ms);
+    Run(200ms);
   }
 };
 
@@ -74,7 +74,7 @@ TEST_F(TabsTest, AKeyDoesNotChooseATabThatCannotBeUsed) {
 TEST_F(TabsTest, ATabSaysWhatItsModelSays) {
   Open();
   program->views.tab[Views::Ann].Caption.Set("Ann & = 3");
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(Tabs().tabText(Views::Ann), "Ann && = 3") << "the second one is drawn";
 }
 

@@ -23,7 +23,7 @@ class TextPageViewTest : public ::testing::Test {
   void SetUp() override {
     view.resize(500, 200);
     view.show();
-    Run(100ms);
+    Run(200ms);
     QObject::connect(view.document(), &QTextDocument::contentsChange, &view,
                      [this] { repaintedAt.insert(world.scheduler.Now()); });
   }
@@ -40,7 +40,7 @@ class TextPageViewTest : public ::testing::Test {
   QString LastLine() const { return LinesOf(view).last(); }
   void ScrollTo(int line) {
     view.verticalScrollBar()->setValue(line);
-    Run(100ms);
+    Run(200ms);
   }
   void Select(int from, int to) {
     QTextCursor cursor(view.document());
@@ -78,14 +78,14 @@ TEST_F(TextPageViewTest, RepaintsAtMostOnceIn33Milliseconds) {
 
 TEST_F(TextPageViewTest, RepaintsNothingWhileHiddenAndEverythingWhenShown) {
   Add(10);
-  Run(100ms);
+  Run(200ms);
   view.hide();
   repaintedAt.clear();
   Add(1990);
   Run(1s);
   EXPECT_TRUE(repaintedAt.empty());
   view.show();
-  Run(100ms);
+  Run(200ms);
   QStringList all;
   for (const std::string& line : page.Lines()) all << QString::fromStdString(line);
   EXPECT_LT(all.size(), 2000);
@@ -96,16 +96,16 @@ TEST_F(TextPageViewTest, RepaintsNothingWhileHiddenAndEverythingWhenShown) {
 TEST_F(TextPageViewTest, HoldsWhatThePageHoldsHoweverTheChangesFall) {
   for (const int lines : {1, 700, 3, 1, 5000, 2, 900}) {
     Add(lines);
-    Run(100ms);
+    Run(200ms);
     ASSERT_EQ(LinesOf(view).size(), static_cast<qsizetype>(page.Lines().size()));
     ASSERT_EQ(LinesOf(view).first().toStdString(), page.Lines().front());
     ASSERT_EQ(LastLine(), Line(last));
   }
   page.Clear();
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(LinesOf(view), QStringList({""}));
   Add(2);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(LinesOf(view).size(), 2);
 }
 
@@ -114,7 +114,7 @@ TEST_F(TextPageViewTest, OneLineOfThePageIsOneLineOfTheViewWhateverItHolds) {
     if (code >= 0xD800 && code < 0xE000) continue;
     page.Append("<" + QString::fromUcs4(&code, 1).toStdString() + ">");
     if (code % 500 != 0) continue;
-    Run(100ms);
+    Run(200ms);
     ASSERT_EQ(LinesOf(view).size(), static_cast<qsizetype>(page.Lines().size()))
         << static_cast<int>(code);
   }
@@ -123,56 +123,56 @@ TEST_F(TextPageViewTest, OneLineOfThePageIsOneLineOfTheViewWhateverItHolds) {
 TEST_F(TextPageViewTest, AReaderAtTheEndStaysThere) {
   for (int batch = 0; batch < 30; ++batch) {
     Add(100);
-    Run(100ms);
+    Run(200ms);
     ASSERT_TRUE(IsAtEnd(view)) << batch;
   }
 }
 
 TEST_F(TextPageViewTest, AReaderAtTheEndStaysThereWhenALineIsWiderThanTheView) {
   Add(100);
-  Run(100ms);
+  Run(200ms);
   page.Append(std::string(3000, 'W'));
-  Run(100ms);
+  Run(200ms);
   EXPECT_TRUE(IsAtEnd(view));
   Add(100);
-  Run(100ms);
+  Run(200ms);
   EXPECT_TRUE(IsAtEnd(view));
 }
 
 TEST_F(TextPageViewTest, AReaderAtTheEndStaysThereWhenTheViewChangesItsHeight) {
   Add(200);
-  Run(100ms);
+  Run(200ms);
   for (const int height : {150, 90, 300, 120}) {
     view.resize(500, height);
-    Run(100ms);
+    Run(200ms);
     EXPECT_TRUE(IsAtEnd(view)) << height;
     Add(5);
-    Run(100ms);
+    Run(200ms);
     EXPECT_TRUE(IsAtEnd(view)) << height;
   }
 }
 
 TEST_F(TextPageViewTest, AReaderWhoScrolledAwayStaysOnHisLine) {
   Add(200);
-  Run(100ms);
+  Run(200ms);
   ScrollTo(120);
   const QString reading = TopLine(view);
   for (int batch = 0; batch < 20; ++batch) {
     Add(20);
-    Run(100ms);
+    Run(200ms);
     ASSERT_EQ(TopLine(view), reading);
   }
 }
 
 TEST_F(TextPageViewTest, AReaderStaysOnHisLineWhileOlderOnesGo) {
   Add(1500);
-  Run(100ms);
+  Run(200ms);
   ScrollTo(1200);
   const QString reading = TopLine(view);
   const std::string oldest = page.Lines().front();
   for (int batch = 0; batch < 20; ++batch) {
     Add(50);
-    Run(100ms);
+    Run(200ms);
     ASSERT_EQ(TopLine(view), reading);
   }
   EXPECT_NE(page.Lines().front(), oldest);
@@ -180,53 +180,53 @@ TEST_F(TextPageViewTest, AReaderStaysOnHisLineWhileOlderOnesGo) {
 
 TEST_F(TextPageViewTest, AReaderWhoseLineGoesIsAtTheOldestThen) {
   Add(1500);
-  Run(100ms);
+  Run(200ms);
   ScrollTo(10);
   Add(1500);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(TopLine(view).toStdString(), page.Lines().front());
 }
 
 TEST_F(TextPageViewTest, ASelectionSurvivesWhatComes) {
   Add(200);
-  Run(100ms);
+  Run(200ms);
   Select(50, 90);
   const QString selected = view.textCursor().selectedText();
   Add(300);
-  Run(100ms);
+  Run(200ms);
   EXPECT_EQ(view.textCursor().selectedText(), selected);
 }
 
 TEST_F(TextPageViewTest, ASelectionToTheEndDoesNotGrow) {
   for (int round = 0; round < 2; ++round) {
     Add(5);
-    Run(100ms);
+    Run(200ms);
     view.selectAll();
     const QString selected = view.textCursor().selectedText();
     Add(3);
-    Run(100ms);
+    Run(200ms);
     EXPECT_EQ(view.textCursor().selectedText(), selected);
     page.Clear();
-    Run(100ms);
+    Run(200ms);
   }
 }
 
 TEST_F(TextPageViewTest, ASelectionSurvivesWhatGoesBeforeIt) {
   Add(1500);
-  Run(100ms);
+  Run(200ms);
   const int start = view.document()->findBlockByNumber(1300).position();
   Select(start, start + 25);
   const QString selected = view.textCursor().selectedText();
   const std::string oldest = page.Lines().front();
   Add(500);
-  Run(100ms);
+  Run(200ms);
   EXPECT_NE(page.Lines().front(), oldest);
   EXPECT_EQ(view.textCursor().selectedText(), selected);
 }
 
 TEST_F(TextPageViewTest, NothingCanBeTypedIntoIt) {
   Add(1);
-  Run(100ms);
+  Run(200ms);
   EXPECT_TRUE(view.isReadOnly());
 }
 
