@@ -1,7 +1,6 @@
 #include "ui/manual_window.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QHBoxLayout>
 #include <QImageReader>
 #include <QPushButton>
 #include <QScrollBar>
@@ -60,10 +59,10 @@ class Page : public QTextBrowser {
 
   // Those in view.
   void ReadPictures() {
-    const QTextBlock end = cursorForPosition(viewport()->rect().bottomRight()).block().next();
-    for (QTextBlock block = cursorForPosition({0, 0}).block(); block.isValid() && block != end;
-         block = block.next())
-      ReadPicturesOf(block);
+    const QAbstractTextDocumentLayout& layout = *document()->documentLayout();
+    const QRectF inView = viewport()->rect().translated(0, verticalScrollBar()->value());
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+      if (layout.blockBoundingRect(block).intersects(inView)) ReadPicturesOf(block);
   }
 
   void ReadPicturesOf(const QTextBlock& block) {
