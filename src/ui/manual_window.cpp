@@ -1,6 +1,7 @@
 #include "ui/manual_window.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QHBoxLayout>
 #include <QImageReader>
 #include <QPushButton>
 #include <QScrollBar>

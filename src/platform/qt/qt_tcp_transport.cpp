@@ -15,6 +15,7 @@ constexpr qint64 kReadBuffer = qint64{64} * 1024;
 // A stream of lines is taken in batches: each wake-up of the program costs more than a line does.
 // What comes first behind a write is an answer, and is told at once.
 constexpr Milliseconds kBatch{100};
+constexpr qint64 kMuch = kReadBuffer / 4;  // of bytes don't wait for their batch
 
 // How long a closed socket may go on sending to a peer that doesn't take it.
 constexpr Milliseconds kLongestFarewell = std::chrono::seconds(30);
@@ -137,6 +138,7 @@ void QtTcpTransport::Close() {
   news_.clear();
   rest_.clear();
   ended_ = false;
+  pausing_ = false;
   if (!socket_) return;
   QTcpSocket* const socket = std::exchange(socket_, nullptr);
   QObject::disconnect(socket, nullptr, &receiver_, nullptr);
@@ -149,7 +151,7 @@ std::size_t QtTcpTransport::Read(char* into, std::size_t size) {
     rest_.erase(0, count);
     return count;
   }
-  if (!socket_ || ended_) return 0;
+  if (!socket_ || ended_ || pausing_) return 0;
   const qint64 count = socket_->read(into, static_cast<qint64>(size));
   return static_cast<std::size_t>(std::max(count, qint64{0}));
 }
@@ -178,15 +180,20 @@ void QtTcpTransport::TellLater(News news) {
   if (!news_.empty() && news_.back() == news) return;
   news_.push_back(news);
   if (news_.size() > 1) return;
-  const bool batched = news == News::Readable;
+  const bool batched = news == News::Readable && socket_->bytesAvailable() < kMuch;
   const Milliseconds wait = batched ? toldReadable_ + kBatch - scheduler_.Now() : Milliseconds{0};
-  if (wait > Milliseconds{0}) StopReading();
+  if (wait > Milliseconds{0}) Pause();
   telling_ = scheduler_.After(wait, [this] { Tell(); });
 }
 
 // The system keeps what comes until it is asked for again.
-void QtTcpTransport::StopReading() {
+void QtTcpTransport::Pause() {
+  pausing_ = true;
   socket_->setReadBufferSize(std::max(socket_->bytesAvailable(), qint64{1}));
+}
+
+void QtTcpTransport::Resume() {
+  if (std::exchange(pausing_, false) && socket_) socket_->setReadBufferSize(kReadBuffer);
 }
 
 void QtTcpTransport::Tell() {
@@ -200,7 +207,7 @@ void QtTcpTransport::Tell() {
       return events->OnConnected();
     case News::Readable:
       toldReadable_ = scheduler_.Now();
-      if (socket_) socket_->setReadBufferSize(kReadBuffer);
+      Resume();
       return events->OnReadable();
     case News::PeerClosed:
       return events->OnPeerClosed();

@@ -34,7 +34,8 @@ class QtTcpTransport final : public TcpTransport {
   void OnError(QAbstractSocket::SocketError error);
   void End(News news);
   void TellLater(News news);
-  void StopReading();
+  void Pause();
+  void Resume();
   void Tell();
   bool Connected() const;
 
@@ -45,6 +46,7 @@ class QtTcpTransport final : public TcpTransport {
   std::deque<News> news_;                 // not yet told
   Milliseconds toldReadable_ = kLongAgo;  // when it was last told that there is something to read
   bool ended_ = false;
+  bool pausing_ = false;  // the batch is not due: nothing is read
   SocketFault fault_;
   std::string rest_;  // received and unread when the stream ended
   Registration telling_;
