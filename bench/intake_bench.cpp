@@ -72,7 +72,8 @@ double ResidentMegabytes() {
   return resident * 4096 / 1e6;
 }
 
-// The memory that the process holds once the stores and rings are full, and two million lines later.
+// The memory that the process holds once the stores and rings are full, and two million lines
+// later.
 void MillionsOfLines(benchmark::State& state) {
   Running running;
   const std::string stream = MixedStream(10'000);

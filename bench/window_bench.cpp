@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -14,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "on_practice_node.h"
 #include "platform/qt/qt_platform.h"
 #include "program/program.h"
 #include "ui/frames.h"
@@ -92,24 +92,6 @@ class Stretch {
   double processor_ = ProcessorSeconds();
   QElapsedTimer clock_ = Started();
 };
-
-// The port that the node says it has.
-QByteArray PortOf(QProcess& node) {
-  node.waitForReadyRead();
-  const QByteArray address = node.readLine().split(' ').value(2);
-  return address.mid(address.lastIndexOf(':') + 1);
-}
-
-void WriteConfiguration(const QString& folder, const QByteArray& port) {
-  QFile file(folder + "/molva.cfg");
-  if (!file.open(QFile::WriteOnly)) return;
-  file.write(
-      "\"My Call\",\"K1TST-2\"\r\n\"My Name\",\"ANNA\"\r\n\"My QTH\",\"Ann Arbor\"\r\n"
-      "\"My Grid\",\"EN82DG\"\r\n\"Gmt Offset\",\"Ok\"\r\n\"AutoStart\",-1\r\n"
-      "\"SelectedNode\",\"N0DE-1\"\r\n\"SelectedNodesAddress\",\"127.0.0.1\"\r\n"
-      "\"PrimaryPort\",\"" +
-      port + "\"\r\n");
-}
 
 }  // namespace
 

@@ -16,6 +16,7 @@ void Enable(core::Button& button, bool on, const char* whyNot) {
 ColourForm::ColourForm(core::Settings& settings, Needs needs)
     : settings_(settings), needs_(std::move(needs)) {
   std::vector<std::string> words;
+  words.reserve(kColourTable.size());
   for (const ColourRow& row : kColourTable) words.emplace_back(row.words);
   optColour.Options.Set(std::move(words));
   cmdChoose.Caption.Set("Choose colour...");

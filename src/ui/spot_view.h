@@ -77,6 +77,8 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  static constexpr core::Position kLongestShown = 300;  // of a row
+
   // Where the finger went down.
   struct Pressed {
     Number row;
@@ -109,6 +111,7 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   void Do(const spots::Click& click);
   void Release();
   void Copy() const;
+  QString Shown(Number row) const;
   Number FirstInSight() const;
   int RowsInSight() const;
   void Recolour();
