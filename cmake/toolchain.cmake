@@ -33,6 +33,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
                       -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 
+# What is packaged reads what strangers send.
+set(packaged $<CONFIG:Release,RelWithDebInfo>)
+add_compile_options($<${packaged}:-D_FORTIFY_SOURCE=2> $<${packaged}:-fstack-protector-strong>)
+add_link_options($<${packaged}:LINKER:-z,relro,-z,now>)
+
 if(MOLVA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
