@@ -201,8 +201,10 @@ void SpotParts::FollowReload(bool reloading) {
   pipeline.Reloading = reloading;
   if (!reloading) return table.EndReload();
   table.BeginReload();
-  // What is on show stands in the log: it would be there twice.
-  if (settings_.LogDxSpots) ClearSpots();
+  // What is on show stands in the log: it would be there, and be counted, twice.
+  if (!settings_.LogDxSpots) return;
+  ClearSpots();
+  table.ForgetCounts();
 }
 
 void SpotParts::Tick() {
