@@ -172,11 +172,12 @@ void SpotParts::TakeDisplay() {
   table.SetTableWidth(display.Layout().FullWidth);
 }
 
-void SpotParts::ReadLists() {
-  rejectLists.ReadReject();
-  fixList.ReadFixSpots();
-  membership.ReadLotw();
-  membership.ReadeQSL();
+FileReports SpotParts::ReadFiles() {
+  return {{{"state.dat", reference.Read()},
+           {"reject.dat", rejectLists.ReadReject()},
+           {"fixspots.dat", fixList.ReadFixSpots()},
+           {"lotw.txt", membership.ReadLotw()},
+           {"eqsl.txt", membership.ReadeQSL()}}};
 }
 
 void SpotParts::BeginLog() {

@@ -42,7 +42,7 @@ class Route : public SpotDesk {
   }
   void Fix(const std::string& entry) {
     world.files.content["/home/fixspots.dat"] = entry;
-    parts.ReadLists();
+    parts.ReadFiles();
   }
 };
 
@@ -124,7 +124,7 @@ TEST_F(Route, MembersOnlyDropsTheOthersBeforeTheyAreRemembered) {
   world.files.content["/home/lotw.txt"] = list;
   settings.ShLoTW = settings.RejectNotLoTWeQSL = true;
   parts.TakeSettings();
-  parts.ReadLists();
+  parts.ReadFiles();
   Receive(Line{});
   Receive({.call = "K1ABC"});
   EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
