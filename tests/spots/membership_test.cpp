@@ -212,7 +212,7 @@ TEST_F(MembershipTest, FileThatIsCutIsDamagedAndItsCallsCount) {
   EXPECT_EQ(membership.ReadeQSL(), FileState::Damaged);
   EXPECT_EQ(membership.LotwCount(), 2u);
   EXPECT_EQ(membership.EqslCount(), 2u);
-  world.files.content["/f/lotw.txt"] = LotwText("K1LOTW\r\n&& end");
+  world.files.content["/f/lotw.txt"] = LotwText("K1LOTW\r\n") + "&& end";
   EXPECT_EQ(membership.ReadLotw(), FileState::Read) << "the list ends before its last line";
 }
 
