@@ -5,6 +5,7 @@
 #include "core/quoted.h"
 #include "core/text.h"
 #include "program/data_files.h"
+#include "program/file_condition.h"
 #include "program/program.h"
 #include "program/save_condition.h"
 
@@ -164,8 +165,7 @@ platform::Task<> Program::PrepareSession() {
 }
 
 platform::Task<> Program::ReadSpotFiles() {
-  spotParts.ReadReference();
-  spotParts.ReadLists();
+  ShowFiles(conditions, spotParts.ReadFiles());
   co_return;
 }
 

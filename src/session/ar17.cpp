@@ -12,6 +12,10 @@ namespace {
 
 // How long a node may take to name its software.
 constexpr auto kPatience = 5s;
+// And how long an AR-Cluster to answer the question.
+constexpr auto kAnswerWait = 30s;
+
+constexpr auto kNotCapable = "Node is NOT AR17 capable";
 
 struct Wording {
   NodeKind kind;
@@ -51,6 +55,15 @@ void Ar17::LoggedIn() {
   overdue_ = scheduler_.After(kPatience, [this] { state_.Ar17Overdue = true; });
 }
 
+void Ar17::Asked() {
+  silent_ = scheduler_.After(kAnswerWait, [this] { TakeSilenceForRefusal(); });
+}
+
+void Ar17::Forget() {
+  overdue_.Release();
+  silent_.Release();
+}
+
 bool Ar17::ArpcReply(std::string_view line) {
   if (!state_.LoggedIn) return false;
   const bool settled = state_.ArpcAsked || state_.ArpcRefused;
@@ -84,7 +97,7 @@ bool Ar17::Refused(std::string_view line) {
   if (!Holds(line, "SET/DX_ARPC command error")) return false;
   state_.ArpcRefused = true;
   lblDxState.Caption.Set("DX State");
-  lblStatus.Caption.Set("Node is NOT AR17 capable");
+  lblStatus.Caption.Set(kNotCapable);
   return true;
 }
 
@@ -106,9 +119,21 @@ bool Ar17::CallIsRefused(std::string_view line) {
   return true;
 }
 
+// Nobody has typed a line or read an answer: the command line stays as it is.
+void Ar17::TakeSilenceForRefusal() {
+  if (state_.ArpcAsked || state_.Ar17Refused()) return;
+  state_.Ar17Silent = true;
+  lblStatus.Caption.Set(kNotCapable);
+  GoOn();
+}
+
 void Ar17::Settle() {
-  duelling_.DuelArmed = true;
   needs_.settled();
+  if (!state_.Ar17Silent) GoOn();  // else that is done
+}
+
+void Ar17::GoOn() {
+  duelling_.DuelArmed = true;
   if (!state_.IsArCluster() || !state_.WantMissedSpots) return;
   state_.FirstConnect = false;
   requests_.GetEm();

@@ -31,8 +31,11 @@ class Ar17 {
 
   // The call has gone out: a node that names no software counts as refusing after some seconds.
   void LoggedIn();
+  // An AR-Cluster has been asked for them. Silence counts as its refusal after a while, until it
+  // answers.
+  void Asked();
   // The session has ended.
-  void Forget() { overdue_.Release(); }
+  void Forget();
 
   // A line handler; true claims the line.
   bool ArpcReply(std::string_view line);
@@ -42,7 +45,9 @@ class Ar17 {
   bool Refused(std::string_view line);
   void RefusedBySoftware();
   bool CallIsRefused(std::string_view line);
+  void TakeSilenceForRefusal();
   void Settle();
+  void GoOn();
 
   platform::Scheduler& scheduler_;
   SessionState& state_;
@@ -54,6 +59,7 @@ class Ar17 {
   LoginRequests& requests_;
   Needs needs_;
   platform::Registration overdue_;
+  platform::Registration silent_;
 };
 
 }  // namespace session

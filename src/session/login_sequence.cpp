@@ -107,6 +107,7 @@ platform::Task<> LoginSequence::AskAr(std::uint64_t session) {
   co_await platform::Delay(kBetweenSends);
   if (state_.Sessions != session) co_return;
   outgoing_.Send(settings_.DxARPCoff ? "dont_set/dx_arpc on" : "set/dx_arpc on");
+  needs_.ar17Asked();
 }
 
 bool LoginSequence::ArFirstPrompt(std::string_view line) {

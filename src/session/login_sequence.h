@@ -16,6 +16,7 @@ class LoginSequence {
  public:
   struct Needs {
     std::function<void()> profileAsked;  // "stat/user" is on its way
+    std::function<void()> ar17Asked;     // so is the question for the extended spot lines
   };
 
   LoginSequence(const core::Settings& settings, SessionState& state, Outgoing& outgoing,

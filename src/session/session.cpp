@@ -90,7 +90,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                    show("Nothing opens this link", link);
                  }),
       loginSequence(settings, state, outgoing, intake, needs.requests,
-                    {.profileAsked = needs.profileAsked}),
+                    {.profileAsked = needs.profileAsked, .ar17Asked = [this] { ar17.Asked(); }}),
       profileHints(settings, state, outgoing),
       ar17(platform.scheduler, state, outgoing, intake, connection, duelling, keepAlive,
            needs.requests,

@@ -10,6 +10,7 @@ void SessionState::Recognise(NodeKind kind) {
 
 bool SessionState::Ar17Refused() const {
   if (ArpcRefused || !DialectOf(Kind).hasAr17) return true;
+  if (Ar17Silent && !ArpcAsked) return true;
   return Kind == NodeKind::Unknown && Ar17Overdue;
 }
 

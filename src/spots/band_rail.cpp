@@ -13,7 +13,12 @@ BandRail::BandRail(std::function<void(int band)> firstUnseen)
   captions.reserve(kBands.size());
   for (const Band& band : kBands) captions.emplace_back(band.label);
   optBand.Options.Set(std::move(captions));
+  ForgetCounts();
+}
+
+void BandRail::ForgetCounts() {
   for (int band = 0; band < kBandCount; ++band) {
+    counts_[Index(band)].total = 0;
     lblTotal[Index(band)].Caption.Set("0");
     ClearUnseen(band);
   }

@@ -27,6 +27,8 @@ class BandRail {
   // is no such band.
   bool Increment(std::string_view bandLabel);
 
+  // Every count begins anew: what was counted is coming again.
+  void ForgetCounts();
   // All spots of the band have been seen.
   void ClearUnseen(int band);
 

@@ -49,8 +49,4 @@ constexpr const Band& BandAt(int band) { return kBands[static_cast<std::size_t>(
 // The band that holds the frequency; 0 if none does.
 int BandOf(double kHz);
 
-// The band of a row of the table by the frequency that it shows. Here every band reaches up to the
-// next one; 0 below the lowest, and for a row without a frequency.
-int GetBand(std::string_view row);
-
 }  // namespace spots

@@ -9,18 +9,9 @@
 namespace spots {
 namespace {
 
-using core::InStr;
-using core::Mid;
-using core::Position;
-
 constexpr std::size_t kSpotterAndFrequency = 17;
 constexpr std::size_t kShortField = 3;
 constexpr std::size_t kLongField = 5;
-
-constexpr Position kSpotterColumn = 7;
-constexpr Position kFrequencyEnd = 24;
-constexpr Position kFrequencyWidth = 11;
-constexpr Position kCallColumn = 27;
 
 bool IsBlank(std::string_view text) { return core::Trim(text).empty(); }
 
@@ -72,7 +63,7 @@ void AppendFrequency(double kHz, std::string& text) {
 }
 
 void AppendDay(std::string_view date, std::string& text) {
-  const Position dash = InStr(date, "-");
+  const core::Position dash = core::InStr(date, "-");
   AppendRightAligned(core::Right(core::Trim(core::Left(date, dash - 1)), 2), 2, text);
 }
 
@@ -115,18 +106,5 @@ std::size_t ClassicRow(const Spot& spot, const RowLayout& layout, const ClassicO
 }
 
 std::string Stars(int width) { return std::string(static_cast<std::size_t>(width), '*'); }
-
-RowCalls LookUpCalls(std::string_view row) {
-  const Position colon = InStr(kSpotterColumn, row, ":");
-  if (colon == 0)
-    return {.call = Mid(row, kCallColumn, kCallWidth), .spotter = {}, .frequency = {}};
-  const std::string_view behind = core::LTrim(Mid(row, colon + 1));
-  const Position wordEnd = core::Len(row) - core::Len(behind) + InStr(behind, " ") - 1;
-  const Position end = std::max(wordEnd, kFrequencyEnd);
-  const Position start = std::max(colon + 1, end - kFrequencyWidth + 1);
-  return {.call = Mid(row, end - kFrequencyEnd + kCallColumn, kCallWidth),
-          .spotter = Mid(row, kSpotterColumn, colon - kSpotterColumn),
-          .frequency = core::Trim(Mid(row, start, end - start + 1))};
-}
 
 }  // namespace spots

@@ -55,8 +55,4 @@ struct RowCalls {
 // made the row.
 RowCalls LookUpCalls(const TableRow& row);
 
-// Of the text of a classic row alone: the call's 12 columns, with the blanks. Total: what the text
-// doesn't have is empty.
-RowCalls LookUpCalls(std::string_view row);
-
 }  // namespace spots

@@ -71,6 +71,7 @@ DxSort::Item DxSort::ItemOf(const TableRow& row, const SortMoment& now) const {
 void DxSort::Rebuild(const std::deque<TableRow>& rows, const SortMoment& now) {
   Grow(1);
   items_.clear();
+  since_ = 0;
   for (const TableRow& row : rows)
     if (row.IsSpot()) items_.push_back(ItemOf(row, now));
   std::sort(items_.begin(), items_.end(), Before);
@@ -125,15 +126,24 @@ void DxSort::Prune(const SortMoment& moment) {
 
 void DxSort::FitRoom(const SortMoment& now) {
   Prune(now);
-  if (window_ == kWholeHour) title_ = "Last Hour";
   while (room_ > 0 && items_.size() > room_ && window_ > 0) {
     --window_;
     Prune(now);
-    const auto oldest =
-        std::min_element(items_.begin(), items_.end(),
-                         [](const Item& a, const Item& b) { return a.minute < b.minute; });
-    title_ = "Since " + (oldest == items_.end() ? Clock(Counted(now)) : Clock(oldest->minute));
   }
+  since_ = std::max(since_, Counted(now) - window_);
+  MakeTitle(Counted(now));
+}
+
+// A window that has grown again brings nothing back of what it has let go.
+void DxSort::MakeTitle(int now) {
+  if (since_ <= now - kWholeHour) {
+    title_ = "Last Hour";
+    return;
+  }
+  const auto oldest =
+      std::min_element(items_.begin(), items_.end(),
+                       [](const Item& a, const Item& b) { return a.minute < b.minute; });
+  title_ = "Since " + Clock(oldest == items_.end() ? now : oldest->minute);
 }
 
 }  // namespace spots

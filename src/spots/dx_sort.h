@@ -39,7 +39,7 @@ class DxSort {
     for (const Item& item : items_) use(item.row);
   }
   bool IsEmpty() const { return items_.empty(); }
-  // "Last Hour", or "Since 2145" where there is no room for the whole.
+  // "Last Hour", or "Since 2145" by the oldest on show where there was no room for all of it.
   const std::string& Title() const { return title_; }
   int SortWindow() const { return window_; }  // in minutes
 
@@ -57,11 +57,13 @@ class DxSort {
   void Grow(std::size_t calls);
   void Prune(const SortMoment& now);
   void FitRoom(const SortMoment& now);
+  void MakeTitle(int now);
 
   std::vector<Item> items_;
   std::vector<Item> kept_;  // while pruning
   std::string title_ = "Last Hour";
   int window_ = 60;
+  int since_ = 0;  // of what is older something may have been let go; counted as the items are
   std::size_t room_ = 0;
   bool dayFlag_ = false;  // it has been before the last hour of the day
   int minute_ = 0;        // of the day, when CountsAnew was asked last

@@ -14,6 +14,7 @@ struct Column {
 };
 constexpr Column kCall = {1, kFixCallWidth};
 constexpr Column kUsed = {19, 1};
+constexpr Column kSeam = {kFixCallWidth, 2};  // the last of the call, and the first behind it
 constexpr Column kMask = {49, 2};
 constexpr std::array<Column, kFixFields> kColumns = {{{21, 5}, {27, 3}, {30, 2}, {33, 2}, {36, 4}}};
 constexpr std::size_t kRowWidth = 50;
@@ -83,7 +84,14 @@ std::optional<FixEntry> ParseRecord(std::string_view record) {
   return entry;
 }
 
+// A word that runs on behind the columns of a call is none, nor is its beginning.
+bool RunsOn(std::string_view row) {
+  const std::string_view seam = core::Trim(Cut(row, kSeam));
+  return seam.size() == kSeam.width && seam.back() != kUsedMark;
+}
+
 std::optional<FixEntry> ParseRow(std::string_view row) {
+  if (RunsOn(row)) return std::nullopt;
   std::array<std::string_view, kFixFields> fields;
   for (std::size_t i = 0; i < kFixFields; ++i) fields[i] = Cut(row, kColumns[i]);
   auto entry = MakeFixEntry(Cut(row, kCall), fields);
@@ -123,6 +131,11 @@ std::optional<FixEntry> MakeFixEntry(std::string_view call,
 }
 
 bool IsFixRow(std::string_view line) { return line.find(',') == std::string_view::npos; }
+
+bool IsFixHeading(std::string_view line) {
+  const std::string_view call = core::Trim(IsFixRow(line) ? Cut(line, kCall) : TakeField(line));
+  return call.empty() || IsHeading(call);
+}
 
 std::optional<FixEntry> ParseFixLine(std::string_view line) {
   return IsFixRow(line) ? ParseRow(line) : ParseRecord(line);

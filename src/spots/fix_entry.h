@@ -35,9 +35,11 @@ struct FixEntry {
 std::optional<FixEntry> MakeFixEntry(std::string_view call,
                                      const std::array<std::string_view, kFixFields>& fields);
 
-// Reads a line of either form. Nothing for an empty or malformed line and for a heading.
+// Reads a line of either form. Nothing for an empty or malformed line and for a heading. Of a row
+// the first 50 columns count.
 std::optional<FixEntry> ParseFixLine(std::string_view line);
-bool IsFixRow(std::string_view line);  // the form of columns
+bool IsFixRow(std::string_view line);      // the form of columns
+bool IsFixHeading(std::string_view line);  // or a line that is empty
 
 // The row: 50 characters.
 std::string FixRow(const FixEntry& entry);

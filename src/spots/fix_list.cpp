@@ -37,25 +37,32 @@ FixList::FixList(platform::Files& files, platform::Scheduler& scheduler, core::E
       errorLog_(errorLog),
       path_(std::move(folder) + "/fixspots.dat") {}
 
-void FixList::ReadFixSpots() {
+FileState FixList::ReadFixSpots() {
   Clear();
   const auto content = files_.Read(path_);
-  fileHoldsMore_ = content.fault != Fault::None && content.fault != Fault::NotFound;
+  fileHoldsMore_ = StateOf(content.fault) == FileState::Unreadable;
   if (fileHoldsMore_) Report("Form_load", content.fault);
-  Take(content.bytes);
+  const FileState state =
+      content.fault == Fault::None ? Take(content.bytes) : StateOf(content.fault);
   Changed.Tell();
+  return state;
 }
 
-void FixList::Take(std::string_view text) {
+FileState FixList::Take(std::string_view text) {
+  const bool torn = IsTorn(text);
+  bool foreign = false;
   while (!text.empty()) {
     const std::string_view line = core::TakeLine(text);
     auto entry = ParseFixLine(line);
+    foreign = foreign || (!entry && !IsFixHeading(line));
     if (!entry) continue;
     fileHoldsMore_ = FixCount() == kMostEntries;
-    if (fileHoldsMore_) return;
+    if (fileHoldsMore_) return FileState::TooLong;
     if (IsFixRow(line)) delayedCBOtoFixSpotsConversion();
     Append(std::move(*entry));
   }
+  fileHoldsMore_ = foreign && entries_.empty();
+  return torn || fileHoldsMore_ ? FileState::Damaged : FileState::Read;
 }
 
 bool FixList::ApplySpotFix(std::string_view call, FixTarget target, const FixRules& rules) {

@@ -10,6 +10,7 @@
 #include "core/error_log.h"
 #include "platform/files.h"
 #include "platform/scheduler.h"
+#include "spots/file_state.h"
 #include "spots/fix_entry.h"
 #include "spots/fix_index.h"
 #include "spots/node_facts.h"
@@ -54,8 +55,9 @@ class FixList {
   std::size_t FixCount() const { return entries_.size(); }
 
   // Reads the file, in either form or both mixed. Without one the list is empty. One that can't be
-  // read, or holds more than kMostEntries, is not written over until it is read whole.
-  void ReadFixSpots();
+  // read, holds more than kMostEntries, or nothing of a list, is not written over until it is read
+  // whole.
+  FileState ReadFixSpots();
 
   // Corrects what is known of the call. True if an entry fits it, changed or not.
   bool ApplySpotFix(std::string_view call, FixTarget target, const FixRules& rules);
@@ -83,7 +85,7 @@ class FixList {
  private:
   unsigned Correct(FixEntry& entry, FixTarget target, const FixRules& rules);
   void Note(FixEntry& entry, unsigned bits);
-  void Take(std::string_view text);
+  FileState Take(std::string_view text);
   void Append(FixEntry entry);
   void Merge(FixEntry entry);
   void Clear();

@@ -43,6 +43,7 @@ void TakeSorted(std::string_view text, EqslFile& file) {
     const std::string_view call = core::TakeLine(text);
     if (MayBeCall(call)) file.calls.push_back(call);
   }
+  file.whole = file.calls.size() >= count;
 }
 
 void TakeFetched(std::string_view text, EqslFile& file) {
@@ -59,6 +60,7 @@ void TakeFetched(std::string_view text, EqslFile& file) {
 std::optional<LotwFile> ParseLotw(std::string_view text) {
   if (core::TakeLine(text) != "LOTW") return std::nullopt;
   LotwFile file;
+  const bool lineEnds = text.ends_with('\n');
   std::size_t lines = 1;
   bool ended = false;
   for (; !text.empty() && file.calls.size() < kMostMembers; ++lines) {
@@ -69,6 +71,7 @@ std::optional<LotwFile> ParseLotw(std::string_view text) {
       TakeColumn(core::Mid(line, column * kLotwColumn + 1, kLotwColumn), file);
   }
   if (lines < kLeastLotwLines) return std::nullopt;
+  file.whole = ended || lineEnds;
   return file;
 }
 

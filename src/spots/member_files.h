@@ -17,6 +17,7 @@ inline constexpr std::size_t kLongestMember = 32;
 struct LotwFile {
   std::vector<std::string_view> calls;
   std::size_t skipped = 0;  // columns that are marked as no call to list
+  bool whole = true;        // it ends where it should
 };
 // Nothing if it is not such a file, or one that is damaged.
 std::optional<LotwFile> ParseLotw(std::string_view text);
@@ -25,7 +26,7 @@ struct EqslFile {
   std::string_view title;
   std::vector<std::string_view> calls;
   bool sorted = false;  // was rewritten with its calls in order
-  bool whole = true;    // all its calls are here
+  bool whole = true;    // all its calls are here: as many as it says, if it says so
 };
 // The text is in upper case. Nothing if it is not such a file. `calls` of a file as it was fetched
 // come sorted by their bytes.

@@ -44,6 +44,11 @@ constexpr std::array kEmpty = {" LoTW database is Empty.  Click to Update. ",
 
 std::size_t Both(bool lotw, bool eqsl) { return (eqsl ? 2u : 0u) + (lotw ? 1u : 0u); }
 
+// Of a file that gave no list.
+FileState WithoutCalls(platform::Files::Fault fault) {
+  return fault == platform::Files::Fault::None ? FileState::Damaged : StateOf(fault);
+}
+
 std::string Users(const char* list, const CallTable& calls) {
   return std::string("Show ") + list + " (" + std::to_string(calls.Count()) + " users)";
 }
@@ -120,26 +125,29 @@ void Membership::CheckerSetup() {
   lblLotw.Visible.Set(on != 0);
 }
 
-void Membership::ReadLotw(Origin origin) {
+FileState Membership::ReadLotw(Origin origin) {
   const auto content = files_.Read(folder_ + "/lotw.txt");
   const auto file = ParseLotw(content.bytes);
   lotwCalls_ = CallTable(file ? file->calls : std::vector<std::string_view>{});
   skippedLotw_ = file ? file->skipped : 0;
-  if (!file) return;
+  if (!file) return WithoutCalls(content.fault);
   showlotw.Caption.Set(lotwCalls_.Empty() ? kEmpty[0] : Users("LoTW", lotwCalls_));
   if (origin == Origin::Fetched)
     files_.Replace(folder_ + "/lotwlist.txt", lotwCalls_.Lines("\r\n"));
+  return file->whole ? FileState::Read : FileState::Damaged;
 }
 
-void Membership::ReadeQSL() {
+FileState Membership::ReadeQSL() {
   const std::string path = folder_ + "/eqsl.txt";
   auto content = files_.Read(path);
   for (char& byte : content.bytes) byte = core::UCase(byte);
   const auto file = ParseEqsl(content.bytes);
   eqslCalls_ = CallTable(file ? file->calls : std::vector<std::string_view>{});
-  if (!file) return;
+  if (!file) return WithoutCalls(content.fault);
   showeqsl.Caption.Set(eqslCalls_.Empty() ? kEmpty[1] : Users("eQSL", eqslCalls_));
   if (!file->sorted && file->whole) files_.Replace(path, FormatEqsl(*file));
+  if (file->whole) return FileState::Read;
+  return file->sorted ? FileState::Damaged : FileState::TooLong;
 }
 
 void Membership::FindLotw(std::string_view call) {

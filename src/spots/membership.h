@@ -10,6 +10,7 @@
 #include "core/settings.h"
 #include "platform/files.h"
 #include "spots/call_table.h"
+#include "spots/file_state.h"
 #include "spots/spot.h"
 
 namespace spots {
@@ -51,8 +52,8 @@ class Membership {
   // Read the files lotw.txt and eqsl.txt. One that is missing or of no good leaves its list empty
   // and the caption as it was. A fetched LoTW list also goes into lotwlist.txt, a call a line; an
   // eQSL list as it was fetched is rewritten in order.
-  void ReadLotw(Origin origin = Origin::Stored);
-  void ReadeQSL();
+  FileState ReadLotw(Origin origin = Origin::Stored);
+  FileState ReadeQSL();
 
   // Looks the call up, byte for byte, in the lists that are on.
   void FindLotw(std::string_view call);

@@ -11,9 +11,9 @@ namespace spots {
 ReferenceData::ReferenceData(platform::Files& files, platform::Dialogs& dialogs, std::string folder)
     : files_(files), dialogs_(dialogs), folder_(std::move(folder)) {}
 
-void ReferenceData::Read() {
+FileState ReferenceData::Read() {
   ReadWLCty(files_, dialogs_, folder_, countries);
-  ReadState(files_, folder_, states);
+  return ReadState(files_, folder_, states);
 }
 
 void ReferenceData::SetHome(const Home& home) {

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "spots/cty_table.h"
 #include "spots/expanded_row.h"
+#include "spots/file_state.h"
 #include "spots/spot.h"
 #include "spots/state_table.h"
 
@@ -20,8 +21,9 @@ class ReferenceData {
   CtyTable countries;
   StateTable states;
 
-  // Reads both files; what is missing stays empty, which the user is told of the countries.
-  void Read();
+  // Reads both files; what is missing stays empty, which the user is told of the countries. Gives
+  // what became of that of the states.
+  FileState Read();
   // Where headings are counted from. Cheap if it is the same.
   void SetHome(const Home& home);
 

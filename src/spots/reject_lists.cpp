@@ -16,6 +16,8 @@ using Fault = platform::Files::Fault;
 // By Kind.
 constexpr std::array<std::string_view, RejectLists::kKinds> kKindWords = {"Dx", "Call", "Comment"};
 
+constexpr auto kBlank = " \t\r\n";
+
 // How the file gives a text back.
 std::string AsKept(std::string_view text) {
   std::string kept = core::QuotedField(text);
@@ -30,28 +32,35 @@ RejectLists::RejectLists(platform::Files& files, const core::Settings& settings,
   lblRejected.Visible.Set(false);
 }
 
-void RejectLists::ReadReject() {
+FileState RejectLists::ReadReject() {
   for (const Kind kind : {kDx, kCall, kComment}) {
     lstReject[kind].Clear();
     Forget(kind);
   }
   const auto content = files_.Read(path_);
-  const bool unread = content.fault != Fault::None && content.fault != Fault::NotFound;
-  fileHoldsMore_ = unread || content.bytes.size() > kMostBytes;
-  Take(std::string_view(content.bytes).substr(0, kMostBytes));
+  const FileState state = StateOf(content.fault);
+  fileHoldsMore_ = state == FileState::Unreadable || content.bytes.size() > kMostBytes;
+  const std::size_t lines = Take(std::string_view(content.bytes).substr(0, kMostBytes));
+  if (state != FileState::Read) return state;
+  if (fileHoldsMore_) return FileState::TooLong;
+  fileHoldsMore_ = lines == 0 && content.bytes.find_first_not_of(kBlank) != std::string::npos;
+  return fileHoldsMore_ || IsTorn(content.bytes) ? FileState::Damaged : FileState::Read;
 }
 
-void RejectLists::Take(std::string_view text) {
+std::size_t RejectLists::Take(std::string_view text) {
+  std::size_t lines = 0;
   while (!text.empty()) {
     const core::RecordPair pair = core::SplitRecord(core::TakeLine(text));
     const auto word = std::find(kKindWords.begin(), kKindWords.end(), pair.first);
     if (word == kKindWords.end()) continue;
+    ++lines;
     const auto kind = static_cast<Kind>(word - kKindWords.begin());
     if (IsFull(kind))
       fileHoldsMore_ = true;
     else
       Add(kind, pair.second);
   }
+  return lines;
 }
 
 Fault RejectLists::WriteReject() const {

@@ -11,6 +11,7 @@
 #include "core/list_box.h"
 #include "core/settings.h"
 #include "platform/files.h"
+#include "spots/file_state.h"
 #include "spots/rejected_calls.h"
 #include "spots/rejected_words.h"
 #include "spots/spot.h"
@@ -37,8 +38,9 @@ class RejectLists {
 
   // Takes the lists from the file. Without one, or with one that can't be read, they are empty.
   // What is blank or held already is skipped, and so are other kinds.
-  void ReadReject();
-  // A file that could not be read, or not whole, is not written over until it is: that is a fault.
+  FileState ReadReject();
+  // A file that could not be read, or not whole, or that holds nothing of a list, is not written
+  // over until it is: that is a fault.
   platform::Files::Fault WriteReject() const;
 
   // Adds an entry at the end; its double quotes are left out and line ends become blanks, as in the
@@ -66,7 +68,8 @@ class RejectLists {
   RejectedCalls::Place FindCall(const Spot& spot) const;
   void Count(std::string reason);
   const std::string& Entry(Kind kind, std::size_t place) const;
-  void Take(std::string_view text);
+  // How many lines are of a list.
+  std::size_t Take(std::string_view text);
   bool IsFull(Kind kind) const { return lstReject[kind].Items().size() >= kMostEntries; }
   void Forget(Kind kind);
   void Index(Kind kind, const std::string& entry);

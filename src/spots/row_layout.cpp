@@ -29,9 +29,6 @@ constexpr int kShortWord = 3;
 constexpr int kLongWord = 5;
 constexpr int kDayField = 3;
 
-constexpr std::string_view kClassicHeader =
-    "     Spotter      Freq       DX          Comments                            ";
-
 struct Word {
   Switch shown;
   Column column;
@@ -81,35 +78,32 @@ struct Piece {
   int lead;
   int width;
   int step;
-  std::string_view head;
 };
 
 constexpr std::array kPieces = {
-    Piece{nullptr, Column::Spotter, 0, kSpotterColumns, 12, "Spotter"},
-    Piece{&ShownColumns::SpotterIp, Column::SpotterIp, 0, 15, 16, "Spotter IP      "},
-    Piece{&ShownColumns::OrigCty, Column::OrigCty, 0, 5, 6, " Cty "},
-    Piece{&ShownColumns::OrigState, Column::OrigState, 0, 2, 3, "St "},
-    Piece{&ShownColumns::OrigCq, Column::OrigCq, 0, 2, 3, "Cq "},
-    Piece{&ShownColumns::OrigItu, Column::OrigItu, 0, 2, 3, "Itu"},
-    Piece{&ShownColumns::OrigGrid, Column::OrigGrid, 0, 4, 5, "Grid "},
-    Piece{&ShownColumns::Node, Column::Node, 1, 12, 10, " Node     "},
-    Piece{nullptr, Column::Freq, 0, kFreqWidth, kFreqWidth + 1, "       Freq"},
-    Piece{nullptr, Column::Time, 0, kTimeColumns, kTimeColumns, "Time"},
-    Piece{nullptr, Column::DxCall, 1, kCallColumns, 13, "  DX        "},
-    Piece{&ShownColumns::DxCty, Column::DxCty, 0, 5, 6, "DxQTH "},
-    Piece{&ShownColumns::DxState, Column::DxState, 0, 2, 3, "St "},
-    Piece{&ShownColumns::DxCq, Column::DxCq, 0, 2, 3, "Cq "},
-    Piece{&ShownColumns::DxItu, Column::DxItu, 0, 2, 3, "Itu"},
-    Piece{&ShownColumns::DxGrid, Column::DxGrid, 0, 4, 5, "Grid "},
-    Piece{&ShownColumns::Bearing, Column::Bearing, 1, 3, 4, " deg"},
-    Piece{&ShownColumns::Distance, Column::Distance, 1, 5, 6, " mile "},
-    Piece{&ShownColumns::Date, Column::Day, 1, 2, 3, "Day"},
+    Piece{nullptr, Column::Spotter, 0, kSpotterColumns, 12},
+    Piece{&ShownColumns::SpotterIp, Column::SpotterIp, 0, 15, 16},
+    Piece{&ShownColumns::OrigCty, Column::OrigCty, 0, 5, 6},
+    Piece{&ShownColumns::OrigState, Column::OrigState, 0, 2, 3},
+    Piece{&ShownColumns::OrigCq, Column::OrigCq, 0, 2, 3},
+    Piece{&ShownColumns::OrigItu, Column::OrigItu, 0, 2, 3},
+    Piece{&ShownColumns::OrigGrid, Column::OrigGrid, 0, 4, 5},
+    Piece{&ShownColumns::Node, Column::Node, 1, 12, 10},
+    Piece{nullptr, Column::Freq, 0, kFreqWidth, kFreqWidth + 1},
+    Piece{nullptr, Column::Time, 0, kTimeColumns, kTimeColumns},
+    Piece{nullptr, Column::DxCall, 1, kCallColumns, 13},
+    Piece{&ShownColumns::DxCty, Column::DxCty, 0, 5, 6},
+    Piece{&ShownColumns::DxState, Column::DxState, 0, 2, 3},
+    Piece{&ShownColumns::DxCq, Column::DxCq, 0, 2, 3},
+    Piece{&ShownColumns::DxItu, Column::DxItu, 0, 2, 3},
+    Piece{&ShownColumns::DxGrid, Column::DxGrid, 0, 4, 5},
+    Piece{&ShownColumns::Bearing, Column::Bearing, 1, 3, 4},
+    Piece{&ShownColumns::Distance, Column::Distance, 1, 5, 6},
+    Piece{&ShownColumns::Date, Column::Day, 1, 2, 3},
 };
-constexpr std::string_view kKilometresHead = "  km  ";
-constexpr std::string_view kCommentHead = " Comments";
 
 // The spotter's grid stands two further right where no ITU zone stands before it.
-constexpr Piece kGridAlone = {&ShownColumns::OrigGrid, Column::OrigGrid, 2, 4, 6, "  Grid"};
+constexpr Piece kGridAlone = {&ShownColumns::OrigGrid, Column::OrigGrid, 2, 4, 6};
 
 const Piece& PieceFor(const Piece& piece, const ShownColumns& shown) {
   return piece.column == Column::OrigGrid && !shown.OrigItu ? kGridAlone : piece;
@@ -134,18 +128,6 @@ void PlaceExpanded(RowLayout& layout) {
   });
   if (shown.Comments || shown.CountryName)
     Place(layout, Column::Comment, layout.FullWidth + 2, kToRowEnd);
-}
-
-std::string ExpandedHeader(const RowLayout& layout) {
-  std::string header;
-  ForEachPiece(layout.shape.shown, [&](const Piece& piece, int start) {
-    header.resize(static_cast<std::size_t>(start - 1), ' ');
-    const bool km = piece.column == Column::Distance && layout.shape.shown.Kilometres;
-    header += km ? kKilometresHead : piece.head;
-  });
-  header.resize(static_cast<std::size_t>(layout.FullWidth), ' ');
-  if (layout.Shows(Column::Comment)) header += kCommentHead;
-  return header;
 }
 
 // Sort buttons.
@@ -175,10 +157,6 @@ RowLayout ArPcScreenSetup(const RowShape& shape) {
   else
     PlaceClassic(layout);
   return layout;
-}
-
-std::string HeaderRow(const RowLayout& layout) {
-  return layout.IsExpanded() ? ExpandedHeader(layout) : std::string(kClassicHeader);
 }
 
 Column SortColumn(int button) {

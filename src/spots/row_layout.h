@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -58,9 +57,6 @@ struct RowLayout {
 
 // Allocates nothing.
 RowLayout ArPcScreenSetup(const RowShape& shape);
-
-// The heads of the columns as one line over the rows.
-std::string HeaderRow(const RowLayout& layout);
 
 // Buttons that sort: their numbers are those of the columns, but for the first two and this one.
 inline constexpr int kLastHour = 0;   // the summary of the last hour

@@ -25,7 +25,4 @@ class SpotNumbers {
   const core::Settings& settings_;
 };
 
-// A number right-aligned in two columns, with a blank behind it.
-std::string FixNr(int n);
-
 }  // namespace spots

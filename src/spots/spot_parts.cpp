@@ -176,11 +176,12 @@ void SpotParts::TakeDisplay() {
   table.SetTableWidth(display.Layout().FullWidth);
 }
 
-void SpotParts::ReadLists() {
-  rejectLists.ReadReject();
-  fixList.ReadFixSpots();
-  membership.ReadLotw();
-  membership.ReadeQSL();
+FileReports SpotParts::ReadFiles() {
+  return {{{"state.dat", reference.Read()},
+           {"reject.dat", rejectLists.ReadReject()},
+           {"fixspots.dat", fixList.ReadFixSpots()},
+           {"lotw.txt", membership.ReadLotw()},
+           {"eqsl.txt", membership.ReadeQSL()}}};
 }
 
 void SpotParts::BeginLog() {
@@ -205,8 +206,10 @@ void SpotParts::FollowReload(bool reloading) {
   pipeline.Reloading = reloading;
   if (!reloading) return table.EndReload();
   table.BeginReload();
-  // What is on show stands in the log: it would be there twice.
-  if (settings_.LogDxSpots) ClearSpots();
+  // What is on show stands in the log: it would be there, and be counted, twice.
+  if (!settings_.LogDxSpots) return;
+  ClearSpots();
+  table.ForgetCounts();
 }
 
 void SpotParts::Tick() {

@@ -11,6 +11,7 @@
 #include "platform/tasks.h"
 #include "spots/display_choice.h"
 #include "spots/duplicates.h"
+#include "spots/file_state.h"
 #include "spots/fix_form.h"
 #include "spots/fix_list.h"
 #include "spots/grid_recorder.h"
@@ -74,9 +75,9 @@ class SpotParts {
 
   // The settings have been read or changed.
   void TakeSettings();
-  // Reads the files of the start: first those on countries, then the rest.
-  void ReadReference() { reference.Read(); }
-  void ReadLists();
+  // Reads the files of the start: first those on countries, then the rest. What is wrong with that
+  // of the countries the user has been told.
+  FileReports ReadFiles();
   // The end of the start: the log goes on, and what it holds comes back if that is wanted.
   void BeginLog();
   // Ten times a second: what waits goes into a sorted view, and counts are shown.

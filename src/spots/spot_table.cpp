@@ -82,6 +82,12 @@ void SpotTable::ClearSpots() {
   UpdateDxSpots();
 }
 
+void SpotTable::ForgetCounts() {
+  rail.ForgetCounts();
+  unseen_ = 0;
+  TabCaption.Set("DX");
+}
+
 void SpotTable::Store(const TableRow& row, int band) {
   const bool skimmer = row.RowKind() == TableRow::Kind::Skimmer;
   for (const int view : {kAllSpots, skimmer ? kSkimmerSpots : kOtherSpots}) {

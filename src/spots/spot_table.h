@@ -55,6 +55,8 @@ class SpotTable {
 
   // Empties all stores: the rows go, what has been counted stays.
   void ClearSpots();
+  // What has been counted goes too: of spots that are to come again.
+  void ForgetCounts();
 
   // The order of the rows, by the number of a sort button. Pressed with the middle button of the
   // mouse it shows them from their end; with the right one no spotter is left out of the order by

@@ -22,13 +22,17 @@ StateTable::Row RowOf(std::string_view line) {
           .heading = {}};
 }
 
+bool HasPosition(const StateTable::Row& row) {
+  return row.position.latitude != 0 && row.position.longitude != 0;
+}
+
 }  // namespace
 
-void StateTable::Read(std::string_view text) {
+bool StateTable::Read(std::string_view text) {
   text = text.substr(0, kMostBytes);
   core::TakeLine(text);
   std::string_view rest = text;
-  if (core::InStr(core::TakeLine(rest), "ALABAMA") == 0) return;
+  if (core::InStr(core::TakeLine(rest), "ALABAMA") == 0) return false;
   lines_.clear();
   while (!text.empty() && lines_.size() < kMostLines) {
     const std::string_view line = core::TakeLine(text);
@@ -39,6 +43,11 @@ void StateTable::Read(std::string_view text) {
   for (const std::string& line : lines_)
     if (rows_.size() < kMostRows) rows_.push_back(RowOf(line));
   ComputeHeadings();
+  return true;
+}
+
+bool StateTable::IsComplete() const {
+  return rows_.size() == kMostRows && std::all_of(rows_.begin(), rows_.end(), HasPosition);
 }
 
 void StateTable::SetHome(const Home& home) {
@@ -50,8 +59,7 @@ void StateTable::SetHome(const Home& home) {
 void StateTable::ComputeHeadings() {
   Heading last;
   for (Row& row : rows_) {
-    if (row.position.latitude != 0 && row.position.longitude != 0)
-      last = Bearing(home_, row.position);
+    if (HasPosition(row)) last = Bearing(home_, row.position);
     row.heading = last;
   }
 }
@@ -65,9 +73,11 @@ bool StateTable::FindHeadingState(std::string_view state, Heading& current) cons
   return found;
 }
 
-void ReadState(platform::Files& files, const std::string& folder, StateTable& table) {
+FileState ReadState(platform::Files& files, const std::string& folder, StateTable& table) {
   const auto content = files.Read(folder + "/state.dat");
-  if (content.fault == platform::Files::Fault::None) table.Read(content.bytes);
+  if (content.fault != platform::Files::Fault::None) return StateOf(content.fault);
+  const bool taken = table.Read(content.bytes);
+  return taken && table.IsComplete() ? FileState::Read : FileState::Damaged;
 }
 
 }  // namespace spots

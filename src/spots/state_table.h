@@ -7,6 +7,7 @@
 
 #include "platform/files.h"
 #include "spots/bearing.h"
+#include "spots/file_state.h"
 
 namespace spots {
 
@@ -27,8 +28,10 @@ class StateTable {
   };
 
   // Takes the file's text in place of what was read before. A text whose second line doesn't name
-  // Alabama changes nothing. Total, and bounded; lines may end in CR LF or LF.
-  void Read(std::string_view text);
+  // Alabama changes nothing: false. Total, and bounded; lines may end in CR LF or LF.
+  bool Read(std::string_view text);
+  // It has all states and provinces, each with its position.
+  bool IsComplete() const;
   // The headings follow it. There is none at first.
   void SetHome(const Home& home);
 
@@ -49,7 +52,8 @@ class StateTable {
   std::vector<Row> rows_;
 };
 
-// Reads "state.dat" of the folder into the table. Without one nothing happens.
-void ReadState(platform::Files& files, const std::string& folder, StateTable& table);
+// Reads "state.dat" of the folder into the table. Without one nothing happens. One that lacks a
+// state, or a position, is damaged; what it has counts.
+FileState ReadState(platform::Files& files, const std::string& folder, StateTable& table);
 
 }  // namespace spots

@@ -340,6 +340,24 @@ TEST_F(SpotFaults, MissingFilesOfTheUserAreNothingToTell) {
   EXPECT_THAT(Table(), HasSubstr("K1A "));
 }
 
+// A node that never says whether it sends extended lines.
+
+TEST_F(SpotFaults, PlainSpotsOfAnArClusterThatStaysSilentAreShownInTheEnd) {
+  program = &desk.Start();
+  program->session.connection.cmdConnect.Press();
+  desk.world.Run(2s);
+  node.Say("login: ");
+  desk.world.Run(1s);
+  node.Say("\r\nWelcome to the N0NODE AR-Cluster node\r\n");
+  node.Say("K1TST-2 de N0NODE 20-Nov-2026 2100Z   arc >\r\n");
+  desk.world.Run(20s);
+  ReceiveSpot("K1EARLY");
+  EXPECT_THAT(Table(), IsEmpty());
+  desk.world.Run(10s);
+  ReceiveSpot("K1LATE");
+  EXPECT_EQ(Table(), "K1LATE ");
+}
+
 // A clock that is put right, or wrong.
 
 class ClockJump : public SpotFaults, public testing::WithParamInterface<std::chrono::minutes> {};

@@ -115,6 +115,86 @@ TEST_F(Ar17Test, ArClusterIsNotAskedForMissedSpotsThatNobodyWants) {
   EXPECT_THAT(above.asked, IsEmpty());
 }
 
+// A node that leaves the question without an answer.
+
+class SilentArCluster : public Ar17Test {
+ protected:
+  // The question goes out.
+  void Ask() {
+    LogInToAr();
+    Receive(kArPrompt);
+    LetPass(1s);
+    ExpectSent({"SET/DX_ARPC ON"});
+  }
+  bool Refused() const { return program.state.Ar17Refused(); }
+};
+
+TEST_F(SilentArCluster, CountsAsRefusingThirtySecondsBehindTheQuestion) {
+  Ask();
+  LetPass(28s);
+  EXPECT_FALSE(Refused());
+  EXPECT_FALSE(program.duelling.DuelArmed);
+  LetPass(2s);
+  EXPECT_TRUE(Refused());
+  EXPECT_FALSE(program.state.ArpcRefused) << "it has not said so";
+  EXPECT_TRUE(program.duelling.DuelArmed);
+  EXPECT_EQ(Status(), "Node is NOT AR17 capable");
+}
+
+TEST_F(SilentArCluster, LosesNothingOfWhatIsBeingTyped) {
+  Ask();
+  program.commandLine.txtCmdLine.UserTypes("sh/dx");
+  LetPass(30s);
+  EXPECT_TRUE(Refused());
+  EXPECT_EQ(program.commandLine.txtCmdLine.Text.Get(), "sh/dx");
+}
+
+TEST_F(SilentArCluster, IsAskedForMissedSpotsOnceWhetherItAnswersLaterOrNot) {
+  program.state.WantMissedSpots = program.state.FirstConnect = true;
+  Ask();
+  LetPass(30s);
+  EXPECT_THAT(above.asked, ElementsAre("GetEm"));
+  Receive("DX ArPc enabled");
+  EXPECT_THAT(above.asked, ElementsAre("GetEm"));
+}
+
+TEST_F(SilentArCluster, AnswerThatComesLaterStillCounts) {
+  Ask();
+  LetPass(1min);
+  Receive("DX ArPc enabled for K1TST-2");
+  ExpectSent({"KeepAlive Rx 5  V2.4315"});
+  EXPECT_FALSE(Refused());
+  EXPECT_TRUE(program.state.ArpcAsked);
+  EXPECT_EQ(Status(), "Node is AR17 Capable");
+  EXPECT_EQ(ar17Settled, 1);
+}
+
+TEST_F(SilentArCluster, RefusalThatComesLaterIsClaimedToo) {
+  Ask();
+  LetPass(1min);
+  Receive("SET/DX_ARPC command error");
+  EXPECT_TRUE(program.state.ArpcRefused);
+  EXPECT_THAT(log.Of("Third"), Not(Contains("SET/DX_ARPC command error")));
+}
+
+TEST_F(SilentArCluster, AnswerInTimeIsNotTakenBack) {
+  Ask();
+  Receive("DX ArPc enabled");
+  LetPass(1min);
+  EXPECT_FALSE(Refused());
+  EXPECT_EQ(Status(), "Node is AR17 Capable");
+}
+
+TEST_F(SilentArCluster, SilenceOfTheLastSessionDoesNotCountForTheNextOne) {
+  Ask();
+  LetPass(20s);
+  NodeCloses();
+  LogInToAr();
+  LetPass(20s);
+  EXPECT_TRUE(program.state.LoggedIn);
+  EXPECT_FALSE(Refused());
+}
+
 struct Incapable {
   const char* greeting;
   const char* status;

@@ -4,15 +4,9 @@
 
 #include <cmath>
 #include <limits>
-#include <string>
 
 namespace spots {
 namespace {
-
-// A row of the table with that frequency.
-std::string Row(const std::string& kHz) {
-  return "DX de DL1ABC:" + std::string(11 - kHz.size(), ' ') + kHz + "  3Y0J         CW";
-}
 
 TEST(Bands, FrequencyThatIsNoneHasNoBand) {
   for (const double kHz :
@@ -52,27 +46,6 @@ TEST(Bands, MicrowavesLieAboveTheirLimitAndHaveNoEnd) {
   EXPECT_EQ(BandOf(902000), 0);
   EXPECT_EQ(BandOf(902000.1), 15);
   EXPECT_EQ(BandOf(1e300), 15);
-}
-
-TEST(BandsOfRows, RowWithoutAFrequencyHasNone) {
-  for (const std::string_view row : {"", "DX de ", "DX de DL1ABC:", "********************",
-                                     "DX de DL1ABC:   nonsense  3Y0J", "no row at all"})
-    EXPECT_EQ(GetBand(row), 0) << row;
-}
-
-TEST(BandsOfRows, BelowTheLowestBandThereIsNone) {
-  EXPECT_EQ(GetBand(Row("1799.9")), 0);
-  EXPECT_EQ(GetBand(Row("1800.0")), 1);
-}
-
-TEST(BandsOfRows, EachReachesUpToTheNext) {
-  EXPECT_EQ(GetBand(Row("3499.9")), 1);
-  EXPECT_EQ(GetBand(Row("9999.9")), 4);
-  EXPECT_EQ(GetBand(Row("69999.9")), 11);
-  EXPECT_EQ(GetBand(Row("70000.0")), 16);
-  EXPECT_EQ(GetBand(Row("143999.9")), 16);
-  EXPECT_EQ(GetBand(Row("902000.0")), 14);
-  EXPECT_EQ(GetBand(Row("10368100.0")), 15);
 }
 
 }  // namespace

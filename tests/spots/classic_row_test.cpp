@@ -84,46 +84,6 @@ TEST(ClassicRow, FrequencyHasOneDecimalRoundedHalfUp) {
 
 TEST(StarsTest, AreAsManyAsTheWidth) { EXPECT_EQ(Stars(5), "*****"); }
 
-TEST(LookUpCallsTest, RowWithoutItsColumnsHasNothing) {
-  for (const std::string_view row : {"", "DX de ", "DX de :", "DX de DL1ABC", "a:b:c:d"}) {
-    const RowCalls calls = LookUpCalls(row);
-    EXPECT_EQ(calls.call, "") << row;
-    EXPECT_EQ(calls.frequency, "") << row;
-  }
-}
-
-TEST(LookUpCallsTest, TakesTheColumnsOfCallSpotterAndFrequency) {
-  const std::string row = RowText(Usual());
-  const RowCalls calls = LookUpCalls(row);
-  EXPECT_EQ(calls.call, "3Y0J        ");
-  EXPECT_EQ(calls.spotter, "DL1ABC");
-  EXPECT_EQ(calls.frequency, "14025.0");
-}
-
-TEST(LookUpCallsTest, TakesTheFirstTwelveCharactersOfALongerCall) {
-  Spot spot = Usual();
-  spot.DxCall = "K6NNN/QRPP/MM";
-  const std::string row = RowText(spot);
-  EXPECT_EQ(LookUpCalls(row).call, "K6NNN/QRPP/M");
-}
-
-TEST(LookUpCallsTest, FollowsAShiftedRow) {
-  Spot spot = Usual();
-  spot.Spotter = "EA8/DF4UE-#";
-  spot.Freq = 1296117.1;
-  const std::string row = RowText(spot);
-  const RowCalls calls = LookUpCalls(row);
-  EXPECT_EQ(calls.call, "3Y0J        ");
-  EXPECT_EQ(calls.spotter, "EA8/DF4UE-#");
-  EXPECT_EQ(calls.frequency, "1296117.1");
-}
-
-TEST(LookUpCallsTest, CallOfASeparatorIsAsterisks) {
-  const std::string row = Stars(kDefaultSpotWidth);
-  EXPECT_EQ(LookUpCalls(row).call, "************");
-  EXPECT_EQ(LookUpCalls(row).spotter, "");
-}
-
 TEST(LookUpCallsTest, OfARowTakesTheWholeCalls) {
   Spot spot = Usual();
   spot.DxCall = "K6NNN/QRPP/MM";

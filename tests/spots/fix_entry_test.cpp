@@ -26,6 +26,21 @@ TEST(FixEntryTest, RowIsMadeAsItWasRead) {
   EXPECT_EQ(FixRow(*ParseFixLine("G0AA")), "G0AA                                            00");
 }
 
+TEST(FixEntryTest, OfALongerRowFiftyColumnsCount) {
+  for (const char* more : {"  heard on 20 m", "9", "                 K2XYZ"}) {
+    const auto entry = ParseFixLine(std::string(kRow) + more);
+    ASSERT_TRUE(entry) << more;
+    EXPECT_EQ(FixRow(*entry), kRow) << more;
+  }
+}
+
+TEST(FixEntryTest, WordThatRunsOnBehindTheColumnsOfACallIsNoCall) {
+  EXPECT_FALSE(ParseFixLine("K1ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
+  EXPECT_FALSE(ParseFixLine("K1ABCDEFGHIJKLMNOPQ"));
+  EXPECT_TRUE(ParseFixLine("K1ABCDEFGHIJKLMNOP"));
+  EXPECT_TRUE(ParseFixLine("K1ABCDEFGHIJKLMNOP5"));  // it has been used
+}
+
 TEST(FixEntryTest, RecordIsReadByItsFields) {
   for (const char* line :
        {"\"K1ABC\",\"K\",\"MA\",\"05\",\"08\",\"FN42\",\"19\"", "K1ABC,K,MA,05,08,FN42,19",

@@ -281,6 +281,29 @@ TEST_F(FixListTest, FileThatMayNotBeReadIsReportedAndNotWrittenOver) {
   EXPECT_THAT(Errors(), HasSubstr("writefix"));
 }
 
+TEST_F(FixListTest, FileThatHoldsNoEntryIsDamagedAndNotWrittenOver) {
+  for (const std::string text : {"<html>\r\n", "K1 ABC", "\x01\x02\xFF"}) {
+    world.files.content[kListFile] = text;
+    EXPECT_EQ(list.ReadFixSpots(), FileState::Damaged) << text;
+    list.WriteFix();
+    EXPECT_EQ(File(), text);
+  }
+}
+
+TEST_F(FixListTest, FileThatIsCutIsDamagedAndItsEntriesHold) {
+  world.files.content[kListFile] = "\"K1ABC\",\"K\"\r\n\"G0AA\",\"G";
+  EXPECT_EQ(list.ReadFixSpots(), FileState::Damaged);
+  EXPECT_EQ(CtyOf("K1ABC"), "K");
+}
+
+TEST_F(FixListTest, EmptyListUnderItsHeadingIsGood) {
+  for (const char* text : {"", "\r\n", "CALL                CTY\r\n", "\"oldcall\",\"\"\r\n",
+                           "K1ABC,K\r\n<html>\r\n"}) {
+    world.files.content[kListFile] = text;
+    EXPECT_EQ(list.ReadFixSpots(), FileState::Read) << text;
+  }
+}
+
 TEST_F(FixListTest, FileBeyondMeasureIsReadInPartAndNotWrittenOver) {
   std::string text;
   for (std::size_t i = 0; i <= FixList::kMostEntries; ++i) text += "K" + std::to_string(i) + ",K\n";

@@ -107,11 +107,39 @@ TEST_F(RejectListsTest, FileThatMayNotBeReadIsNotWrittenOver) {
   EXPECT_EQ(lists.WriteReject(), Fault::None);
 }
 
+TEST_F(RejectListsTest, FileThatHoldsNothingOfAListIsDamagedAndNotWrittenOver) {
+  for (const std::string text : {"<html>\r\n", "\"K1ABC\",\"K\"\r\n", "\x01\x02\xFF"}) {
+    files.content[kListsPath] = text;
+    EXPECT_EQ(lists.ReadReject(), FileState::Damaged) << text;
+    lists.Add(RejectLists::kDx, "K1ABC");
+    EXPECT_EQ(lists.WriteReject(), Fault::Other);
+    EXPECT_EQ(files.content[kListsPath], text);
+  }
+}
+
+TEST_F(RejectListsTest, FileThatIsCutIsDamagedAndItsEntriesHold) {
+  files.content[kListsPath] = "\"Dx\",\"P5DX\"\r\n\"Call\",\"W1A";
+  EXPECT_EQ(lists.ReadReject(), FileState::Damaged);
+  EXPECT_TRUE(Rejects("P5DX"));
+  EXPECT_EQ(lists.WriteReject(), Fault::None) << "nothing more is to be had of it";
+}
+
+TEST_F(RejectListsTest, EmptyFileAndOneWithoutItsLastLineEndAreGood) {
+  for (const char* text : {"", "\r\n", "\"Dx\",\"\"\r\n", "\"Dx\",\"P5DX\"", "Dx,P5DX"}) {
+    files.content[kListsPath] = text;
+    EXPECT_EQ(lists.ReadReject(), FileState::Read) << text;
+    EXPECT_EQ(lists.WriteReject(), Fault::None) << text;
+  }
+  files.content.clear();
+  EXPECT_EQ(lists.ReadReject(), FileState::Missing);
+}
+
 TEST_F(RejectListsTest, FileBeyondMeasureIsReadInPartAndNotWrittenOver) {
   std::string text;
   for (std::size_t i = 0; i <= RejectLists::kMostEntries; ++i)
     text += "\"Dx\",\"K" + std::to_string(i) + "\"\r\n";
-  Keep(text + "\"Call\",\"W1ABC\"\r\n");
+  files.content[kListsPath] = text + "\"Call\",\"W1ABC\"\r\n";
+  EXPECT_EQ(lists.ReadReject(), FileState::TooLong);
   EXPECT_EQ(Entries(RejectLists::kDx).size(), RejectLists::kMostEntries);
   EXPECT_THAT(Entries(RejectLists::kCall), ElementsAre("W1ABC"));
   EXPECT_EQ(lists.WriteReject(), Fault::Other);

@@ -35,7 +35,7 @@ class RouteOrder : public SpotDesk {
   void Fix(const std::string& call, const std::string& country) {
     world.files.content["/home/fixspots.dat"] =
         "\"" + call + "\",\"" + country + "\",\"\",\"\",\"\",\"\",\"00\"\r\n";
-    parts.ReadLists();
+    parts.ReadFiles();
   }
   std::string Log() {
     parts.log.Close();
@@ -115,7 +115,7 @@ TEST_F(RouteOrder, RejectedSpotIsCountedWhetherMemberOrNot) {
   for (int i = 0; i < 1100; ++i) members += "K1ABC         \r\n";
   settings.RejSpots = settings.ShLoTW = settings.RejectNotLoTWeQSL = true;
   parts.TakeSettings();
-  parts.ReadLists();
+  parts.ReadFiles();
   parts.rejectLists.Add(RejectLists::kDx, "3Y0J");
   Receive({.call = "ZS1AA"});
   EXPECT_THAT(CallsInTable(), IsEmpty()) << "it is no member either";

@@ -42,7 +42,7 @@ class Route : public SpotDesk {
   }
   void Fix(const std::string& entry) {
     world.files.content["/home/fixspots.dat"] = entry;
-    parts.ReadLists();
+    parts.ReadFiles();
   }
 };
 
@@ -124,7 +124,7 @@ TEST_F(Route, MembersOnlyDropsTheOthersBeforeTheyAreRemembered) {
   world.files.content["/home/lotw.txt"] = list;
   settings.ShLoTW = settings.RejectNotLoTWeQSL = true;
   parts.TakeSettings();
-  parts.ReadLists();
+  parts.ReadFiles();
   Receive(Line{});
   Receive({.call = "K1ABC"});
   EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
@@ -233,6 +233,40 @@ TEST_F(Route, ReloadAtAnyTimeShowsWhatIsLoggedOnce) {
     world.Run(1s);
     EXPECT_THAT(CallsInTable(), SizeIs(300)) << again;
   }
+}
+
+TEST_F(Route, ReloadCountsEverySpotOnce) {
+  const auto total = [this](std::size_t band) { return table.rail.lblTotal[band].Caption.Get(); };
+  const auto unseen = [this](std::size_t band) { return table.rail.lblUnseen[band].Caption.Get(); };
+  table.LeaveTab();
+  for (int i = 0; i < 30; ++i) Receive({.call = "K" + std::to_string(i) + "ABC"});
+  parts.reload.ReloadSpots();
+  world.Run(1s);
+  EXPECT_EQ(total(k20m), "30");
+  EXPECT_EQ(total(spots::kAllBands), "30");
+  EXPECT_EQ(unseen(k20m), "30");
+  EXPECT_EQ(table.TabCaption.Get(), "DX = 30");
+  Receive({.call = "3Y0J"});
+  EXPECT_EQ(total(k20m), "31");
+}
+
+TEST_F(Route, ReloadForgetsTheCountOfWhatItDoesNotBringBack) {
+  ReceiveCalls({"K1ABC"}, "7012.0");
+  parts.log.Close();
+  world.files.content.erase(kLog);
+  Receive(Line{});
+  parts.reload.ReloadSpots();
+  world.Run(1s);
+  EXPECT_EQ(table.rail.lblTotal[k40m].Caption.Get(), "0");
+  EXPECT_FALSE(table.rail.lblUnseen[k40m].Visible.Get());
+}
+
+TEST_F(Route, ReloadKeepsTheCountOfWhatWasNotLogged) {
+  settings.LogDxSpots = false;
+  Receive(Line{});
+  parts.reload.ReloadSpots();
+  world.Run(1s);
+  EXPECT_EQ(table.rail.lblTotal[k20m].Caption.Get(), "1");
 }
 
 TEST_F(Route, ReloadKeepsWhatWasNotLogged) {

@@ -154,13 +154,5 @@ TEST_F(SpotsFormTest, SpotNumbersAreShownAsTheSettingSays) {
   EXPECT_EQ(numbers.txtrtb2.Caption.Get(), "57");
 }
 
-TEST(FixNr, FillsTwoColumnsAndEndsInABlank) {
-  EXPECT_EQ(FixNr(0), " 0 ");
-  EXPECT_EQ(FixNr(9), " 9 ");
-  EXPECT_EQ(FixNr(10), "10 ");
-  EXPECT_EQ(FixNr(99), "99 ");
-  EXPECT_EQ(FixNr(100), "100 ");
-}
-
 }  // namespace
 }  // namespace spots

@@ -133,6 +133,21 @@ TEST_F(StateTableTest, AFileThatIsMissingDoesNothing) {
   EXPECT_EQ(table.StateCount(), 1);
 }
 
+TEST_F(StateTableTest, FileThatLacksAStateOrAPositionIsDamaged) {
+  platform::sim::SimFiles files;
+  std::string& text = files.content["/molva/state.dat"];
+  EXPECT_EQ(ReadState(files, "/molva", table), FileState::Damaged) << "empty";
+  text = RepositoryFile();
+  EXPECT_EQ(ReadState(files, "/molva", table), FileState::Read);
+  text.erase(text.find_last_not_of("\r\n"));  // the end of the last longitude
+  EXPECT_EQ(ReadState(files, "/molva", table), FileState::Read);
+  text.resize(text.rfind('.'));
+  text.resize(text.rfind(' '));
+  EXPECT_EQ(ReadState(files, "/molva", table), FileState::Damaged) << "no longitude";
+  text.resize(text.rfind('\n') + 1);
+  EXPECT_EQ(ReadState(files, "/molva", table), FileState::Damaged) << "no last state";
+}
+
 class OwnStateFile : public StateTableTest {
  protected:
   OwnStateFile() {

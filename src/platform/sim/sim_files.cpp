@@ -6,6 +6,7 @@ namespace platform::sim {
 
 Files::Content SimFiles::Read(const std::string& path) {
   if (Denied(path)) return {Fault::Denied, {}};
+  if (folders.contains(path)) return {Fault::Other, {}};
   const auto file = content.find(path);
   if (file == content.end()) return {Fault::NotFound, {}};
   return {Fault::None, file->second};
@@ -13,6 +14,7 @@ Files::Content SimFiles::Read(const std::string& path) {
 
 Files::Fault SimFiles::Replace(const std::string& path, std::string_view bytes, Access access) {
   if (Denied(path)) return Fault::Denied;
+  if (folders.contains(path)) return Fault::Other;
   const std::string beside = path + ".new";
   content[beside].clear();
   if (const Fault fault = Write(content[beside], bytes); fault != Fault::None) {
@@ -31,6 +33,7 @@ Files::Fault SimFiles::Replace(const std::string& path, std::string_view bytes, 
 
 Files::Fault SimFiles::Append(const std::string& path, std::string_view bytes) {
   if (Denied(path)) return Fault::Denied;
+  if (folders.contains(path)) return Fault::Other;
   return Write(content[path], bytes);
 }
 
