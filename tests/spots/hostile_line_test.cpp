@@ -39,7 +39,7 @@ class HostileLine : public SpotDesk {
     EXPECT_NE(spots::BandOf(parts.spot.Freq), 0) << testing::PrintToString(line);
     EXPECT_GE(parts.spot.DxCall.size(), 2u) << testing::PrintToString(line);
     EXPECT_GE(parts.spot.Spotter.size(), 3u) << testing::PrintToString(line);
-    if (!CallsInTable().empty()) spots::LookUpCalls(table.RtbDx.Rows().back());
+    if (!table.RtbDx.Rows().empty()) spots::LookUpCalls(table.RtbDx.Rows().back());
   }
 };
 
