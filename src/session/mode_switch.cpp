@@ -61,6 +61,11 @@ bool ModeSwitch::HoldsOther(bool overTnc) const {
   return session_.state.TncMode != overTnc && session_.state.Phase.Get() != LinkPhase::Disconnected;
 }
 
+// Still, or the last words to its TNC are on their way.
+bool ModeSwitch::Ends(bool overTnc) const {
+  return HoldsOther(overTnc) || !session_.tncLink.MSComm1->AllWritten();
+}
+
 platform::Task<bool> ModeSwitch::EndOther(bool overTnc) {
   if (HoldsOther(overTnc) && session_.state.LoggedIn) {
     const bool may = co_await MayEnd();
@@ -68,10 +73,7 @@ platform::Task<bool> ModeSwitch::EndOther(bool overTnc) {
   }
   if (!HoldsOther(overTnc)) co_return true;
   session_.connection.cmdDisconnect.Press();
-  const auto ends = [this, overTnc] {
-    return HoldsOther(overTnc) || !session_.tncLink.MSComm1->AllWritten();
-  };
-  for (int pauses = 0; ends() && pauses < kMostPauses; ++pauses)
+  for (int pauses = 0; Ends(overTnc) && pauses < kMostPauses; ++pauses)
     co_await platform::Delay(core::kPause);
   co_return !HoldsOther(overTnc);
 }

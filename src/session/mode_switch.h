@@ -41,6 +41,7 @@ class ModeSwitch {
   platform::Task<bool> EndOther(bool overTnc);
   platform::Task<bool> MayEnd();
   bool HoldsOther(bool overTnc) const;
+  bool Ends(bool overTnc) const;
   void Take(bool overTnc);
   void AskWhatTheTncLacks();
 
