@@ -45,6 +45,7 @@ UserInfo::UserInfo(core::Settings& settings, Needs needs)
   cmdCancel.Caption.Set("Cancel");
   chkSystemZone.Caption.Set("Use the computer's time zone");
   lblFromGrid.Caption.Set("Worked out from the grid");
+  lblFromGrid.Visible.Set(false);
   Watch();
 }
 

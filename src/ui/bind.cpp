@@ -64,7 +64,7 @@ void BindCaption(QAbstractButton* widget, core::Control& model, Frames& frames) 
   BindProperty<std::string>(widget, model.Caption, frames,
                             [widget, named](const std::string& text) {
                               const QString line = OneLine(text, kLongestLabel);
-                              widget->setText(Caption(*widget, line));
+                              widget->setText(Caption(*widget, line.trimmed()));
                               if (!named) widget->setAccessibleName(line.trimmed());
                             });
 }

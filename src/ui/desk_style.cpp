@@ -25,7 +25,9 @@ void BeginFrame(QPainter& painter, const QStyleOption& option, const QColor& bor
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(border);
   const bool pressed = option.state.testFlag(QStyle::State_Sunken);
-  painter.setBrush(option.palette.color(pressed ? QPalette::Highlight : QPalette::Base));
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const QPalette::ColorRole unpressed = enabled ? QPalette::Base : QPalette::Window;
+  painter.setBrush(option.palette.color(pressed ? QPalette::Highlight : unpressed));
 }
 
 void DrawTick(QPainter& painter, const QStyleOption& option) {

@@ -108,9 +108,9 @@ void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, 
 }
 
 // The style sheet may have looked at the button before.
-void MakePrimary(QPushButton* button) {
-  button->setProperty("primary", true);
-  button->setDefault(true);
+void MakePrimary(QPushButton* button, bool primary) {
+  button->setProperty("primary", primary);
+  if (primary) button->setDefault(true);
   button->style()->unpolish(button);
   button->style()->polish(button);
 }

@@ -32,8 +32,8 @@ void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, 
 QPushButton* AddButton(QBoxLayout* row, const QString& name, const QString& mnemonic,
                        core::Button& model, Frames& frames);
 
-// Makes it the one that Return presses, and shows that.
-void MakePrimary(QPushButton* button);
+// Makes it the one that Return presses, and shows that; or no longer.
+void MakePrimary(QPushButton* button, bool primary = true);
 
 // Adds a line that is there only while it says something; spoken when it changes.
 QLabel* AddNotice(QBoxLayout* column, const QString& name, core::Label& model, Frames& frames);

@@ -37,7 +37,8 @@ constexpr QSize kUsualSize(1280, 800);
 // The page of the manual for what is on show.
 std::string_view PageFor(int view) {
   if (view == program::Views::Dx) return "dx";
-  if (view == program::Views::Settings) return "technical";
+  if (view == program::Views::Settings) return "window#The settings";
+  if (view == program::Views::LoginMsg) return "window#The login message";
   return "index";
 }
 
@@ -76,6 +77,10 @@ MainWindow::MainWindow(program::Program& program, Frames& frames, LiveTheme& the
   });
   placing_ = program.form.Observe([this](const program::FormPlace& place) { Place(place); });
   alone_ = program.rawPane.Maximised.Observe([this](bool alone) { pages_->setVisible(!alone); });
+  // Also where that tab is the one on show already.
+  connect(tabs_, &QTabBar::tabBarClicked, this, [this](int tab) {
+    if (tab >= 0) ChooseTab(tab);
+  });
   connect(splitter_, &QSplitter::splitterMoved, this, [this] { StorePlace(); });
   commandRow_->Line()->setFocus();
 }
@@ -296,8 +301,9 @@ void MainWindow::Do(const Command& command) {
     case Act::ChooseTheme:
       return program_.appearance.optTheme.UserSelects(command.number);
     case Act::ChooseTab:
-      return program_.views.Choose(command.number);
+      return ChooseTab(command.number);
     case Act::ChooseBand:
+      ShowPages();
       return program_.dxTab.ChooseBand(command.number);
     case Act::RawView:
       return program_.rawPane.Turn();
@@ -314,7 +320,8 @@ void MainWindow::Do(const Command& command) {
     case Act::SmallerText:
       return program_.textSizes.Change(ViewAtHand(), -1);
     case Act::Manual:
-      return OpenManual(PageFor(program_.views.onShow.Get()));
+      return OpenManual(program_.rawPane.Maximised.Get() ? "window#The raw view"
+                                                         : PageFor(program_.views.onShow.Get()));
     case Act::ListKeys:
       return ListKeys();
     case Act::About:
@@ -357,8 +364,18 @@ Menus::State MainWindow::StateOf(const Command& command) const {
   }
 }
 
-void MainWindow::ReturnToTable() {
+// The raw view gives back what it has taken of the window.
+void MainWindow::ShowPages() {
   if (program_.rawPane.Maximised.Get()) program_.rawPane.Turn();
+}
+
+void MainWindow::ChooseTab(int tab) {
+  if (program_.views.tab[static_cast<std::size_t>(tab)].Enabled.Get()) ShowPages();
+  program_.views.Choose(tab);
+}
+
+void MainWindow::ReturnToTable() {
+  ShowPages();
   program_.views.Choose(program::Views::Dx);
   dx_->setFocus(Qt::OtherFocusReason);
 }

@@ -53,6 +53,8 @@ class MainWindow : public QMainWindow {
   void AddKeys();
   void Do(const Command& command);
   Menus::State StateOf(const Command& command) const;
+  void ShowPages();
+  void ChooseTab(int tab);
   void ReturnToTable();
   void GoRound();
   void Find();

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextTable>
 #include <QVBoxLayout>
 
 namespace ui {
@@ -13,6 +14,7 @@ namespace {
 
 constexpr QSize kUsualSize(760, 640);
 constexpr int kMargin = 8;
+constexpr int kAboveHeading = 16;
 constexpr int kStepOfAList = 40;  // what stands in a list begins further right
 
 // A picture of a window is wider than a page that is read: it is drawn as wide as the page. A page
@@ -35,6 +37,8 @@ class Page : public QTextBrowser {
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override {
     document()->setLayoutEnabled(false);
     QTextBrowser::doSetSource(name, type);
+    SetHeadings();
+    SetTables();
     document()->setLayoutEnabled(true);
   }
 
@@ -46,6 +50,39 @@ class Page : public QTextBrowser {
 
  private:
   static constexpr QImage::Format kUnread = QImage::Format_Mono;  // no picture of a window is
+
+  // Half bold, and hardly larger than the text: room says where something new begins.
+  void SetHeadings() {
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+      const int level = block.blockFormat().headingLevel();
+      QTextBlockFormat room;
+      room.setTopMargin(level > 0 ? kAboveHeading : 0);
+      room.setBottomMargin(kMargin);
+      QTextCursor cursor(block);
+      cursor.mergeBlockFormat(room);
+      if (level == 0) continue;
+      cursor.select(QTextCursor::BlockUnderCursor);
+      QTextCharFormat letters;
+      letters.setProperty(QTextFormat::FontSizeAdjustment, level == 1 ? 1 : 0);
+      letters.setFontWeight(QFont::DemiBold);
+      cursor.mergeCharFormat(letters);
+    }
+  }
+
+  void SetTables() {
+    for (QTextFrame* frame : document()->rootFrame()->childFrames()) {
+      auto* table = qobject_cast<QTextTable*>(frame);
+      if (table == nullptr) continue;
+      QTextTableFormat format = table->format();
+      format.setBorderCollapse(true);
+      format.setBorder(1);
+      format.setBorderBrush(palette().color(QPalette::Mid));
+      format.setCellSpacing(0);
+      format.setCellPadding(4);
+      format.setBottomMargin(kMargin);
+      table->setFormat(format);
+    }
+  }
 
   // The pages and their pictures are in the program.
   QString FileOf(const QUrl& name) const {

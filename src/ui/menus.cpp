@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QMenu>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -20,11 +21,20 @@ constexpr std::array kTitles = {
     Title{Menu::Help, QT_TR_NOOP("&Help")},
 };
 
+// One key does both of them.
+const Command& CommandWithKeyOf(const Command& command) {
+  if (command.act != Act::Connect && command.act != Act::Disconnect) return command;
+  const auto all = Commands();
+  return *std::find_if(all.begin(), all.end(),
+                       [](const Command& each) { return each.act == Act::ConnectOrDisconnect; });
+}
+
 // The menu draws what stands behind a tab as the key of its entry. The shortcuts themselves belong
 // to the window.
 QString WithKey(const QString& text, const Command& command) {
-  if (!command.HasKey()) return text;
-  const auto keys = QKeySequence::listFromString(QString::fromLatin1(command.keys));
+  const Command& keyed = CommandWithKeyOf(command);
+  if (!keyed.HasKey()) return text;
+  const auto keys = QKeySequence::listFromString(QString::fromLatin1(keyed.keys));
   return text + QLatin1Char('\t') + keys.front().toString(QKeySequence::NativeText);
 }
 

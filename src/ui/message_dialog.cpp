@@ -15,6 +15,7 @@ namespace ui {
 namespace {
 
 constexpr int kWidth = 400;
+constexpr int kMargin = 16;
 constexpr core::Position kLongestLine = 200;
 
 QString Joined(const std::vector<std::string>& lines) {
@@ -30,15 +31,18 @@ MessageDialog::MessageDialog(program::MessageForm& model, Frames& frames, QWidge
   setAttribute(Qt::WA_ShowWithoutActivating);
   auto* heading = new QLabel(this);
   heading->setProperty("heading", true);
+  heading->setWordWrap(true);
   auto* text = new QLabel(this);
   text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setMinimumWidth(kWidth - 2 * kMargin);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   auto* close = new QPushButton(this);
   auto* foot = new QHBoxLayout;
   foot->addStretch();
   foot->addWidget(close);
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(16, 16, 16, 16);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   column->setSpacing(16);
   column->addWidget(heading);
   column->addWidget(text);

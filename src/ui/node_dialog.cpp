@@ -13,6 +13,7 @@
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
 #include "ui/fonts.h"
+#include "ui/form.h"
 
 namespace ui {
 namespace {
@@ -197,8 +198,10 @@ QLayout* NodeDialog::MakeButtons(Frames& frames) {
   QPushButton* use = AddButton(row, form.cmdApply, "U", frames, this, true);
   AddButton(row, form.cmdExit, "l", frames, this);
   // Return does the one of the two that is right for the call in the field.
-  BindProperty<bool>(add, form.cmdNewNode.Enabled, frames,
-                     [add, use](bool isNew) { (isNew ? add : use)->setDefault(true); });
+  BindProperty<bool>(add, form.cmdNewNode.Enabled, frames, [add, use](bool isNew) {
+    MakePrimary(add, isNew);
+    MakePrimary(use, !isNew);
+  });
   return row;
 }
 

@@ -55,10 +55,10 @@ SettingsPage::SettingsPage(program::Program& program, Frames& frames, LiveTheme&
   FillConnection(AddGroup(left, tr("Way to the node")), program, frames);
   FillStart(AddGroup(left, tr("Start and login")), program.startOptions, frames);
   FillKeepAlive(AddGroup(left, tr("Keep-alive")), program.session, frames);
-  FillLinking(AddGroup(left, tr("Linked copies")), program.MultiNode, frames);
-  FillAppearance(AddGroup(left, tr("Appearance")), program.appearance, frames);
   left->addStretch();
   QVBoxLayout* right = AddColumn();
+  FillLinking(AddGroup(right, tr("Linked copies")), program.MultiNode, frames);
+  FillAppearance(AddGroup(right, tr("Appearance")), program.appearance, frames);
   AddGroup(right, tr("Macros"))->addWidget(new MacroPanel(program.session.macros, frames, page_));
   AddGroup(right, tr("Technical"))->addWidget(new TechnicalPanel(program, frames, page_));
   right->addStretch();

@@ -58,10 +58,13 @@ QPushButton:focus { border-color: {accent}; }
 QPushButton:pressed { background: {selection}; }
 QPushButton:disabled { color: {dim}; background: {panel}; }
 QPushButton[primary="true"], QPushButton:checked { color: {accent}; border-color: {accent}; font-weight: 600; }
+QPushButton[primary="true"]:focus, QPushButton:checked:focus { background: {selection}; }
+QPushButton[primary="true"]:disabled { color: {dim}; border-color: {line}; font-weight: 400; }
 QLineEdit { background: {ground}; border: 1px solid {line}; border-radius: 4px;
             padding: 5px 8px; selection-background-color: {selection};
             selection-color: {text}; }
 QLineEdit:focus { border-color: {accent}; }
+QLineEdit:disabled { background: {panel}; color: {dim}; }
 QLineEdit[bad="true"] { color: {bad}; }
 QPlainTextEdit { background: {ground}; color: {text}; border: none;
                  selection-background-color: {selection}; selection-color: {text}; }
@@ -76,7 +79,7 @@ QTabBar::tab:disabled { color: {dim}; }
 QTreeView { background: {ground}; color: {text}; border: none; outline: none; }
 QTreeView[framed="true"] { border: 1px solid {line}; border-radius: 4px; }
 QTreeView[framed="true"]:focus { border-color: {accent}; }
-QTreeView::item { height: 24px; padding-left: 8px; border: none; }
+QTreeView::item { height: 24px; padding: 0 5px; border: none; }
 QTreeView::item:selected { background: {selection}; color: {text}; }
 QHeaderView::section { background: {panel}; color: {dim}; border: none;
                        border-bottom: 1px solid {line}; padding: 6px 8px; }

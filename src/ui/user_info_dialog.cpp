@@ -19,10 +19,13 @@ UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget
     : QDialog(parent) {
   setWindowTitle(tr("User information"));
   QFormLayout* form = MakeForm(this);
-  AddField(form, tr("&Call"), model.txtCall, frames)->setFocus();
-  AddField(form, tr("&Name"), model.txtName, frames);
-  AddField(form, tr("&QTH"), model.txtQth, frames);
-  AddField(form, tr("&Grid"), model.txtGrid, frames);
+  QLineEdit* call = AddField(form, tr("&Call"), model.txtCall, frames);
+  call->setPlaceholderText(tr("needed, for example W7XXX"));
+  call->setFocus();
+  AddField(form, tr("&Name"), model.txtName, frames)->setPlaceholderText(tr("needed"));
+  AddField(form, tr("&QTH"), model.txtQth, frames)->setPlaceholderText(tr("needed"));
+  AddField(form, tr("&Grid"), model.txtGrid, frames)
+      ->setPlaceholderText(tr("for example EN82DG; your location comes from it"));
   AddLocation(form, model, frames);
   AddField(form, tr("&Home node"), model.txtHomeNode, frames);
   AddField(form, tr("&E-mail"), model.txtEmail, frames);

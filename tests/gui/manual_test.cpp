@@ -43,7 +43,12 @@ TEST_F(ManualTest, F1OpensItAtThePageForWhatIsOnShow) {
   program->views.Choose(program::Views::Settings);
   QApplication::setActiveWindow(window.get());
   Press(Qt::Key_F1);
-  EXPECT_TRUE(Page().toPlainText().startsWith("The technical page"));
+  EXPECT_TRUE(Page().toPlainText().startsWith("The window"));
+  EXPECT_EQ(Page().textCursor().block().text(), "The settings");
+  Press(Qt::Key_F9);
+  QApplication::setActiveWindow(window.get());
+  Press(Qt::Key_F1);
+  EXPECT_EQ(Page().textCursor().block().text(), "The raw view");
 }
 
 TEST_F(ManualTest, ContentsAndBackGoFromPageToPage) {

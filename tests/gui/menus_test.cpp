@@ -42,7 +42,9 @@ TEST_F(MenusTest, StandInTheirOrder) {
 TEST_F(MenusTest, EachEntryShowsItsKey) {
   EXPECT_EQ(KeyOf(Entry("View", "DX")), "Alt+6");
   EXPECT_EQ(KeyOf(Entry("View", "Larger text")), "Ctrl++");
-  EXPECT_EQ(KeyOf(Entry("Connection", "Connect")), "");
+  EXPECT_EQ(KeyOf(Entry("Connection", "Connect")), "F5");
+  EXPECT_EQ(KeyOf(Entry("Connection", "Disconnect")), "F5");
+  EXPECT_EQ(KeyOf(Entry("Configuration", "Columns...")), "");
 }
 
 TEST_F(MenusTest, NoTwoEntriesOfAMenuHaveTheSameMnemonic) {
@@ -157,6 +159,30 @@ TEST_F(MenusTest, EscapeBringsTheSpotsBackFromBehindTheRawView) {
   Press(Qt::Key_Escape);
   Run(200ms);
   EXPECT_TRUE(Named(*window, "Spots")->isVisible());
+}
+
+TEST_F(MenusTest, AViewThatIsAskedForComesBackFromBehindTheRawView) {
+  const auto comesBack = [this](const std::function<void()>& ask, const char* what) {
+    if (!program->rawPane.Maximised.Get()) Press(Qt::Key_F9);
+    Run(200ms);
+    ask();
+    Run(200ms);
+    return Named(*window, what)->isVisible();
+  };
+  const auto click = [this](int tab) {
+    return [this, tab] {
+      QTest::mouseClick(&Tabs(), Qt::LeftButton, {}, Tabs().tabRect(tab).center());
+    };
+  };
+  EXPECT_TRUE(
+      comesBack([this] { Press(Qt::Key_8, Qt::AltModifier); }, "Login message of the node"));
+  EXPECT_TRUE(comesBack([this] { Entry("View", "DX").trigger(); }, "Spots"));
+  EXPECT_TRUE(comesBack([this] { Press(Qt::Key_6, Qt::ControlModifier); }, "Spots"));
+  EXPECT_TRUE(comesBack(click(program::Views::Dx), "Spots")) << "the tab on show";
+  EXPECT_TRUE(comesBack(click(program::Views::LoginMsg), "Login message of the node"));
+  EXPECT_FALSE(comesBack([this] { program->views.Choose(program::Views::Dx); }, "Spots"))
+      << "not when the program changes the view";
+  EXPECT_FALSE(comesBack(click(program::Views::Mail), "Spots")) << "a view that is not there";
 }
 
 TEST_F(MenusTest, TheHeightOfARawViewAloneIsNotKept) {
