@@ -139,6 +139,21 @@ TEST_F(TncScriptTest, NothingIsSentWithoutAScriptAndTheUserIsAskedForOne) {
   EXPECT_TRUE(program.connection.cmdConnect.Enabled.Get());
 }
 
+TEST_F(TncScriptTest, WithoutAScriptNothingIsTriedAgainUntilTheUserConnects) {
+  settings.TncSteps.clear();
+  Begin();
+  EXPECT_FALSE(RetryAwaited());
+  EXPECT_FALSE(program.connection.cmdDisconnect.Enabled.Get());
+  EXPECT_EQ(program.technical.lblTechnical[0].Caption.Get(), "");
+  LetPass(1h);
+  EXPECT_EQ(askedTncScript, 1);
+  settings.TncSteps = {{"c n0clu", "connected", "30"}};
+  Begin();
+  EXPECT_EQ(Written(), "C N0CLU\r");
+  LetPass(30s);
+  EXPECT_TRUE(RetryAwaited());
+}
+
 TEST_F(TncScriptTest, ScriptThatIsEditedWhileItRunsGoesOnAsItWas) {
   Begin();
   settings.TncSteps.clear();
