@@ -73,6 +73,19 @@ TEST_F(NodeUpdateTest, TheNewListTakesThePlaceOfTheOldOne) {
   EXPECT_THAT(form.cboNode.Options.Get(), testing::Contains("W1NEW"));
 }
 
+TEST_F(NodeUpdateTest, TheNodeAtHandIsShownAsTheNewListHasIt) {
+  form.txtNodeCall.UserTypes("K1TTT");
+  form.txtNodeAddress.UserTypes("k1ttt.net");
+  form.txtNodePort.UserTypes("23");
+  Serve({.bytes = kNewerList});
+  RunUpdate();
+  EXPECT_EQ(form.txtNodeAddress.Text.Get(), "moved.example");
+  EXPECT_EQ(form.txtNodePort.Text.Get(), "7373");
+  form.cmdApply.Press();
+  EXPECT_EQ(settings.NodeHost, "moved.example");
+  EXPECT_THAT(File(), HasSubstr("K1TTT,moved.example,7373,"));
+}
+
 TEST_F(NodeUpdateTest, TheOlderFormatHasAFileAndAPlaceOfItsOwn) {
   File() = "";
   world.files.content["/home/op/cluster.dat"] = "VERSION,11,0\r\nW1OWN,own.example,23\r\n";
