@@ -92,6 +92,15 @@ TEST_F(TncNoticesTest, ScriptThatBeginsByDisconnectingGoesOnBehindTheNotice) {
   EXPECT_FALSE(RetryAwaited());
 }
 
+TEST_F(TncNoticesTest, ReasonThatTheTncGaveOutlivesTheScript) {
+  Begin();
+  Says("*** DISCONNECTED");
+  ASSERT_TRUE(program.tncScript.ScriptRunning);
+  LetPass(30s);
+  ASSERT_FALSE(program.tncScript.ScriptRunning);
+  EXPECT_EQ(program.connection.WhyEnded, "the TNC says that the link has ended");
+}
+
 TEST_F(TncNoticesTest, EndThatTheTncReportsOnceMoreIsNotCountedTwice) {
   LogInByTnc();
   program.tncScript.DisconnectTNC();
