@@ -158,6 +158,11 @@ void TncScript::Stop() {
   timers_.Disable(TimerId::ConnectScript);
 }
 
+void TncScript::Abandon() {
+  if (ScriptRunning) Mark(Progress::Idle);
+  Stop();
+}
+
 void TncScript::PortLost() {
   const bool underWay = ScriptRunning || state_.Phase.Get() == LinkPhase::Connected;
   if (!state_.TncMode || !underWay) return;

@@ -87,6 +87,25 @@ TEST_F(PortConditionTest, ModeThatIsTakenShowsTheClusterAndItsLamp) {
   EXPECT_FALSE(program.session.tncLink.MSComm1->PortOpen());
 }
 
+TEST_F(PortConditionTest, ScriptEndsWithItsMode) {
+  auto& device = desk.world.serialPorts.Plug("/dev/ttyUSB0");
+  program::Program& program = StartOverTnc();
+  program.settings.TncSteps = {{"c n0node", "login", "60"}};
+  program.session.connection.cmdConnect.Press();
+  desk.world.Run(1s);
+  device.Feed("*** DISCONNECTED\r");
+  desk.world.Run(1s);
+  ASSERT_TRUE(program.session.tncScript.ScriptRunning);
+  program.commForm.Show();
+  program.commForm.optMode.UserSelects(session::CommForm::Telnet);
+  program.commForm.cmdComm.Press();
+  EXPECT_FALSE(program.session.tncScript.ScriptRunning);
+  EXPECT_FALSE(program.session.timers.Enabled(session::TimerId::ConnectScript));
+  EXPECT_EQ(program.session.tncScript.steps[0].progress.Get(),
+            session::TncStepMark::Progress::Idle);
+  EXPECT_FALSE(program.session.tncScript.Netrom("login: "));
+}
+
 TEST_F(PortConditionTest, AppliedModeIsInTheConfigurationOfTheNextStart) {
   desk.world.serialPorts.Plug("/dev/ttyUSB0");
   program::Program& program = StartOverTnc();
