@@ -54,12 +54,12 @@ void TncNotices::ShowEnd(std::string_view line) {
 
 bool TncNotices::ReconnectedNotice(std::string_view line) {
   if (!core::StartsWithIgnoringCase(line, "*** RECONNECTED")) return false;
-  ShowEnd(line);
   connection_.WhyEnded = "the link was begun anew at the other end";
   if (state_.TncMode)
     intake_.PushStep("ReconnectedNotice", EndReconnected(state_.Sessions));
   else
     connection_.ForceClose();
+  ShowEnd(line);  // behind what a close shows
   return true;
 }
 

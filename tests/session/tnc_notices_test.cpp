@@ -161,6 +161,7 @@ TEST_F(TncNoticesTest, ReconnectedEndsATelnetSessionToo) {
   LogInByTelnet();
   Receive("*** RECONNECTED to N0CLU");
   EXPECT_FALSE(program.state.LoggedIn);
+  EXPECT_EQ(txtNode(), "*** RECONNECTED to N0CLU");
   EXPECT_EQ(SocketState(), platform::SocketState::Closed);
 }
 
