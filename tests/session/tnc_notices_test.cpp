@@ -78,6 +78,7 @@ TEST_F(TncNoticesTest, WelcomeOfTheNodeInBetweenEndsTheSession) {
   program.tncLink.BpqLink = true;
   Says("N0DIG:K1TST-2} Welcome back.");
   EXPECT_FALSE(program.state.LoggedIn);
+  EXPECT_EQ(txtNode(), "N0DIG:K1TST-2} Welcome back.");
   EXPECT_EQ(lamp().ForeColour.Get(), core::kRed);
 }
 
