@@ -138,6 +138,27 @@ TEST_F(NodeUpdateTest, ProgressFollowsTheBytes) {
       << "the next one begins anew";
 }
 
+TEST_F(NodeUpdateTest, NoProgressIsShownOfWhatWasStoppedOrFailed) {
+  const std::string list(1'000'000, 'x');
+  Serve({.bytes = list});
+  update.cmdNode.Press();
+  world.RunUntil([this] { return update.ProgressBar1.Get() > 0; });
+  update.cmdNode.Press();
+  EXPECT_EQ(update.ProgressBar1.Get(), 0);
+  Serve({.bytes = list, .brokenAfter = list.size() / 2});
+  RunUpdate();
+  EXPECT_EQ(update.ProgressBar1.Get(), 0);
+}
+
+TEST_F(NodeUpdateTest, ProgressOfTheLastTimeIsGoneWhenTheFormOpensAgain) {
+  Serve({.bytes = kNewerList});
+  RunUpdate();
+  ASSERT_EQ(update.ProgressBar1.Get(), 100);
+  form.cmdExit.Press();
+  form.Show();
+  EXPECT_EQ(update.ProgressBar1.Get(), 0);
+}
+
 TEST_F(NodeUpdateTest, WithoutALengthItCountsWhatHasCome) {
   Serve({.bytes = std::string(5'000, 'x'), .tellsLength = false});
   update.cmdNode.Press();
