@@ -99,6 +99,14 @@ TEST_F(TncScriptTest, LoginTextBehindTheScriptNamesTheSoftware) {
   EXPECT_TRUE(program.state.IsSpider());
 }
 
+TEST_F(TncScriptTest, GreetingOverTheTncTeachesNoAddress) {
+  settings.NodeNumberedAddress = "10.1.2.3";
+  LogInByTnc();
+  Says("K1TST-2 de N0CLU 20-Nov-2026 2148Z");
+  EXPECT_EQ(program.state.KnownNodes, Lines{"N0CLU"});
+  EXPECT_EQ(settings.NodeNumberedAddress, "10.1.2.3");
+}
+
 TEST_F(TncScriptTest, StepWithoutAReplyTakesAnyLineButAnEmptyOne) {
   AwaitAnything();
   Begin();
