@@ -27,8 +27,8 @@ TncNotices::TncNotices(SessionState& state, Connection& connection, Outgoing& ou
 // Such a line is shown, too; the prompt that tells the same is not.
 bool TncNotices::TellsOfTheEnd(std::string_view line) const {
   if (core::StartsWith(line, "*** DISCONNECTED")) return true;
-  return tncLink_.BpqLink && (core::StartsWith(line, "DISCONNECTED fm") ||
-                              core::EndsWith(line, "} Welcome back."));
+  return tncLink_.BpqLink &&
+         (core::StartsWith(line, "DISCONNECTED fm") || core::EndsWith(line, "} Welcome back."));
 }
 
 bool TncNotices::TncDisconnectNotice(std::string_view line) {
