@@ -23,7 +23,7 @@ std::string Kept(const core::TextBox& box) {
   return text;
 }
 
-// Whole seconds, as the script runs them; empty without a digit.
+// Whole seconds, at most the longest time-out; empty without a digit.
 std::string Seconds(std::string_view typed) {
   std::string digits(typed.substr(0, typed.find_first_of(kPoints)));
   std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
