@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <string_view>
 
 #include "program/conditions.h"
 #include "session/session.h"
@@ -18,6 +20,7 @@ class PortCondition {
   struct Port {
     const char* key;
     const char* whose;
+    std::string (*advice)(std::string_view device, std::string_view why);
   };
 
   void Look(const Port& port, const platform::SerialPort& line, const std::string& trouble);

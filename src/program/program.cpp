@@ -288,6 +288,7 @@ void Program::CaptionSetup() {
 void Program::TakeMode() {
   session::SessionState& state = session.state;
   state.TncMode = settings.TncMode;
+  if (!settings.TncMode) session.tncScript.Abandon();
   state.ConnectedNodeCall = settings.TncMode ? settings.TncCluster : "";
   state.txtNode.Caption.Set(state.ConnectedNodeCall);
   session.tncLink.lblTnc.Visible.Set(settings.TncMode);

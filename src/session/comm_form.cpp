@@ -237,8 +237,11 @@ std::string CommForm::Problem(const core::Settings& wanted) const {
   if (wanted.TncMode && wanted.TncPort == 0) return "Choose the port that the TNC is on.";
   if (wanted.LocalNetwork && wanted.NetworkPort == 0)
     return "Choose the port of the local network, or switch it off.";
-  const bool oneDevice = tnc.Device() == network.Device() ||
-                         (wanted.TncPort == wanted.NetworkPort && wanted.TncPort != 0);
+  const bool oneDevice = tnc.Device() == network.Device();
+  // Even one that is not in use: its entry would be written over by the other's.
+  if (wanted.TncPort == wanted.NetworkPort && wanted.TncPort != 0 && !oneDevice)
+    return "Port " + std::to_string(wanted.TncPort) +
+           " can't be two devices. Choose another number for the TNC or the local network.";
   if (wanted.TncMode && wanted.LocalNetwork && oneDevice)
     return "The TNC and the local network need a device each. Choose another one for either.";
   return {};

@@ -388,7 +388,7 @@ bool Connection::ConnectToNode(std::string_view line) {
   const std::string call =
       GreetingCall(line, state_.LoginCall(settings_.MyCall), settings_.NodeCall);
   if (call.empty()) return false;
-  if (!unexpanded) nodeAddress_.Learn(call, socket_.RemoteHostIP());
+  if (!unexpanded && !state_.TncMode) nodeAddress_.Learn(call, socket_.RemoteHostIP());
   ShowNode(call);
   return false;
 }

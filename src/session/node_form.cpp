@@ -58,7 +58,7 @@ NodeForm::NodeForm(NodeDirectory& directory, NodeUpdate& update, core::Settings&
   watching_.push_back(cmdExit.Click.Add([this] { Open.Set(false); }));
   watching_.push_back(txtNodeCall.Text.Observe([this](const std::string&) { ShowSelected(); }));
   watching_.push_back(directory_.Changed.Add([this] {
-    if (Open.Get()) Fill();
+    if (Open.Get()) Refill();
   }));
   // Nothing goes on behind a closed form.
   watching_.push_back(Open.Observe([this](bool open) {
@@ -73,8 +73,7 @@ void NodeForm::Show() {
   txtNodeAddress.Text.Set(settings_.NodeHost);
   txtNodePort.Text.Set(settings_.NodePort);
   Say({});
-  Fill();
-  if (const auto place = AtHand()) FillFields(*place);
+  Refill();
   update_.Load();
   Open.Set(true);
 }
@@ -96,6 +95,12 @@ void NodeForm::Fill() {
   cboNode.Selected.Set(kNone);
   cboNode.Options.Set(std::move(calls));
   ShowSelected();
+}
+
+// What stood in the fields must not be written back over a list that has come meanwhile.
+void NodeForm::Refill() {
+  Fill();
+  if (const auto place = AtHand()) FillFields(*place);
 }
 
 bool NodeForm::Fits(std::size_t place, std::string_view what) const {

@@ -49,6 +49,7 @@ class NodeForm {
 
  private:
   void Fill();
+  void Refill();
   void FillFields(std::size_t place);
   void Choose();
   void ShowSelected();

@@ -114,7 +114,10 @@ void NodeUpdate::Press() {
   tasks_.Start("cmdNode_Click", Fetch());
 }
 
-void NodeUpdate::Stop() { tasks_.CancelAll(); }
+void NodeUpdate::Stop() {
+  tasks_.CancelAll();
+  ProgressBar1.Set(0);
+}
 
 std::string NodeUpdate::Address() const {
   std::string_view server = endpoints_.nodeList;
@@ -160,6 +163,7 @@ void NodeUpdate::Take(const Http::Answer& answer) {
 
 void NodeUpdate::Fail(const std::string& why, int number, std::string_view description) {
   errorLog_.ReportError("cmdNode_Click", number, description);
+  ProgressBar1.Set(0);
   lblResult.ForeColour.Set(core::kRed);
   lblResult.Caption.Set("Not updated: " + why + ". The old list stays.");
 }

@@ -36,7 +36,8 @@ class NodeUpdate {
   core::Label lblAvailable;               // what there is to fetch
   std::array<core::Label, 2> lblWarning;  // what a new list costs
   core::Label lblResult;                  // how the update goes, or went
-  core::Property<int> ProgressBar1{0};    // per cent; 0 while it is not known
+  // Per cent; 0 while it is not known, and unless an update runs or went well.
+  core::Property<int> ProgressBar1{0};
   core::Property<bool> Fetching{false};
   core::Button cmdNode;  // begins the update, and stops one that runs
   core::Check Check1;    // newer lists are not offered any more

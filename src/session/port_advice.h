@@ -9,4 +9,7 @@ namespace session {
 // if none is chosen; `why` is what platform::SerialPort said.
 std::string PortAdvice(std::string_view device, std::string_view why);
 
+// The same for the local network's port, which is not opened again by what is sent.
+std::string NetworkPortAdvice(std::string_view device, std::string_view why);
+
 }  // namespace session

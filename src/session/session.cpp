@@ -61,7 +61,7 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                  .linked = [this] { connection.LinkedOverTnc(tncLink.BpqLink); },
                  .drop = [this] { intake.Drop(); },
                  .ended = [this](std::string why) { connection.EndedOverTnc(std::move(why)); },
-                 .noScript = needs.askTncScript}),
+                 .noScript = [this, ask = needs.askTncScript] { NothingToTry(ask); }}),
       loginWatch(settings, state, *WinsockOut, outgoing, intake, timers,
                  {.giveUp = [this] { connection.GiveUpLogin(); }}),
       connection(platform.scheduler, calendar, settings, state, *WinsockOut, outgoing, intake,
@@ -128,6 +128,15 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
 }
 
 Session::~Session() = default;
+
+// The user is asked once, not again with each try.
+void Session::NothingToTry(const std::function<void()>& ask) {
+  timers.Disable(TimerId::Reconnect);
+  connection.InterruptReconnect();
+  connection.cmdDisconnect.Enabled.Set(false);
+  tncRetry.Reset();
+  ask();
+}
 
 void Session::LoggedIn() {
   commandLine.txtCmdLine.Text.Set({});

@@ -112,6 +112,7 @@ class Session {
   bool IsEcho(std::string_view line);
   bool IsPassword(std::string_view line) const;
   void ShowReceived(std::string_view line);
+  void NothingToTry(const std::function<void()>& ask);
   void LoggedIn();
   void Ended();
 

@@ -14,11 +14,21 @@ constexpr auto kNotOverTnc = "The program connects by telnet. Choose the TNC und
 // By TncStepMark::Progress.
 constexpr std::array<const char*, 4> kProgressWords = {"", "waiting", "answered", "timed out"};
 
+constexpr std::string_view kPoints = ".,";
+
 // Double quotes are lost on the way to the file: without them what runs is what is kept.
 std::string Kept(const core::TextBox& box) {
   std::string text = box.Text.Get();
   std::erase(text, '"');
   return text;
+}
+
+// Whole seconds, at most the longest time-out; empty without a digit.
+std::string Seconds(std::string_view typed) {
+  std::string digits(typed.substr(0, typed.find_first_of(kPoints)));
+  std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
+  if (digits.empty()) return {};
+  return std::to_string(std::min(core::ValInt(digits), TncScript::kLongestTimeOut));
 }
 
 }  // namespace
@@ -92,8 +102,7 @@ void TncForm::Load() {
     const core::TncStep shown = used ? settings_.TncSteps[step] : core::TncStep{};
     txtCmd[step].Text.Set(shown.Command);
     txtScript[step].Text.Set(shown.Reply);
-    txtTimeOut[step].Text.Set(shown.TimeOut);
-    LimitTime(step);
+    txtTimeOut[step].Text.Set(Seconds(shown.TimeOut));
   }
   lblProblem.Caption.Set({});
   lblResult.Caption.Set({});
@@ -110,18 +119,21 @@ void TncForm::TakeMode() {
   cmdRun.ToolTip.Set(!overTnc ? kNotOverTnc : free ? "" : "The link is up or being made.");
 }
 
+// A point stays while the field is typed in: without it the digits of the fraction, which are
+// dropped, would become further ones of the seconds.
 void TncForm::LimitTime(std::size_t step) {
-  std::string digits = txtTimeOut[step].Text.Get();
-  std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
-  const int seconds = std::min(core::ValInt(digits), TncScript::kLongestTimeOut);
-  txtTimeOut[step].Text.Set(digits.empty() ? "" : std::to_string(seconds));
+  const std::string& typed = txtTimeOut[step].Text.Get();
+  const auto point = typed.find_first_of(kPoints);
+  const std::string kept = point == std::string::npos ? "" : typed.substr(point, 1);
+  txtTimeOut[step].Text.Set(Seconds(typed) + kept);
 }
 
 std::vector<core::TncStep> TncForm::Steps() const {
   std::vector<core::TncStep> steps;
   for (std::size_t step = 0; step < kSteps; ++step)
     if (core::ValInt(txtTimeOut[step].Text.Get()) > 0)
-      steps.push_back({Kept(txtCmd[step]), Kept(txtScript[step]), txtTimeOut[step].Text.Get()});
+      steps.push_back(
+          {Kept(txtCmd[step]), Kept(txtScript[step]), Seconds(txtTimeOut[step].Text.Get())});
   return steps;
 }
 

@@ -24,17 +24,17 @@ TncNotices::TncNotices(SessionState& state, Connection& connection, Outgoing& ou
       clockwork_(clockwork),
       settings_(settings) {}
 
-// Such a line is shown, too; the prompts that tell the same are not.
+// Such a line is shown, too; the prompt that tells the same is not.
 bool TncNotices::TellsOfTheEnd(std::string_view line) const {
-  return core::StartsWith(line, "*** DISCONNECTED") ||
-         (tncLink_.BpqLink && core::StartsWith(line, "DISCONNECTED fm"));
+  if (core::StartsWith(line, "*** DISCONNECTED")) return true;
+  return tncLink_.BpqLink &&
+         (core::StartsWith(line, "DISCONNECTED fm") || core::EndsWith(line, "} Welcome back."));
 }
 
 bool TncNotices::TncDisconnectNotice(std::string_view line) {
   if (!state_.TncMode) return false;
   const bool told = TellsOfTheEnd(line);
-  const bool atThatNode = tncLink_.BpqLink && core::EndsWith(line, "} Welcome back.");
-  if (!told && !atThatNode && !core::StartsWith(line, "xxxcmd:")) return false;
+  if (!told && !core::StartsWith(line, "xxxcmd:")) return false;
   connection_.EndedOverTnc("the TNC says that the link has ended");
   if (told) state_.txtNode.Caption.Set(std::string(line));
   tncLink_.ShowLost();
@@ -54,12 +54,12 @@ void TncNotices::ShowEnd(std::string_view line) {
 
 bool TncNotices::ReconnectedNotice(std::string_view line) {
   if (!core::StartsWithIgnoringCase(line, "*** RECONNECTED")) return false;
-  ShowEnd(line);
   connection_.WhyEnded = "the link was begun anew at the other end";
   if (state_.TncMode)
     intake_.PushStep("ReconnectedNotice", EndReconnected(state_.Sessions));
   else
     connection_.ForceClose();
+  ShowEnd(line);  // behind what a close shows
   return true;
 }
 

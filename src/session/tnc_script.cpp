@@ -114,7 +114,8 @@ void TncScript::TimedOut() {
     Mark(Progress::TimedOut);
     outgoing_.updateText2("Connect attempt time out.  Connect Response of: \"" + Now().texts.Reply +
                           "\" not received!");
-    why = WhyNoReply();
+    // A session that has ended meanwhile has told its reason.
+    if (state_.Phase.Get() != LinkPhase::Disconnected) why = WhyNoReply();
   }
   timers_.Disable(TimerId::ConnectScript);
   if (!state_.TncMode) return;
@@ -155,6 +156,11 @@ void TncScript::End(std::string why) {
 void TncScript::Stop() {
   ScriptRunning = false;
   timers_.Disable(TimerId::ConnectScript);
+}
+
+void TncScript::Abandon() {
+  if (ScriptRunning) Mark(Progress::Idle);
+  Stop();
 }
 
 void TncScript::PortLost() {

@@ -57,6 +57,8 @@ class TncScript {
   void DisconnectTNC();
   // The session has logged in: the script has done its work, wherever it was.
   void LoggedIn() { Stop(); }
+  // The program has gone over to telnet: no line is a reply any more.
+  void Abandon();
   // The user has chosen other colours for the phases of the link.
   void Recolour();
   // The port has gone, with all behind it: ends a session that has begun.

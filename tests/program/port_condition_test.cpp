@@ -73,6 +73,24 @@ TEST_F(PortConditionTest, LocalNetworksPortIsToldToo) {
             "Local network: /dev/ttyS1 is not there. Plug it in, or choose another device.");
 }
 
+TEST_F(PortConditionTest, LocalNetworksDeviceThatHasGoneIsThereAgainWithApply) {
+  desk.world.serialPorts.Plug("/dev/ttyS1");
+  desk.HasUsualConfiguration(
+      "\"LocalNetwork\",-1\r\n\"NetworkPort\",2\r\n\"NetworkBaud\",9600\r\n");
+  program::Program& program = desk.Start();
+  program.session.connection.cmdConnect.Press();
+  desk.world.Run(100ms);
+  desk.world.serialPorts.Unplug("/dev/ttyS1");
+  desk.world.Run(100ms);
+  EXPECT_EQ(Told(),
+            "Local network: /dev/ttyS1 has gone. Plug it in again and press Apply under "
+            "Connection, or choose another device.");
+  desk.world.serialPorts.Plug("/dev/ttyS1");
+  program.commForm.Show();
+  program.commForm.cmdComm.Press();
+  EXPECT_EQ(Told(), "");
+}
+
 TEST_F(PortConditionTest, ModeThatIsTakenShowsTheClusterAndItsLamp) {
   desk.world.serialPorts.Plug("/dev/ttyUSB0");
   program::Program& program = StartOverTnc("\"Tnc Cluster\",\"N0NODE\"\r\n");
@@ -85,6 +103,25 @@ TEST_F(PortConditionTest, ModeThatIsTakenShowsTheClusterAndItsLamp) {
   EXPECT_EQ(program.session.state.ConnectedNodeCall, "");
   EXPECT_FALSE(program.session.tncLink.lblTnc.Visible.Get());
   EXPECT_FALSE(program.session.tncLink.MSComm1->PortOpen());
+}
+
+TEST_F(PortConditionTest, ScriptEndsWithItsMode) {
+  auto& device = desk.world.serialPorts.Plug("/dev/ttyUSB0");
+  program::Program& program = StartOverTnc();
+  program.settings.TncSteps = {{"c n0node", "login", "60"}};
+  program.session.connection.cmdConnect.Press();
+  desk.world.Run(1s);
+  device.Feed("*** DISCONNECTED\r");
+  desk.world.Run(1s);
+  ASSERT_TRUE(program.session.tncScript.ScriptRunning);
+  program.commForm.Show();
+  program.commForm.optMode.UserSelects(session::CommForm::Telnet);
+  program.commForm.cmdComm.Press();
+  EXPECT_FALSE(program.session.tncScript.ScriptRunning);
+  EXPECT_FALSE(program.session.timers.Enabled(session::TimerId::ConnectScript));
+  EXPECT_EQ(program.session.tncScript.steps[0].progress.Get(),
+            session::TncStepMark::Progress::Idle);
+  EXPECT_FALSE(program.session.tncScript.Netrom("login: "));
 }
 
 TEST_F(PortConditionTest, AppliedModeIsInTheConfigurationOfTheNextStart) {

@@ -331,6 +331,24 @@ TEST_F(CommFormTest, TncAndLocalNetworkCanNotShareADevice) {
   EXPECT_EQ(Problem(), "");
 }
 
+TEST_F(CommFormTest, OneNumberCanNotBeTwoDevicesEvenIfOneIsNotInUse) {
+  form.Show();
+  form.chkNetwork.UserSets(true);
+  form.network.optCommPort.UserSelects(17);
+  form.network.cboDevice.UserSelects(1);
+  ASSERT_EQ(form.network.Device(), kSecondUsb);
+  ASSERT_EQ(form.tnc.Device(), kFirstUsb);
+  Apply();
+  EXPECT_EQ(Problem(),
+            "Port 17 can't be two devices. Choose another number for the TNC or the local "
+            "network.");
+  EXPECT_FALSE(settings.LocalNetwork);
+  EXPECT_EQ(names.Path(17), kFirstUsb);
+  form.network.cboDevice.UserSelects(0);
+  Apply();
+  EXPECT_EQ(Problem(), "") << "the TNC is not in use";
+}
+
 TEST_F(CommFormTest, ProblemGoesWithTheNextChange) {
   settings.TncPort = 0;
   RunOverTnc();

@@ -73,6 +73,19 @@ TEST_F(NodeUpdateTest, TheNewListTakesThePlaceOfTheOldOne) {
   EXPECT_THAT(form.cboNode.Options.Get(), testing::Contains("W1NEW"));
 }
 
+TEST_F(NodeUpdateTest, TheNodeAtHandIsShownAsTheNewListHasIt) {
+  form.txtNodeCall.UserTypes("K1TTT");
+  form.txtNodeAddress.UserTypes("k1ttt.net");
+  form.txtNodePort.UserTypes("23");
+  Serve({.bytes = kNewerList});
+  RunUpdate();
+  EXPECT_EQ(form.txtNodeAddress.Text.Get(), "moved.example");
+  EXPECT_EQ(form.txtNodePort.Text.Get(), "7373");
+  form.cmdApply.Press();
+  EXPECT_EQ(settings.NodeHost, "moved.example");
+  EXPECT_THAT(File(), HasSubstr("K1TTT,moved.example,7373,"));
+}
+
 TEST_F(NodeUpdateTest, TheOlderFormatHasAFileAndAPlaceOfItsOwn) {
   File() = "";
   world.files.content["/home/op/cluster.dat"] = "VERSION,11,0\r\nW1OWN,own.example,23\r\n";
@@ -123,6 +136,27 @@ TEST_F(NodeUpdateTest, ProgressFollowsTheBytes) {
   RunUpdate();
   EXPECT_EQ(seen[std::size_t(std::find(seen.begin(), seen.end(), 100) - seen.begin()) + 1], 0)
       << "the next one begins anew";
+}
+
+TEST_F(NodeUpdateTest, NoProgressIsShownOfWhatWasStoppedOrFailed) {
+  const std::string list(1'000'000, 'x');
+  Serve({.bytes = list});
+  update.cmdNode.Press();
+  world.RunUntil([this] { return update.ProgressBar1.Get() > 0; });
+  update.cmdNode.Press();
+  EXPECT_EQ(update.ProgressBar1.Get(), 0);
+  Serve({.bytes = list, .brokenAfter = list.size() / 2});
+  RunUpdate();
+  EXPECT_EQ(update.ProgressBar1.Get(), 0);
+}
+
+TEST_F(NodeUpdateTest, ProgressOfTheLastTimeIsGoneWhenTheFormOpensAgain) {
+  Serve({.bytes = kNewerList});
+  RunUpdate();
+  ASSERT_EQ(update.ProgressBar1.Get(), 100);
+  form.cmdExit.Press();
+  form.Show();
+  EXPECT_EQ(update.ProgressBar1.Get(), 0);
 }
 
 TEST_F(NodeUpdateTest, WithoutALengthItCountsWhatHasCome) {

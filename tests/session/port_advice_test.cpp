@@ -29,6 +29,14 @@ TEST(PortAdvice, TellsABusyPortFromOneThatIsMissing) {
             "/dev/ttyS0 is not there. Plug it in, or choose another device.");
 }
 
+TEST(PortAdvice, DeviceOfTheLocalNetworkThatHasGoneIsToBeAppliedAgain) {
+  EXPECT_EQ(session::NetworkPortAdvice("/dev/ttyS0", "the device has gone"),
+            "/dev/ttyS0 has gone. Plug it in again and press Apply under Connection, or choose "
+            "another device.");
+  EXPECT_EQ(session::NetworkPortAdvice("/dev/ttyS0", "busy"), PortAdvice("/dev/ttyS0", "busy"));
+  EXPECT_EQ(session::NetworkPortAdvice("", "the device has gone"), PortAdvice("", "busy"));
+}
+
 TEST(PortAdvice, SaysTheReasonThatItDoesNotKnow) {
   EXPECT_THAT(PortAdvice("/dev/ttyS0", "4 data bits are not possible"),
               HasSubstr("4 data bits are not possible"));

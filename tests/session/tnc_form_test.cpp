@@ -138,6 +138,34 @@ TEST_F(TncFormTest, TimeOutTakesDigitsAlone) {
   }
 }
 
+TEST_F(TncFormTest, FractionOfATimeOutIsDropped) {
+  form.Show();
+  const std::pair<const char*, const char*> typed[] = {
+      {"7.5", "7"}, {"7,5", "7"}, {"7.", "7"}, {"6.5.4", "6"}, {"70.5", "65"}};
+  for (const auto& [text, kept] : typed) {
+    Fill(0, "C N0NODE", "", "");
+    for (const char* key = text; *key != '\0'; ++key)
+      form.txtTimeOut[0].UserTypes(TimeOut(0) + *key);
+    form.cmdSave.Press();
+    EXPECT_THAT(settings.TncSteps, ElementsAre(TncStep{"C N0NODE", "", kept})) << text;
+    EXPECT_EQ(TimeOut(0), kept) << text;
+  }
+}
+
+TEST_F(TncFormTest, FractionAloneIsNoTimeOut) {
+  form.Show();
+  Fill(0, "C N0NODE", "", ".");
+  form.txtTimeOut[0].UserTypes(TimeOut(0) + "5");
+  form.cmdSave.Press();
+  EXPECT_EQ(Problem(), "Step 1 has no time-out. Enter 1 to 65 seconds.");
+}
+
+TEST_F(TncFormTest, StoredFractionIsShownAsWholeSeconds) {
+  settings.TncSteps = {{"C N0NODE", "", "7.5"}};
+  form.Show();
+  EXPECT_EQ(TimeOut(0), "7");
+}
+
 TEST_F(TncFormTest, StepWithoutATimeOutIsToBePutRight) {
   for (const char* seconds : {"", "0"}) {
     form.Show();

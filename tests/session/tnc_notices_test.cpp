@@ -78,6 +78,7 @@ TEST_F(TncNoticesTest, WelcomeOfTheNodeInBetweenEndsTheSession) {
   program.tncLink.BpqLink = true;
   Says("N0DIG:K1TST-2} Welcome back.");
   EXPECT_FALSE(program.state.LoggedIn);
+  EXPECT_EQ(txtNode(), "N0DIG:K1TST-2} Welcome back.");
   EXPECT_EQ(lamp().ForeColour.Get(), core::kRed);
 }
 
@@ -90,6 +91,15 @@ TEST_F(TncNoticesTest, ScriptThatBeginsByDisconnectingGoesOnBehindTheNotice) {
   EXPECT_EQ(Written(), "C N0CLU\r");
   EXPECT_EQ(program.state.Phase.Get(), LinkPhase::Trying);
   EXPECT_FALSE(RetryAwaited());
+}
+
+TEST_F(TncNoticesTest, ReasonThatTheTncGaveOutlivesTheScript) {
+  Begin();
+  Says("*** DISCONNECTED");
+  ASSERT_TRUE(program.tncScript.ScriptRunning);
+  LetPass(30s);
+  ASSERT_FALSE(program.tncScript.ScriptRunning);
+  EXPECT_EQ(program.connection.WhyEnded, "the TNC says that the link has ended");
 }
 
 TEST_F(TncNoticesTest, EndThatTheTncReportsOnceMoreIsNotCountedTwice) {
@@ -152,6 +162,7 @@ TEST_F(TncNoticesTest, ReconnectedEndsATelnetSessionToo) {
   LogInByTelnet();
   Receive("*** RECONNECTED to N0CLU");
   EXPECT_FALSE(program.state.LoggedIn);
+  EXPECT_EQ(txtNode(), "*** RECONNECTED to N0CLU");
   EXPECT_EQ(SocketState(), platform::SocketState::Closed);
 }
 

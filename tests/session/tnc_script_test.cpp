@@ -99,6 +99,14 @@ TEST_F(TncScriptTest, LoginTextBehindTheScriptNamesTheSoftware) {
   EXPECT_TRUE(program.state.IsSpider());
 }
 
+TEST_F(TncScriptTest, GreetingOverTheTncTeachesNoAddress) {
+  settings.NodeNumberedAddress = "10.1.2.3";
+  LogInByTnc();
+  Says("K1TST-2 de N0CLU 20-Nov-2026 2148Z");
+  EXPECT_EQ(program.state.KnownNodes, Lines{"N0CLU"});
+  EXPECT_EQ(settings.NodeNumberedAddress, "10.1.2.3");
+}
+
 TEST_F(TncScriptTest, StepWithoutAReplyTakesAnyLineButAnEmptyOne) {
   AwaitAnything();
   Begin();
@@ -137,6 +145,21 @@ TEST_F(TncScriptTest, NothingIsSentWithoutAScriptAndTheUserIsAskedForOne) {
   EXPECT_FALSE(program.tncScript.ScriptRunning);
   EXPECT_EQ(program.connection.WhyEnded, "there is no connect script");
   EXPECT_TRUE(program.connection.cmdConnect.Enabled.Get());
+}
+
+TEST_F(TncScriptTest, WithoutAScriptNothingIsTriedAgainUntilTheUserConnects) {
+  settings.TncSteps.clear();
+  Begin();
+  EXPECT_FALSE(RetryAwaited());
+  EXPECT_FALSE(program.connection.cmdDisconnect.Enabled.Get());
+  EXPECT_EQ(program.technical.lblTechnical[0].Caption.Get(), "");
+  LetPass(1h);
+  EXPECT_EQ(askedTncScript, 1);
+  settings.TncSteps = {{"c n0clu", "connected", "30"}};
+  Begin();
+  EXPECT_EQ(Written(), "C N0CLU\r");
+  LetPass(30s);
+  EXPECT_TRUE(RetryAwaited());
 }
 
 TEST_F(TncScriptTest, ScriptThatIsEditedWhileItRunsGoesOnAsItWas) {
