@@ -102,6 +102,19 @@ TEST_F(NodeDialogTest, ItIsSearchedWhileTypingAndUsedByKeyboardAlone) {
   EXPECT_EQ(Named<QLabel>(*window, "Node")->text(), "AI9T");
 }
 
+TEST_F(NodeDialogTest, TheButtonThatReturnPressesStandsOut) {
+  const auto standsOut = [this](const char* name) {
+    const auto* button = Named<QPushButton>(Dialog(), name);
+    EXPECT_EQ(button->property("primary").toBool(), button->isDefault()) << name;
+    return button->isDefault();
+  };
+  EXPECT_TRUE(standsOut("Use node"));
+  EXPECT_FALSE(standsOut("Add node"));
+  Type("Call of the node", "N0NEW-1");
+  EXPECT_FALSE(standsOut("Use node"));
+  EXPECT_TRUE(standsOut("Add node"));
+}
+
 TEST_F(NodeDialogTest, AClickChoosesAndADoubleClickUses) {
   const auto at = [this](int row) {
     return List().visualRect(List().model()->index(row, 1)).center();
