@@ -17,7 +17,7 @@ case "${1:-}" in
 esac
 
 need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
-if [ "${1:-}" = --all ]; then need "${CLANG_PACKAGES[@]}"; fi
+if [ "${1:-}" = --all ]; then need "${LINT_PACKAGES[@]}"; fi
 
 for preset in "${presets[@]}"; do
   echo "== $preset"

@@ -33,6 +33,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
                       -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  add_compile_options(-Wno-shadow)  # it takes a name of one source for hidden by the next
+endif()
+
 # What is packaged reads what strangers send.
 set(packaged $<CONFIG:Release,RelWithDebInfo>)
 add_compile_options($<${packaged}:-D_FORTIFY_SOURCE=2> $<${packaged}:-fstack-protector-strong>)

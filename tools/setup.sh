@@ -4,8 +4,9 @@
 BUILD_PACKAGES=(ccache cmake g++ lld ninja-build qt6-base-dev qt6-serialport-dev)
 # What it runs with, and what shows it where there is no display.
 RUN_PACKAGES=(fonts-dejavu-core fonts-jetbrains-mono hamradio-files imagemagick libqt6svg6 xvfb)
-# What its tests need besides.
-TEST_PACKAGES=(appstream dbus-daemon desktop-file-utils googletest libgmock-dev libgtest-dev)
+# What its tests need besides: those under the sanitizers are built by the second compiler.
+TEST_PACKAGES=(appstream clang dbus-daemon desktop-file-utils googletest libclang-rt-dev libgmock-dev
+  libgtest-dev)
 # What the package is made and judged with.
 PACKAGING_PACKAGES=(appstream desktop-file-utils dpkg-dev file)
 # What the pictures of the manual are made with, by the names that a screen reader says.
@@ -13,8 +14,8 @@ PICTURE_PACKAGES=(at-spi2-core dbus-daemon dpkg-dev faketime gir1.2-atspi-2.0 pn
   xdotool)
 # What the benchmarks are built with.
 BENCH_PACKAGES=(libbenchmark-dev)
-# What the second compiler and the lint need.
-CLANG_PACKAGES=(clang clang-tidy)
+# What the lint needs.
+LINT_PACKAGES=(clang-tidy)
 
 missing_packages() {
   local package
