@@ -176,12 +176,12 @@ void SpotParts::TakeDisplay() {
   table.SetTableWidth(display.Layout().FullWidth);
 }
 
-FileReports SpotParts::ReadFiles() {
-  return {{{"state.dat", reference.Read()},
-           {"reject.dat", rejectLists.ReadReject()},
-           {"fixspots.dat", fixList.ReadFixSpots()},
-           {"lotw.txt", membership.ReadLotw()},
-           {"eqsl.txt", membership.ReadeQSL()}}};
+void SpotParts::ReadFiles() {
+  reference.Read();
+  rejectLists.ReadReject();
+  fixList.ReadFixSpots();
+  membership.ReadLotw();
+  membership.ReadeQSL();
 }
 
 void SpotParts::BeginLog() {

@@ -11,7 +11,6 @@
 #include "platform/tasks.h"
 #include "spots/display_choice.h"
 #include "spots/duplicates.h"
-#include "spots/file_state.h"
 #include "spots/fix_form.h"
 #include "spots/fix_list.h"
 #include "spots/grid_recorder.h"
@@ -77,7 +76,7 @@ class SpotParts {
   void TakeSettings();
   // Reads the files of the start: first those on countries, then the rest. What is wrong with that
   // of the countries the user has been told.
-  FileReports ReadFiles();
+  void ReadFiles();
   // The end of the start: the log goes on, and what it holds comes back if that is wanted.
   void BeginLog();
   // Ten times a second: what waits goes into a sorted view, and counts are shown.
