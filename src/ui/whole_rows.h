@@ -11,7 +11,8 @@ class WholeRows : public QWidget {
   WholeRows(QTreeView* table, QWidget* parent);
 
  protected:
-  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Fit();
