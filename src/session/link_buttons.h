@@ -13,7 +13,8 @@
 
 namespace session {
 
-// The user's two acts on the link. While a try is awaited both can be done, and are called so.
+// The user's two acts on the link. While a try is awaited both are right, and are called by what
+// they do then.
 class LinkButtons {
  public:
   struct Needs {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -126,12 +127,14 @@ class SpotParts {
   SpotRequests::Needs NeedsOfRequests();
   bool ApplySpotFix(std::string_view call, FixTarget target);
   const WordFacts& WordsNow();
+  void DisplayDx();
   void TakeDisplay();
   void ShowNumbers();
   void FollowReload(bool reloading);
   void DeleteOldLogs();
 
-  int minute_ = -1;  // of the last tick, of the day
+  int minute_ = -1;                                 // of the last tick, of the day
+  std::optional<platform::Milliseconds> spotTook_;  // since the last tick
   std::vector<platform::Registration> kept_;
   platform::Registration displayed_;
   platform::Registration reloading_;
