@@ -1,6 +1,7 @@
 #include "core/dates.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <optional>
@@ -80,7 +81,8 @@ std::optional<year> YearOf(std::string_view text, year present) {
 std::string EnglishDate(int dayNumber) { return DateText(sys_days{days{dayNumber}}); }
 
 std::string Seconds(std::chrono::milliseconds span, std::size_t width, std::size_t decimals) {
-  const unsigned unit = decimals == 1 ? 100 : 10;
+  constexpr std::array<unsigned, 3> kUnits = {100, 10, 1};  // in milliseconds
+  const unsigned unit = kUnits[decimals - 1];
   const auto units = (static_cast<unsigned>(std::abs(span.count())) + unit / 2) / unit;
   const unsigned perSecond = 1000 / unit;
   const std::string sign = span.count() < 0 && units > 0 ? "-" : "";

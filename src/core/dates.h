@@ -23,7 +23,7 @@ std::string EnglishDate(int dayNumber);
 // "2026-01-05 21:07:09".
 std::string TimeStamp(LocalTime time);
 
-// A span in seconds with one or two decimals, rounded half up, and so many digits before the point
+// A span in seconds with one to three decimals, rounded half up, and so many digits before the point
 // at least: "001.25".
 std::string Seconds(std::chrono::milliseconds span, std::size_t width, std::size_t decimals);
 

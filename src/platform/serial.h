@@ -31,6 +31,7 @@ class SerialDevice {
 
   // Empty on success, otherwise why not, in plain words ("busy", "no such device").
   virtual std::string Open(const std::string& path, const SerialSettings& settings) = 0;
+  // Never waits. What was written still goes out if the device takes it within two seconds.
   virtual void Close() = 0;
   // Everything that has come in since.
   virtual std::string Read() = 0;

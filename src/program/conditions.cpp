@@ -33,8 +33,6 @@ void Conditions::Show() {
   lblText.Caption.Set(newest.text);
   lblText.Visible.Set(!conditions_.empty());
   cmdHelp.Caption.Set(newest.button);
-  cmdHelp.ToolTip.Set(newest.whyNot);
-  cmdHelp.Enabled.Set(newest.whyNot.empty());
   cmdHelp.Visible.Set(!newest.button.empty());
   ShowRest();
 }

@@ -15,7 +15,6 @@ struct Condition {
   std::string text;    // what is wrong
   std::string button;  // the caption of what helps; empty: nothing does
   std::function<void()> help = {};
-  std::string whyNot = {};  // why the button can't be pressed just now; empty: it can
 };
 
 // The conditions that hold, the newest on top. It alone is on show, and how many stand behind it.

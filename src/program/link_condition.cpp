@@ -11,7 +11,6 @@ LinkCondition::LinkCondition(Conditions& conditions, session::Session& session)
     : conditions_(conditions), session_(session) {
   phase_ = session.state.Phase.Observe([this](session::LinkPhase) { Look(); });
   wanted_ = session.connection.AutoReconnect.Value.Observe([this](bool) { Look(); });
-  pressable_ = session.connection.cmdConnect.Enabled.Observe([this](bool) { Look(); });
 }
 
 void LinkCondition::Look() {
@@ -22,13 +21,11 @@ void LinkCondition::Look() {
     conditions_.Clear(kKey);
     return;
   }
-  const bool trying = !connection.cmdConnect.Enabled.Get();
+  // What helps stands in the bar of the link.
   conditions_.Raise(
       {.key = kKey,
        .text = "No link to the node: " + connection.WhyEnded + ". It is tried again by itself.",
-       .button = "Connect now",
-       .help = [&connection] { connection.cmdConnect.Press(); },
-       .whyNot = trying ? "A try is under way." : ""});
+       .button = {}});
 }
 
 }  // namespace program

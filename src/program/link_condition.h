@@ -19,7 +19,6 @@ class LinkCondition {
   session::Session& session_;
   platform::Registration phase_;
   platform::Registration wanted_;
-  platform::Registration pressable_;
 };
 
 }  // namespace program

@@ -92,9 +92,11 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
               session.commandLine.cmdRawplus[session::CommandLine::kMaximiseRaw]),
       startOptions(settings, NeedsOfStartOptions()),
       linkCondition_(conditions, session),
+      fileConditions_(conditions, spotParts),
       clockWatched_(spotParts.lines.clockCheck.HourOut.Observe(
           [this](bool hourOut) { ShowClock(conditions, hourOut); })),
       portCondition_(conditions, session, [this] { commForm.Show(); }),
+      userInfoWatched_(userInfo.Open.Observe([this](bool open) { YieldToUserInfo(open); })),
       autoReconnectTicked_(
           session.connection.AutoReconnect.Click.Add([this] { DelayedWriteCfg(); })),
       linkingTicked_(MultiNode.Click.Add([this] { ChooseLinking(); })),
@@ -269,6 +271,17 @@ void Program::SaveUserInfo(const std::string& password) {
   WriteCfg();
   // Who is new here chooses his node next.
   if (std::exchange(configurationIsNew_, false)) nodeForm.Show();
+}
+
+// The form of the user asks for the offset among the rest: that of the offset alone comes behind
+// it, if it has not been told by then.
+void Program::YieldToUserInfo(bool open) {
+  if (open) {
+    offsetWaits_ = offsetWaits_ || offsetForm.Open.Get();
+    offsetForm.Open.Set(false);
+  } else if (std::exchange(offsetWaits_, false) && settings.GmtOffset.empty()) {
+    offsetForm.Show();
+  }
 }
 
 void Program::CaptionSetup() {

@@ -22,6 +22,7 @@
 #include "program/conditions.h"
 #include "program/dx_look.h"
 #include "program/dx_tab.h"
+#include "program/file_condition.h"
 #include "program/link_condition.h"
 #include "program/message_form.h"
 #include "program/offset_form.h"
@@ -181,15 +182,19 @@ class Program {
   void ApplySettings();
   void WriteCfg();
   void SaveUserInfo(const std::string& password);
+  void YieldToUserInfo(bool open);
   std::string Path(const char* file) const { return folder_ + "/" + file; }
 
   bool asking_ = false;  // whether to end
   bool ending_ = false;
   bool folderIsNew_ = false;
   bool configurationIsNew_ = false;
+  bool offsetWaits_ = false;  // for the end of the form that asks for it too
   LinkCondition linkCondition_;
+  FileConditions fileConditions_;
   platform::Registration clockWatched_;
   PortCondition portCondition_;
+  platform::Registration userInfoWatched_;
   platform::Registration autoReconnectTicked_;
   platform::Registration linkingTicked_;
   platform::Registration macrosFollowing_;

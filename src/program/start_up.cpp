@@ -5,7 +5,6 @@
 #include "core/quoted.h"
 #include "core/text.h"
 #include "program/data_files.h"
-#include "program/file_condition.h"
 #include "program/program.h"
 #include "program/save_condition.h"
 
@@ -165,7 +164,7 @@ platform::Task<> Program::PrepareSession() {
 }
 
 platform::Task<> Program::ReadSpotFiles() {
-  ShowFiles(conditions, spotParts.ReadFiles());
+  spotParts.ReadFiles();
   co_return;
 }
 
@@ -182,8 +181,11 @@ platform::Task<> Program::BeginSpotLog() {
 
 // None of these forms holds anything up.
 platform::Task<> Program::AskWhatIsMissing() {
-  if (settings.GmtOffset.empty()) offsetForm.Show();
-  if (configurationIsNew_) userInfo.Show();
+  offsetWaits_ = settings.GmtOffset.empty();
+  if (configurationIsNew_)
+    userInfo.Show();
+  else
+    YieldToUserInfo(false);
   co_return;
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 // How long a node may take to name its software.
 constexpr auto kPatience = 5s;
-// And how long an AR-Cluster to answer the question.
+// And how long an AR-Cluster to prompt for the question, and again to answer it.
 constexpr auto kAnswerWait = 30s;
 
 constexpr auto kNotCapable = "Node is NOT AR17 capable";
@@ -53,9 +53,12 @@ Ar17::Ar17(platform::Scheduler& scheduler, SessionState& state, Outgoing& outgoi
 
 void Ar17::LoggedIn() {
   overdue_ = scheduler_.After(kPatience, [this] { state_.Ar17Overdue = true; });
+  WaitForAnswer();
 }
 
-void Ar17::Asked() {
+void Ar17::Asked() { WaitForAnswer(); }
+
+void Ar17::WaitForAnswer() {
   silent_ = scheduler_.After(kAnswerWait, [this] { TakeSilenceForRefusal(); });
 }
 
@@ -121,6 +124,7 @@ bool Ar17::CallIsRefused(std::string_view line) {
 
 // Nobody has typed a line or read an answer: the command line stays as it is.
 void Ar17::TakeSilenceForRefusal() {
+  if (state_.Kind == NodeKind::Unknown) return WaitForAnswer();  // it may still name itself
   if (state_.ArpcAsked || state_.Ar17Refused()) return;
   state_.Ar17Silent = true;
   lblStatus.Caption.Set(kNotCapable);

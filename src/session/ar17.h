@@ -29,7 +29,8 @@ class Ar17 {
   core::Label lblDxState;  // the captions of two columns in frmAR17
   core::Label lblOrigState;
 
-  // The call has gone out: a node that names no software counts as refusing after some seconds.
+  // The call has gone out: a node that names no software counts as refusing after some seconds, an
+  // AR-Cluster after a while if it never prompts for the question.
   void LoggedIn();
   // An AR-Cluster has been asked for them. Silence counts as its refusal after a while, until it
   // answers.
@@ -45,6 +46,7 @@ class Ar17 {
   bool Refused(std::string_view line);
   void RefusedBySoftware();
   bool CallIsRefused(std::string_view line);
+  void WaitForAnswer();
   void TakeSilenceForRefusal();
   void Settle();
   void GoOn();

@@ -48,7 +48,6 @@ Connection::Connection(platform::Scheduler& scheduler, const core::Calendar& cal
   socket_.error = [this](const platform::SocketFault& fault) { OnError(fault); };
   socket_.dataArrival = [this] { intake_.Turn(); };
   timers_.SetDuty(TimerId::Reconnect, [this] { RetryNow(); });
-  cmdConnect.Caption.Set("Connect");
   cmdDisconnect.Caption.Set("Disconnect");
   cmdDisconnect.Enabled.Set(false);
   AutoReconnect.Caption.Set("Auto Reconnect");

@@ -24,7 +24,19 @@ LinkButtons::LinkButtons(platform::Scheduler& scheduler, core::Settings& setting
       disconnectPressed_(connection.cmdDisconnect.Click.Add([this] {
         if (!Disconnecting) tasks_.Start("Disconnect", PressDisconnect());
       })),
+      naming_{connection.cmdConnect.Enabled.Observe([this](bool) { Name(); }),
+              connection.cmdDisconnect.Enabled.Observe([this](bool) { Name(); }),
+              connection.AutoReconnect.Value.Observe([this](bool) { Name(); })},
       tasks_(scheduler, needs_.onFault) {}
+
+void LinkButtons::Name() {
+  core::Button& connect = connection_.cmdConnect;
+  core::Button& disconnect = connection_.cmdDisconnect;
+  const bool tryIsAwaited =
+      connect.Enabled.Get() && disconnect.Enabled.Get() && connection_.AutoReconnect.Value.Get();
+  connect.Caption.Set(tryIsAwaited ? "Connect now" : "Connect");
+  disconnect.ToolTip.Set(tryIsAwaited ? "Ends the tries" : "");
+}
 
 void LinkButtons::PressConnect() {
   loginWatch_.LoginPatience = 2;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 
 #include "core/settings.h"
@@ -12,7 +13,8 @@
 
 namespace session {
 
-// The user's two acts on the link.
+// The user's two acts on the link. While a try is awaited both are right, and are called by what
+// they do then.
 class LinkButtons {
  public:
   struct Needs {
@@ -26,6 +28,7 @@ class LinkButtons {
               Needs needs);
 
  private:
+  void Name();
   void PressConnect();
   platform::Task<> PressDisconnect();
 
@@ -39,6 +42,7 @@ class LinkButtons {
   bool Disconnecting = false;
   platform::Registration connectPressed_;
   platform::Registration disconnectPressed_;
+  std::array<platform::Registration, 3> naming_;
   platform::Tasks tasks_;
 };
 

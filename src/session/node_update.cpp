@@ -91,6 +91,8 @@ void NodeUpdate::Load() {
   const bool known = !endpoints_.nodeList.empty();
   cmdNode.Enabled.Set(known);
   cmdNode.ToolTip.Set(known ? "" : kNoEndpoint);
+  for (core::Label& warning : lblWarning) warning.Visible.Set(known);
+  Check1.Visible.Set(known);
   if (!Fetching.Get()) lblResult.Caption.Set({});
 }
 

@@ -34,7 +34,7 @@ class NodeUpdate {
   std::array<core::Label, 2> lblVersion;  // what the two below are
   core::Label lblInstalled;               // the version of the present file
   core::Label lblAvailable;               // what there is to fetch
-  std::array<core::Label, 2> lblWarning;  // what a new list costs
+  std::array<core::Label, 2> lblWarning;  // what a new list costs, where one can be had
   core::Label lblResult;                  // how the update goes, or went
   // Per cent; 0 while it is not known, and unless an update runs or went well.
   core::Property<int> ProgressBar1{0};

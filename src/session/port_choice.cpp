@@ -94,7 +94,7 @@ void PortChoice::ShowDevices() {
 std::string PortChoice::Words(const std::string& path) const {
   const auto found = std::find_if(present_.begin(), present_.end(),
                                   [&](const auto& each) { return each.path == path; });
-  if (found == present_.end()) return path + "  (not listed)";
+  if (found == present_.end()) return path + "  (not among the devices found)";
   return found->product.empty() ? path : path + "  " + Printable(found->product);
 }
 

@@ -26,7 +26,7 @@ struct NodeState {
   bool ArpcAsked = false;          // the node sends extended spot lines
   bool ArpcRefused = false;        // the node has said, or its software says, that it does not
   bool Ar17Overdue = false;        // no software was named in time to wait for them
-  bool Ar17Silent = false;         // an AR-Cluster was asked for them, with no answer in time
+  bool Ar17Silent = false;         // an AR-Cluster did not answer in time, or prompt to be asked
   bool NoEmailSet = false;         // the node greets with the name: it knows the operator
   bool RequestedSettings = false;  // "sh/settings" has been sent
   bool NodeSentPassword = false;   // the node has asked for the password behind the login

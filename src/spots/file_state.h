@@ -1,11 +1,10 @@
 #pragma once
 
-#include <array>
 #include <string_view>
 
 #include "platform/files.h"
 
-// What became of the files that are read at the start.
+// What became of a file that is read at the start.
 namespace spots {
 
 enum class FileState {
@@ -14,14 +13,8 @@ enum class FileState {
   Unreadable,  // it is there, and can't be read
   TooLong,     // what is behind the limit doesn't count
   Damaged,     // what it holds is not what it should be, or not all of it
+  SetAside,    // it is good again; what could not be taken from it is kept beside it
 };
-
-// `name` is that of a file in the program's folder.
-struct FileReport {
-  std::string_view name;
-  FileState state;
-};
-using FileReports = std::array<FileReport, 5>;
 
 FileState StateOf(platform::Files::Fault fault);
 

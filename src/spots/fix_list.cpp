@@ -32,23 +32,23 @@ unsigned Bit(FixField field) { return 1u << field; }
 
 FixList::FixList(platform::Files& files, platform::Scheduler& scheduler, core::ErrorLog& errorLog,
                  std::string folder)
-    : files_(files),
+    : file(files, folder + "/fixspots.dat"),
+      files_(files),
       scheduler_(scheduler),
       errorLog_(errorLog),
       path_(std::move(folder) + "/fixspots.dat") {}
 
-FileState FixList::ReadFixSpots() {
+void FixList::ReadFixSpots() {
   Clear();
-  const auto content = files_.Read(path_);
-  fileHoldsMore_ = StateOf(content.fault) == FileState::Unreadable;
-  if (fileHoldsMore_) Report("Form_load", content.fault);
-  const FileState state =
-      content.fault == Fault::None ? Take(content.bytes) : StateOf(content.fault);
+  const auto content = file.Read();
+  if (content.fault == Fault::None)
+    Take(content.bytes);
+  else if (content.fault != Fault::NotFound)
+    Report("Form_load", content.fault);
   Changed.Tell();
-  return state;
 }
 
-FileState FixList::Take(std::string_view text) {
+void FixList::Take(std::string_view text) {
   const bool torn = IsTorn(text);
   bool foreign = false;
   while (!text.empty()) {
@@ -56,13 +56,12 @@ FileState FixList::Take(std::string_view text) {
     auto entry = ParseFixLine(line);
     foreign = foreign || (!entry && !IsFixHeading(line));
     if (!entry) continue;
-    fileHoldsMore_ = FixCount() == kMostEntries;
-    if (fileHoldsMore_) return FileState::TooLong;
+    if (FixCount() == kMostEntries) return file.Found(FileState::TooLong, true);
     if (IsFixRow(line)) delayedCBOtoFixSpotsConversion();
     Append(std::move(*entry));
   }
-  fileHoldsMore_ = foreign && entries_.empty();
-  return torn || fileHoldsMore_ ? FileState::Damaged : FileState::Read;
+  const bool noList = foreign && entries_.empty();
+  file.Found(torn || noList ? FileState::Damaged : FileState::Read, torn || foreign);
 }
 
 bool FixList::ApplySpotFix(std::string_view call, FixTarget target, const FixRules& rules) {
@@ -117,7 +116,7 @@ bool FixList::Add(FixEntry entry) {
 void FixList::Import(std::vector<FixEntry> entries, bool replace) {
   if (replace) {
     Clear();
-    fileHoldsMore_ = false;
+    file.GiveUp();
   }
   for (FixEntry& entry : entries) Merge(std::move(entry));
   WriteFix();
@@ -172,12 +171,7 @@ void FixList::SaveNewData(const FixEntry& entry) {
 }
 
 void FixList::WriteFix() {
-  unwritten_ = true;
-  if (fileHoldsMore_) {
-    errorLog_.ReportError("writefix", 0, "the file holds more than could be read");
-    return;
-  }
-  const Fault fault = files_.Replace(path_, Text());
+  const Fault fault = file.Write(Text());
   unwritten_ = fault != Fault::None;
   if (unwritten_) Report("writefix", fault);
 }

@@ -10,9 +10,9 @@
 #include "core/error_log.h"
 #include "platform/files.h"
 #include "platform/scheduler.h"
-#include "spots/file_state.h"
 #include "spots/fix_entry.h"
 #include "spots/fix_index.h"
+#include "spots/kept_file.h"
 #include "spots/node_facts.h"
 #include "spots/shown_columns.h"
 
@@ -54,10 +54,10 @@ class FixList {
   const std::vector<FixEntry>& Entries() const { return entries_; }
   std::size_t FixCount() const { return entries_.size(); }
 
-  // Reads the file, in either form or both mixed. Without one the list is empty. One that can't be
-  // read, holds more than kMostEntries, or nothing of a list, is not written over until it is read
-  // whole.
-  FileState ReadFixSpots();
+  KeptFile file;  // fixspots.dat
+
+  // Reads the file, in either form or both mixed. Without one the list is empty.
+  void ReadFixSpots();
 
   // Corrects what is known of the call. True if an entry fits it, changed or not.
   bool ApplySpotFix(std::string_view call, FixTarget target, const FixRules& rules);
@@ -73,7 +73,7 @@ class FixList {
 
   // Appends the entry to the file as a row.
   void SaveNewData(const FixEntry& entry);
-  // Writes the file anew, now. Nothing is lost of the older one if that fails.
+  // Writes the file anew, now.
   void WriteFix();
   void delayedCBOtoFixSpotsConversion();
   // Writes at once what is still to be written, at the end of the program.
@@ -85,7 +85,7 @@ class FixList {
  private:
   unsigned Correct(FixEntry& entry, FixTarget target, const FixRules& rules);
   void Note(FixEntry& entry, unsigned bits);
-  FileState Take(std::string_view text);
+  void Take(std::string_view text);
   void Append(FixEntry entry);
   void Merge(FixEntry entry);
   void Clear();
@@ -101,7 +101,6 @@ class FixList {
   std::vector<FixEntry> entries_;
   FixIndex index_;
   std::uint64_t fixes_ = 0;
-  bool fileHoldsMore_ = false;  // than the entries: it must not be written over
   bool unwritten_ = false;
   bool pending_ = false;
   platform::Registration due_;

@@ -125,7 +125,7 @@ void Membership::CheckerSetup() {
   lblLotw.Visible.Set(on != 0);
 }
 
-FileState Membership::ReadLotw(Origin origin) {
+FileState Membership::TakeLotw(Origin origin) {
   const auto content = files_.Read(folder_ + "/lotw.txt");
   const auto file = ParseLotw(content.bytes);
   lotwCalls_ = CallTable(file ? file->calls : std::vector<std::string_view>{});
@@ -137,7 +137,7 @@ FileState Membership::ReadLotw(Origin origin) {
   return file->whole ? FileState::Read : FileState::Damaged;
 }
 
-FileState Membership::ReadeQSL() {
+FileState Membership::TakeeQSL() {
   const std::string path = folder_ + "/eqsl.txt";
   auto content = files_.Read(path);
   for (char& byte : content.bytes) byte = core::UCase(byte);

@@ -49,11 +49,15 @@ class Membership {
   // Sets the switches as the settings have them; a click of the user writes them there.
   void TakeSettings();
 
+  // What became of the files when they were last read.
+  core::Property<FileState> LotwFile{FileState::Missing};
+  core::Property<FileState> EqslFile{FileState::Missing};
+
   // Read the files lotw.txt and eqsl.txt. One that is missing or of no good leaves its list empty
   // and the caption as it was. A fetched LoTW list also goes into lotwlist.txt, a call a line; an
   // eQSL list as it was fetched is rewritten in order.
-  FileState ReadLotw(Origin origin = Origin::Stored);
-  FileState ReadeQSL();
+  void ReadLotw(Origin origin = Origin::Stored) { LotwFile.Set(TakeLotw(origin)); }
+  void ReadeQSL() { EqslFile.Set(TakeeQSL()); }
 
   // Looks the call up, byte for byte, in the lists that are on.
   void FindLotw(std::string_view call);
@@ -68,6 +72,8 @@ class Membership {
   std::size_t Memory() const { return lotwCalls_.Memory() + eqslCalls_.Memory(); }
 
  private:
+  FileState TakeLotw(Origin origin);
+  FileState TakeeQSL();
   void ObserveClicks();
   void ClickList(core::Check& check, const CallTable& calls, List list);
   void RejectNotSetup();

@@ -11,10 +11,12 @@ namespace spots {
 ReferenceData::ReferenceData(platform::Files& files, platform::Dialogs& dialogs, std::string folder)
     : files_(files), dialogs_(dialogs), folder_(std::move(folder)) {}
 
-FileState ReferenceData::Read() {
+void ReferenceData::Read() {
   ReadWLCty(files_, dialogs_, folder_, countries);
-  return ReadState(files_, folder_, states);
+  ReadStates();
 }
+
+void ReferenceData::ReadStates() { StateFile.Set(ReadState(files_, folder_, states)); }
 
 void ReferenceData::SetHome(const Home& home) {
   if (home == home_) return;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/controls.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "spots/cty_table.h"
@@ -21,9 +22,11 @@ class ReferenceData {
   CtyTable countries;
   StateTable states;
 
-  // Reads both files; what is missing stays empty, which the user is told of the countries. Gives
-  // what became of that of the states.
-  FileState Read();
+  core::Property<FileState> StateFile{FileState::Missing};  // what became of it when last read
+
+  // Reads both files; what is missing stays empty, which the user is told of the countries.
+  void Read();
+  void ReadStates();
   // Where headings are counted from. Cheap if it is the same.
   void SetHome(const Home& home);
 

@@ -28,48 +28,51 @@ std::string AsKept(std::string_view text) {
 }  // namespace
 
 RejectLists::RejectLists(platform::Files& files, const core::Settings& settings, std::string path)
-    : files_(files), settings_(settings), path_(std::move(path)) {
+    : file(files, std::move(path)), settings_(settings) {
   lblRejected.Visible.Set(false);
 }
 
-FileState RejectLists::ReadReject() {
+void RejectLists::ReadReject() {
   for (const Kind kind : {kDx, kCall, kComment}) {
     lstReject[kind].Clear();
     Forget(kind);
   }
-  const auto content = files_.Read(path_);
-  const FileState state = StateOf(content.fault);
-  fileHoldsMore_ = state == FileState::Unreadable || content.bytes.size() > kMostBytes;
-  const std::size_t lines = Take(std::string_view(content.bytes).substr(0, kMostBytes));
-  if (state != FileState::Read) return state;
-  if (fileHoldsMore_) return FileState::TooLong;
-  fileHoldsMore_ = lines == 0 && content.bytes.find_first_not_of(kBlank) != std::string::npos;
-  return fileHoldsMore_ || IsTorn(content.bytes) ? FileState::Damaged : FileState::Read;
+  const auto content = file.Read();
+  if (content.fault != Fault::None) return;
+  const Taken taken = Take(std::string_view(content.bytes).substr(0, kMostBytes));
+  if (taken.full || content.bytes.size() > kMostBytes) return file.Found(FileState::TooLong, true);
+  const bool torn = IsTorn(content.bytes);
+  const bool noList = taken.passedOver && taken.lines == 0;
+  file.Found(torn || noList ? FileState::Damaged : FileState::Read, torn || taken.passedOver);
 }
 
-std::size_t RejectLists::Take(std::string_view text) {
-  std::size_t lines = 0;
-  while (!text.empty()) {
-    const core::RecordPair pair = core::SplitRecord(core::TakeLine(text));
-    const auto word = std::find(kKindWords.begin(), kKindWords.end(), pair.first);
-    if (word == kKindWords.end()) continue;
-    ++lines;
-    const auto kind = static_cast<Kind>(word - kKindWords.begin());
-    if (IsFull(kind))
-      fileHoldsMore_ = true;
-    else
-      Add(kind, pair.second);
+RejectLists::Taken RejectLists::Take(std::string_view text) {
+  Taken taken;
+  while (!text.empty()) TakeLine(core::TakeLine(text), taken);
+  return taken;
+}
+
+void RejectLists::TakeLine(std::string_view line, Taken& taken) {
+  const core::RecordPair pair = core::SplitRecord(line);
+  const auto word = std::find(kKindWords.begin(), kKindWords.end(), pair.first);
+  if (word == kKindWords.end()) {
+    taken.passedOver = taken.passedOver || line.find_first_not_of(kBlank) != line.npos;
+    return;
   }
-  return lines;
+  ++taken.lines;
+  const auto kind = static_cast<Kind>(word - kKindWords.begin());
+  if (IsFull(kind))
+    taken.full = true;
+  else
+    Add(kind, pair.second);
 }
 
-Fault RejectLists::WriteReject() const {
-  if (fileHoldsMore_) return Fault::Other;
+Fault RejectLists::WriteReject() {
   std::string text;
   for (const Kind kind : {kDx, kCall, kComment})
     for (const std::string& entry : lstReject[kind].Items())
       text += core::Record({core::QuotedField(kKindWords[kind]), core::QuotedField(entry)});
-  return files_.Replace(path_, text);
+  return file.Write(text);
 }
 
 bool RejectLists::Add(Kind kind, std::string_view text) {

@@ -11,7 +11,7 @@
 #include "core/list_box.h"
 #include "core/settings.h"
 #include "platform/files.h"
-#include "spots/file_state.h"
+#include "spots/kept_file.h"
 #include "spots/rejected_calls.h"
 #include "spots/rejected_words.h"
 #include "spots/spot.h"
@@ -36,12 +36,12 @@ class RejectLists {
   core::Label lblRejected;                      // "Dx Spots Rejected = 5"; says why the last was
   core::Property<bool> CountryWordSeen;         // in this session
 
+  KeptFile file;
+
   // Takes the lists from the file. Without one, or with one that can't be read, they are empty.
   // What is blank or held already is skipped, and so are other kinds.
-  FileState ReadReject();
-  // A file that could not be read, or not whole, or that holds nothing of a list, is not written
-  // over until it is: that is a fault.
-  platform::Files::Fault WriteReject() const;
+  void ReadReject();
+  platform::Files::Fault WriteReject();
 
   // Adds an entry at the end; its double quotes are left out and line ends become blanks, as in the
   // file. False if it is blank or held already, or if the list is full.
@@ -68,18 +68,20 @@ class RejectLists {
   RejectedCalls::Place FindCall(const Spot& spot) const;
   void Count(std::string reason);
   const std::string& Entry(Kind kind, std::size_t place) const;
-  // How many lines are of a list.
-  std::size_t Take(std::string_view text);
+  struct Taken {
+    std::size_t lines = 0;    // that are of a list
+    bool passedOver = false;  // there are others
+    bool full = false;        // a list is
+  };
+  Taken Take(std::string_view text);
+  void TakeLine(std::string_view line, Taken& taken);
   bool IsFull(Kind kind) const { return lstReject[kind].Items().size() >= kMostEntries; }
   void Forget(Kind kind);
   void Index(Kind kind, const std::string& entry);
 
-  platform::Files& files_;
   const core::Settings& settings_;
-  std::string path_;
   std::array<RejectedCalls, kKinds> entries_;
   RejectedWords words_;  // the comments once more
-  bool fileHoldsMore_ = false;
   std::uint64_t rejected_ = 0;
 };
 

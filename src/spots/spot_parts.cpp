@@ -104,7 +104,7 @@ SpotLines::Needs SpotParts::NeedsOfLines() {
               [this](std::string_view grid, std::string_view call) {
                 gridRecorder_.RecordGrid(grid, call, needs_.nodeFacts());
               },
-          .DisplayDx = [this] { pipeline.DisplayDx(); },
+          .DisplayDx = [this] { DisplayDx(); },
           .RcvdPrompt = needs_.RcvdPrompt,
           .directoryRuns = [] { return false; },
           .latency = needs_.latency,
@@ -176,12 +176,12 @@ void SpotParts::TakeDisplay() {
   table.SetTableWidth(display.Layout().FullWidth);
 }
 
-FileReports SpotParts::ReadFiles() {
-  return {{{"state.dat", reference.Read()},
-           {"reject.dat", rejectLists.ReadReject()},
-           {"fixspots.dat", fixList.ReadFixSpots()},
-           {"lotw.txt", membership.ReadLotw()},
-           {"eqsl.txt", membership.ReadeQSL()}}};
+void SpotParts::ReadFiles() {
+  reference.Read();
+  rejectLists.ReadReject();
+  fixList.ReadFixSpots();
+  membership.ReadLotw();
+  membership.ReadeQSL();
 }
 
 void SpotParts::BeginLog() {
@@ -212,8 +212,18 @@ void SpotParts::FollowReload(bool reloading) {
   table.ForgetCounts();
 }
 
+// A row of another order than that of time comes on view with a tick.
+void SpotParts::DisplayDx() {
+  const std::uint64_t shown = pipeline.SpotsShown;
+  const platform::Milliseconds began = platform_.scheduler.Now();
+  pipeline.DisplayDx();
+  if (pipeline.SpotsShown != shown && table.optSortBy.Get() == kTimeOrder)
+    spotTook_ = platform_.scheduler.Now() - began;
+}
+
 void SpotParts::Tick() {
   table.RunDxQue();
+  if (spotTook_) numbers.ShowTime(*std::exchange(spotTook_, std::nullopt));
   const int minute = MomentNow(calendar_).minutes;
   if (std::exchange(minute_, minute) != minute) table.RefreshLastHour();
   duplicates.UpdateSkimmerDupeDisplay();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,7 +12,6 @@
 #include "platform/tasks.h"
 #include "spots/display_choice.h"
 #include "spots/duplicates.h"
-#include "spots/file_state.h"
 #include "spots/fix_form.h"
 #include "spots/fix_list.h"
 #include "spots/grid_recorder.h"
@@ -77,7 +77,7 @@ class SpotParts {
   void TakeSettings();
   // Reads the files of the start: first those on countries, then the rest. What is wrong with that
   // of the countries the user has been told.
-  FileReports ReadFiles();
+  void ReadFiles();
   // The end of the start: the log goes on, and what it holds comes back if that is wanted.
   void BeginLog();
   // Ten times a second: what waits goes into a sorted view, and counts are shown.
@@ -127,12 +127,14 @@ class SpotParts {
   SpotRequests::Needs NeedsOfRequests();
   bool ApplySpotFix(std::string_view call, FixTarget target);
   const WordFacts& WordsNow();
+  void DisplayDx();
   void TakeDisplay();
   void ShowNumbers();
   void FollowReload(bool reloading);
   void DeleteOldLogs();
 
-  int minute_ = -1;  // of the last tick, of the day
+  int minute_ = -1;                                 // of the last tick, of the day
+  std::optional<platform::Milliseconds> spotTook_;  // since the last tick
   std::vector<platform::Registration> kept_;
   platform::Registration displayed_;
   platform::Registration reloading_;

@@ -75,8 +75,6 @@ void LinkBar::Name() {
   age_->setAccessibleName(tr("Age of the last line"));
   clock_->setAccessibleName(tr("Time in UTC"));
   date_->setAccessibleName(tr("Date in UTC"));
-  connect_->setAccessibleName(tr("Connect"));
-  disconnect_->setAccessibleName(tr("Disconnect"));
   nodes_->setAccessibleName(tr("Nodes"));
 }
 

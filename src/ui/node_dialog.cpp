@@ -1,6 +1,5 @@
 #include "ui/node_dialog.h"
 
-#include <QAccessible>
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -14,6 +13,7 @@
 #include "ui/bind.h"
 #include "ui/fonts.h"
 #include "ui/form.h"
+#include "ui/whole_rows.h"
 
 namespace ui {
 namespace {
@@ -78,17 +78,6 @@ QLabel* MakeNamed(core::Label& model, const QString& name, Frames& frames, QWidg
   return label;
 }
 
-// Speaks what it shows when that changes.
-QLabel* MakeResult(core::Label& model, const QString& name, Frames& frames, QWidget* parent) {
-  QLabel* label = MakeNamed(model, name, frames, parent);
-  label->setWordWrap(true);
-  BindProperty<std::string>(label, model.Caption, frames, [label](const std::string& text) {
-    QAccessibleEvent alert(label, QAccessible::Alert);
-    if (!text.empty()) QAccessible::updateAccessibility(&alert);
-  });
-  return label;
-}
-
 QHBoxLayout* MakeLine() {
   auto* row = new QHBoxLayout;
   row->setSpacing(8);
@@ -108,10 +97,10 @@ NodeDialog::NodeDialog(Model model, Frames& frames, QWidget* parent)
   column->addWidget(MakeRows(frames), 1);
   column->addLayout(MakeFields(frames));
   column->addWidget(MakeCheck(model_.form.chkSecondary, "S", frames, this));
-  column->addWidget(MakeResult(model_.form.lblResult, tr("Result"), frames, this));
+  AddNotice(column, tr("Result"), model_.form.lblResult, frames);
   column->addLayout(MakeButtons(frames));
   column->addSpacing(8);
-  column->addLayout(MakeUpdate(frames));
+  AddUpdate(column, frames);
   BindProperty<bool>(this, model_.form.Open, frames, [this](bool open) {
     if (open) Begin();
   });
@@ -164,7 +153,7 @@ QWidget* NodeDialog::MakeRows(Frames& frames) {
       choice.UserSelects(chosen.front().row());
   });
   connect(view_, &QTreeView::doubleClicked, this, [&form] { form.cmdApply.Press(); });
-  return view_;
+  return new WholeRows(view_, this);
 }
 
 QLayout* NodeDialog::MakeFields(Frames& frames) {
@@ -205,9 +194,10 @@ QLayout* NodeDialog::MakeButtons(Frames& frames) {
   return row;
 }
 
-QLayout* NodeDialog::MakeUpdate(Frames& frames) {
+void NodeDialog::AddUpdate(QBoxLayout* into, Frames& frames) {
   session::NodeUpdate& update = model_.update;
   auto* column = new QVBoxLayout;
+  into->addLayout(column);
   column->setSpacing(8);
   column->addWidget(MakeLabel(update.fraUpdate, "heading", frames, this));
   column->addLayout(MakeVersions(frames));
@@ -216,12 +206,12 @@ QLayout* NodeDialog::MakeUpdate(Frames& frames) {
   bar->setTextVisible(false);
   bar->setFixedHeight(kBarHeight);
   BindProperty<int>(bar, update.ProgressBar1, frames, [bar](int value) { bar->setValue(value); });
+  BindProperty<bool>(bar, update.Fetching, frames, [bar](bool on) { bar->setVisible(on); });
   column->addWidget(bar);
-  column->addWidget(MakeResult(update.lblResult, tr("Result of the update"), frames, this));
+  AddNotice(column, tr("Result of the update"), update.lblResult, frames);
   for (core::Label& warning : update.lblWarning)
     column->addWidget(MakeLabel(warning, "dim", frames, this));
   column->addWidget(MakeCheck(update.Check1, "m", frames, this));
-  return column;
 }
 
 QLayout* NodeDialog::MakeVersions(Frames& frames) {

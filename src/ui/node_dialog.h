@@ -29,7 +29,7 @@ class NodeDialog : public QDialog {
   QWidget* MakeRows(Frames& frames);
   QLayout* MakeFields(Frames& frames);
   QLayout* MakeButtons(Frames& frames);
-  QLayout* MakeUpdate(Frames& frames);
+  void AddUpdate(QBoxLayout* into, Frames& frames);
   QLayout* MakeVersions(Frames& frames);
   void Begin();
   void Renew();

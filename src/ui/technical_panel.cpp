@@ -42,6 +42,7 @@ TechnicalPanel::TechnicalPanel(program::Program& program, Frames& frames, QWidge
   Add(tr("Spots rejected"), spots.rejectLists.lblRejected, frames);
   Add(tr("Share of duplicates among Skimmer spots"), spots.duplicates.SkimmerDupes, frames);
   AddFigure(tr("Spots corrected"), spots.fixList.lblFixes, frames);
+  AddFigure(tr("Seconds from a spot's line to its row"), spots.numbers.txtTime, frames);
   AddFigure(tr("Seconds to the node's answer"), session.latency.Text3, frames);
   AddFigure(tr("Seconds to the first of the missed spots"), spots.lines.list.lblSeconds, frames);
   AddFigure(tr("Of these, not the link's own"), spots.lines.list.lblBeyondLatency, frames);

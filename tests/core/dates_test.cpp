@@ -192,5 +192,13 @@ TEST_F(CalendarTest, TheTimeStampIsToTheSecond) {
   EXPECT_EQ(TimeStamp(calendar.Now()), "2026-01-06 00:07:09");
 }
 
+TEST(SecondsTest, ASpanHasOneToThreeDecimalsRoundedHalfUp) {
+  EXPECT_EQ(Seconds(1250ms, 3, 1), "001.3");
+  EXPECT_EQ(Seconds(1254ms, 3, 2), "001.25");
+  EXPECT_EQ(Seconds(1254ms, 1, 3), "1.254");
+  EXPECT_EQ(Seconds(4ms, 1, 3), "0.004");
+  EXPECT_EQ(Seconds(-1250ms, 1, 2), "-1.25");
+}
+
 }  // namespace
 }  // namespace core

@@ -126,7 +126,7 @@ TEST_F(CommDialogTest, ADeviceThatVanishesIsToldAndTheConditionOpensTheDialog) {
   program->conditions.cmdHelp.Press();
   Run(200ms);
   EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(Chosen(dialog, "Device of the TNC"), "/dev/ttyUSB0  (not listed)");
+  EXPECT_EQ(Chosen(dialog, "Device of the TNC"), "/dev/ttyUSB0  (not among the devices found)");
 }
 
 TEST_F(CommDialogTest, ALinkIsEndedBeforeTheModeChangesAndItSaysSoBefore) {

@@ -22,7 +22,7 @@ TEST_F(ConditionsTest, NoneTakesNoRoom) {
   EXPECT_EQ(Tabs().y(), 48) << "right under the link bar";
 }
 
-TEST_F(ConditionsTest, ALostLinkIsALineUnderTheLinkBarWithAButtonThatHelps) {
+TEST_F(ConditionsTest, ALostLinkIsALineUnderTheLinkBarWhoseButtonHelps) {
   Open();
   LogIn();
   Lose();

@@ -77,17 +77,4 @@ TEST_F(ConditionsTest, AButtonMayEndItsOwnCondition) {
   EXPECT_FALSE(conditions.lblText.Visible.Get());
 }
 
-TEST_F(ConditionsTest, AButtonThatIsOfNoUseNowSaysWhy) {
-  int presses = 0;
-  conditions.Raise({.key = "a",
-                    .text = "x",
-                    .button = "Connect now",
-                    .help = [&presses] { ++presses; },
-                    .whyNot = "A try is under way."});
-  EXPECT_FALSE(conditions.cmdHelp.Enabled.Get());
-  EXPECT_EQ(conditions.cmdHelp.ToolTip.Get(), "A try is under way.");
-  conditions.cmdHelp.Press();
-  EXPECT_EQ(presses, 0);
-}
-
 }  // namespace

@@ -5,7 +5,6 @@
 #include "program/desk.h"
 
 using namespace std::chrono_literals;
-using session::LinkPhase;
 using testing::HasSubstr;
 
 namespace {
@@ -79,26 +78,11 @@ TEST_F(LinkConditionTest, IsNotRaisedForALinkThatTheUserEnds) {
   }
 }
 
-TEST_F(LinkConditionTest, ConnectNowTriesAtOnce) {
+TEST_F(LinkConditionTest, LeavesWhatHelpsToTheBarOfTheLink) {
   LogIn();
   Lose();
-  desk.StartNode();
-  EXPECT_EQ(Conditions().cmdHelp.Caption.Get(), "Connect now");
-  EXPECT_TRUE(Conditions().cmdHelp.Enabled.Get());
-  Conditions().cmdHelp.Press();
-  EXPECT_TRUE(desk.world.RunUntil([this] { return Session().state.LoggedIn; }, 10s));
-}
-
-TEST_F(LinkConditionTest, ConnectNowIsOfNoUseWhileATryIsUnderWay) {
-  LogIn();
-  Lose();
-  desk.world.network.silentAddresses.insert("127.0.0.1");
-  ASSERT_TRUE(desk.world.RunUntil(
-      [this] { return Session().state.Phase.Get() == LinkPhase::Trying; }, 70s));
-  desk.world.Run(1s);
   EXPECT_NE(Text(), "");
-  EXPECT_FALSE(Conditions().cmdHelp.Enabled.Get());
-  EXPECT_EQ(Conditions().cmdHelp.ToolTip.Get(), "A try is under way.");
+  EXPECT_FALSE(Conditions().cmdHelp.Visible.Get());
 }
 
 }  // namespace

@@ -106,6 +106,57 @@ TEST_F(StartUpTest, EmptyGmtOffsetOpensItsFormWhichHoldsNothingUp) {
   EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"Gmt Offset\",\"-5.5\"\r\n"));
 }
 
+// The folder is there, and the user agrees to a new configuration.
+class NewConfigurationTest : public StartUpTest {
+ protected:
+  NewConfigurationTest() {
+    desk.world.files.folders.insert(Desk::kFolder);
+    desk.world.dialogs.WillAnswer("Configuration File Not Found - Create One?", Answer::Yes);
+    desk.Start();
+  }
+  program::UserInfo& userInfo() { return desk.program->userInfo; }
+  bool AsksForOffset() { return desk.program->offsetForm.Open.Get(); }
+};
+
+TEST_F(NewConfigurationTest, TheUserFormStandsAlone) {
+  EXPECT_TRUE(userInfo().Open.Get());
+  EXPECT_FALSE(AsksForOffset());
+}
+
+TEST_F(NewConfigurationTest, TheOffsetThatTheUserFormHasAskedForIsNotAskedForAgain) {
+  userInfo().txtCall.UserTypes("K1TST");
+  userInfo().txtName.UserTypes("Anna");
+  userInfo().txtQth.UserTypes("Ann Arbor, MI");
+  userInfo().cmdOk.Press();
+  EXPECT_EQ(desk.program->settings.GmtOffset, "Ok");
+  EXPECT_FALSE(AsksForOffset());
+}
+
+TEST_F(NewConfigurationTest, TheOffsetIsAskedForOnceTheUserFormIsCancelled) {
+  userInfo().cmdCancel.Press();
+  EXPECT_TRUE(AsksForOffset());
+}
+
+TEST_F(NewConfigurationTest, TheFormOfTheOffsetYieldsToTheUserFormAndComesBack) {
+  userInfo().cmdCancel.Press();
+  userInfo().Show();
+  EXPECT_FALSE(AsksForOffset());
+  userInfo().cmdCancel.Press();
+  EXPECT_TRUE(AsksForOffset());
+  desk.program->offsetForm.cmdCancel.Press();
+  userInfo().Show();
+  userInfo().cmdCancel.Press();
+  EXPECT_FALSE(AsksForOffset()) << "the user has said that he won't tell it now";
+}
+
+TEST_F(StartUpTest, StartThatConnectsWithoutACallAsksForTheUserBeforeTheOffset) {
+  desk.HasConfiguration("\"AutoStart\",-1\r\n");
+  program::Program& program = desk.Start();
+  desk.world.Run(1s);
+  EXPECT_TRUE(program.userInfo.Open.Get());
+  EXPECT_FALSE(program.offsetForm.Open.Get());
+}
+
 TEST_F(StartUpTest, GmtOffsetFormThatIsCancelledStoresNothingAndAsksAgainNextTime) {
   desk.HasConfiguration("\"My Call\",\"K1TST\"\r\n");
   program::OffsetForm& form = desk.Start().offsetForm;

@@ -108,4 +108,51 @@ TEST_F(UnreadFiles, StateFileIsGoodAgainOnceTheDamagedOneIsDeleted) {
   EXPECT_EQ(desk.program->spotParts.reference.states.StateCount(), 65);
 }
 
+TEST_F(UnreadFiles, ListThatIsWrittenAnewIsGoodAndTheOlderFileIsKept) {
+  const std::string cut = "\"Dx\",\"P5DX\"\r\n\"Dx\",\"K1";
+  desk.Content("reject.dat") = cut;
+  desk.Start();
+  auto& form = desk.program->spotParts.rejectForm;
+  form.txtReject[spots::RejectLists::kDx].UserTypes("3Y0J");
+  form.cmdAdd[spots::RejectLists::kDx].Press();
+  EXPECT_EQ(desk.Content("reject.dat.bad"), cut);
+  EXPECT_EQ(Told(),
+            "reject.dat held what could not be read: the older file is kept as reject.dat.bad.");
+  desk.program->conditions.cmdHelp.Press();
+  EXPECT_EQ(Told(), "");
+  desk.program.reset();
+  desk.Start();
+  EXPECT_EQ(Told(), "");
+}
+
+TEST_F(UnreadFiles, CorrectionsThatAreWrittenAnewKeepTheOlderFile) {
+  desk.Content("fixspots.dat") = "<html>\r\n<body>";
+  desk.Start();
+  auto& form = desk.program->spotParts.fixForm;
+  form.txtAddCall.UserTypes("K1ABC");
+  form.txtAddCty.UserTypes("K");
+  form.cmdAdd.Press();
+  EXPECT_EQ(Told(), "fixspots.dat is damaged: corrections of yours are missing.");
+  desk.world.Run(spots::FixList::kWriteDelay);
+  EXPECT_EQ(Told(),
+            "fixspots.dat held what could not be read: the older file is kept as "
+            "fixspots.dat.bad.");
+  EXPECT_THAT(desk.Content("fixspots.dat.bad"), testing::StartsWith("<html>\r\n<body>"));
+  EXPECT_THAT(desk.Content("fixspots.dat"), testing::StartsWith("\"K1ABC\",\"K\""));
+}
+
+TEST_F(UnreadFiles, OneThatAGoodOneWasPutInPlaceOfIsReadAgainByTheButton) {
+  const std::string title = " MOLVA SORTED LIST OF AG MEMBERS AS OF\r\n";
+  desk.Content("eqsl.txt") = " 3" + title + "K1ABC\r\nK2";
+  desk.Start();
+  core::Button& button = desk.program->conditions.cmdHelp;
+  EXPECT_EQ(button.Caption.Get(), "Read again");
+  button.Press();
+  EXPECT_EQ(Told(), "eqsl.txt is damaged: eQSL marks are missing. Put a good one there.");
+  desk.Content("eqsl.txt") = " 1" + title + "K1ABC\r\n";
+  button.Press();
+  EXPECT_EQ(Told(), "");
+  EXPECT_EQ(desk.program->spotParts.membership.EqslCount(), 1u);
+}
+
 }  // namespace

@@ -69,7 +69,7 @@ TEST_F(Ar17Test, RefusalIsClaimedAndForwarded) {
 TEST_F(Ar17Test, OtherLinesOfAnArClusterSettleNothing) {
   LogInToAr();
   Receive("welcome");
-  LetPass(1min);
+  LetPass(20s);
   EXPECT_FALSE(program.state.ArpcAsked);
   EXPECT_FALSE(program.state.Ar17Refused());
   EXPECT_FALSE(program.duelling.DuelArmed);
@@ -193,6 +193,62 @@ TEST_F(SilentArCluster, SilenceOfTheLastSessionDoesNotCountForTheNextOne) {
   LetPass(20s);
   EXPECT_TRUE(program.state.LoggedIn);
   EXPECT_FALSE(Refused());
+}
+
+// A node whose prompt is not its software's: the question never goes out.
+
+class PromptlessArCluster : public Ar17Test {
+ protected:
+  bool Refused() const { return program.state.Ar17Refused(); }
+};
+
+TEST_F(PromptlessArCluster, CountsAsRefusingThirtySecondsBehindTheLogin) {
+  LogInToAr();
+  Receive("K1TST-2 at your service >>");
+  LetPass(29s);
+  EXPECT_FALSE(Refused());
+  LetPass(1s);
+  EXPECT_TRUE(Refused());
+  EXPECT_TRUE(program.duelling.DuelArmed);
+  EXPECT_EQ(Status(), "Node is NOT AR17 capable");
+}
+
+TEST_F(PromptlessArCluster, IsAskedForMissedSpotsThenAndOnce) {
+  program.state.WantMissedSpots = program.state.FirstConnect = true;
+  LogInToAr();
+  LetPass(30s);
+  EXPECT_THAT(above.asked, ElementsAre("GetEm"));
+  LetPass(5min);
+  EXPECT_THAT(above.asked, ElementsAre("GetEm"));
+}
+
+TEST_F(PromptlessArCluster, IsStillAskedAtAPromptThatComesLater) {
+  LogInToAr();
+  LetPass(1min);
+  Receive(kArPrompt);
+  LetPass(1s);
+  ExpectSent({"SET/DX_ARPC ON"});
+  Receive("DX ArPc enabled");
+  EXPECT_FALSE(Refused());
+}
+
+TEST_F(PromptlessArCluster, HasThirtySecondsFromThePromptThatComesInTime) {
+  LogInToAr();
+  LetPass(25s);
+  Receive(kArPrompt);
+  LetPass(25s);
+  EXPECT_FALSE(Refused());
+  LetPass(6s);
+  EXPECT_TRUE(Refused());
+}
+
+TEST_F(PromptlessArCluster, ThatNamesItselfLateRefusesInTheEndToo) {
+  LogInTo("good evening");
+  LetPass(50s);
+  Receive("Welcome to the N0NODE AR-Cluster node");
+  EXPECT_FALSE(Refused());
+  LetPass(10s);
+  EXPECT_TRUE(Refused());
 }
 
 struct Incapable {

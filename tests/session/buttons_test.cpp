@@ -14,6 +14,7 @@ constexpr char kPressConnect[] = "Press Connect to restart Auto Reconnect";
 
 class Buttons : public SessionFixture {
  protected:
+  std::string ConnectCaption() const { return program.connection.cmdConnect.Caption.Get(); }
   bool CanConnect() const { return program.connection.cmdConnect.Enabled.Get(); }
   bool CanDisconnect() const { return program.connection.cmdDisconnect.Enabled.Get(); }
   bool AutoReconnect() const { return program.connection.AutoReconnect.Value.Get(); }
@@ -236,6 +237,35 @@ TEST_F(Buttons, LastErrorsOfADisconnectedLinkDoNotBringItBack) {
   NodeResets();
   LetPass(3h);
   EXPECT_THAT(node.called, SizeIs(1));
+}
+
+TEST_F(Buttons, ConnectIsCalledSoThatItDoesNotWaitWhileATryIsAwaited) {
+  EXPECT_EQ(ConnectCaption(), "Connect");
+  Connect();
+  ReceiveBytes("login: ");
+  NodeCloses();
+  EXPECT_EQ(ConnectCaption(), "Connect now");
+  EXPECT_EQ(program.connection.cmdDisconnect.ToolTip.Get(), "Ends the tries");
+  PressDisconnect();
+  LetPass(2min);
+  EXPECT_EQ(ConnectCaption(), "Connect");
+  EXPECT_EQ(program.connection.cmdDisconnect.ToolTip.Get(), "");
+}
+
+TEST_F(Buttons, NoTryIsAwaitedOnceTheUserHasEndedTheOneUnderWay) {
+  PressConnect();
+  PressDisconnect();
+  LetPass(1s);
+  EXPECT_EQ(ConnectCaption(), "Connect");
+}
+
+TEST_F(Buttons, ConnectTriesAtOnceWhileATryIsAwaited) {
+  Connect();
+  ReceiveBytes("login: ");
+  NodeCloses();
+  PressConnect();
+  LetPass(1s);
+  EXPECT_THAT(node.called, SizeIs(2));
 }
 
 }  // namespace

@@ -270,6 +270,19 @@ TEST_F(NodeUpdateTest, AFullDiskLeavesTheOldList) {
   EXPECT_THAT(Result(), HasSubstr("Disk full"));
 }
 
+TEST_F(NodeUpdateTest, WhatAnUpdateCostsIsSaidWhereOneCanBeHad) {
+  const auto isSaid = [this] {
+    EXPECT_EQ(update.lblWarning[0].Visible.Get(), update.lblWarning[1].Visible.Get());
+    EXPECT_EQ(update.Check1.Visible.Get(), update.lblWarning[0].Visible.Get());
+    return update.lblWarning[0].Visible.Get();
+  };
+  update.Load();
+  EXPECT_TRUE(isSaid());
+  endpoints.nodeList.clear();
+  update.Load();
+  EXPECT_FALSE(isSaid());
+}
+
 TEST_F(NodeUpdateTest, TheTickIsKept) {
   update.Check1.UserSets(true);
   EXPECT_TRUE(settings.DontShowClusterUpdate);

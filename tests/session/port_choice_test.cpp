@@ -42,7 +42,7 @@ TEST_F(PortChoiceTest, DevicesGoByTheirProductsToo) {
 
 TEST_F(PortChoiceTest, DeviceThatIsNotFoundStandsFirstAndSaysSo) {
   choice.Load(1, 9600, present);
-  EXPECT_EQ(Chosen(choice.cboDevice), "/dev/ttyS0  (not listed)");
+  EXPECT_EQ(Chosen(choice.cboDevice), "/dev/ttyS0  (not among the devices found)");
   EXPECT_THAT(choice.cboDevice.Options.Get(), SizeIs(3));
   EXPECT_EQ(choice.Device(), "/dev/ttyS0");
 }
@@ -72,7 +72,7 @@ TEST_F(PortChoiceTest, ChosenDeviceStaysWhenThereAreOthers) {
   choice.Look({{"/dev/ttyACM0", "TNC-X"}});
   EXPECT_EQ(choice.Device(), "/dev/ttyUSB3");
   EXPECT_THAT(choice.cboDevice.Options.Get(),
-              ElementsAre("/dev/ttyUSB3  (not listed)", "/dev/ttyACM0  TNC-X"));
+              ElementsAre("/dev/ttyUSB3  (not among the devices found)", "/dev/ttyACM0  TNC-X"));
 }
 
 TEST_F(PortChoiceTest, ProductOfAnyLengthAndBytesIsOneShortLine) {

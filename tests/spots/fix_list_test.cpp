@@ -19,6 +19,7 @@ using testing::HasSubstr;
 using testing::Not;
 
 constexpr auto kListFile = "/f/fixspots.dat";
+constexpr auto kBadFile = "/f/fixspots.dat.bad";
 
 class FixListTest : public testing::Test {
  protected:
@@ -31,6 +32,7 @@ class FixListTest : public testing::Test {
     world.files.content[kListFile] = text;
     list.ReadFixSpots();
   }
+  FileState State() const { return list.file.State.Get(); }
   bool Apply(const std::string& call) {
     return list.ApplySpotFix(call, {spot.DxCty, spot.DxState, spot.DxCq, spot.DxItu, spot.DxGrid},
                              {.shown = columns,
@@ -281,36 +283,64 @@ TEST_F(FixListTest, FileThatMayNotBeReadIsReportedAndNotWrittenOver) {
   EXPECT_THAT(Errors(), HasSubstr("writefix"));
 }
 
-TEST_F(FixListTest, FileThatHoldsNoEntryIsDamagedAndNotWrittenOver) {
+TEST_F(FixListTest, FileThatHoldsNoEntryIsDamagedAndSetAsideWhenItIsWritten) {
   for (const std::string text : {"<html>\r\n", "K1 ABC", "\x01\x02\xFF"}) {
-    world.files.content[kListFile] = text;
-    EXPECT_EQ(list.ReadFixSpots(), FileState::Damaged) << text;
+    world.files.content.clear();
+    Have(text);
+    EXPECT_EQ(State(), FileState::Damaged) << text;
+    list.Add(*ParseFixLine("G0AA,G"));
     list.WriteFix();
-    EXPECT_EQ(File(), text);
+    EXPECT_EQ(world.files.content[kBadFile], text);
+    list.ReadFixSpots();
+    EXPECT_EQ(State(), FileState::Read) << text;
+    EXPECT_EQ(list.FixCount(), 1u);
   }
 }
 
-TEST_F(FixListTest, FileThatIsCutIsDamagedAndItsEntriesHold) {
-  world.files.content[kListFile] = "\"K1ABC\",\"K\"\r\n\"G0AA\",\"G";
-  EXPECT_EQ(list.ReadFixSpots(), FileState::Damaged);
+TEST_F(FixListTest, LineThatCannotBeReadIsSetAsideWhenTheFileIsWritten) {
+  const std::string text = "K1ABC,K\r\nmy own words\r\n";
+  Have(text);
+  EXPECT_EQ(State(), FileState::Read);
+  list.WriteFix();
+  EXPECT_EQ(world.files.content[kBadFile], text);
+  EXPECT_EQ(State(), FileState::SetAside);
+}
+
+TEST_F(FixListTest, GoodFileLeavesNothingAside) {
+  Have("CALL                CTY\r\n\r\n\"oldcall\",\"\"\r\nK1ABC,K\r\n");
+  list.WriteFix();
+  EXPECT_FALSE(world.files.content.contains(kBadFile));
+  EXPECT_EQ(State(), FileState::Read);
+}
+
+TEST_F(FixListTest, FileThatIsCutIsDamagedUntilItIsWrittenAndItsEntriesHold) {
+  const std::string text = "\"K1ABC\",\"K\"\r\n\"G0AA\",\"G";
+  Have(text);
+  EXPECT_EQ(State(), FileState::Damaged);
   EXPECT_EQ(CtyOf("K1ABC"), "K");
+  list.WriteFix();
+  EXPECT_EQ(world.files.content[kBadFile], text);
+  list.ReadFixSpots();
+  EXPECT_EQ(State(), FileState::Read);
 }
 
 TEST_F(FixListTest, EmptyListUnderItsHeadingIsGood) {
   for (const char* text : {"", "\r\n", "CALL                CTY\r\n", "\"oldcall\",\"\"\r\n",
                            "K1ABC,K\r\n<html>\r\n"}) {
-    world.files.content[kListFile] = text;
-    EXPECT_EQ(list.ReadFixSpots(), FileState::Read) << text;
+    Have(text);
+    EXPECT_EQ(State(), FileState::Read) << text;
   }
 }
 
-TEST_F(FixListTest, FileBeyondMeasureIsReadInPartAndNotWrittenOver) {
+TEST_F(FixListTest, FileBeyondMeasureIsReadInPartAndSetAsideWhenItIsWritten) {
   std::string text;
   for (std::size_t i = 0; i <= FixList::kMostEntries; ++i) text += "K" + std::to_string(i) + ",K\n";
   Have(text);
   EXPECT_EQ(list.FixCount(), FixList::kMostEntries);
+  EXPECT_EQ(State(), FileState::TooLong);
   list.WriteFix();
-  EXPECT_EQ(File(), text);
+  EXPECT_EQ(world.files.content[kBadFile], text);
+  EXPECT_EQ(State(), FileState::SetAside);
   EXPECT_FALSE(list.Add(*ParseFixLine("G0AA,G")));
 }
 

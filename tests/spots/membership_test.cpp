@@ -35,6 +35,14 @@ class MembershipTest : public testing::Test {
     membership.ReadLotw();
     membership.ReadeQSL();
   }
+  FileState ReadLotw() {
+    membership.ReadLotw();
+    return membership.LotwFile.Get();
+  }
+  FileState ReadeQSL() {
+    membership.ReadeQSL();
+    return membership.EqslFile.Get();
+  }
   void Use(bool lotw, bool eqsl) {
     membership.showlotw.UserSets(lotw);
     membership.showeqsl.UserSets(eqsl);
@@ -189,31 +197,31 @@ TEST_F(MembershipTest, FileThatMayNotBeReadIsAnEmptyList) {
 }
 
 TEST_F(MembershipTest, ReadingSaysWhatBecameOfTheFile) {
-  EXPECT_EQ(membership.ReadLotw(), FileState::Missing);
-  EXPECT_EQ(membership.ReadeQSL(), FileState::Missing);
+  EXPECT_EQ(ReadLotw(), FileState::Missing);
+  EXPECT_EQ(ReadeQSL(), FileState::Missing);
   world.files.content["/f/lotw.txt"] = "";
   world.files.content["/f/eqsl.txt"] = "<html>";
-  EXPECT_EQ(membership.ReadLotw(), FileState::Damaged);
-  EXPECT_EQ(membership.ReadeQSL(), FileState::Damaged);
+  EXPECT_EQ(ReadLotw(), FileState::Damaged);
+  EXPECT_EQ(ReadeQSL(), FileState::Damaged);
   world.files.content["/f/lotw.txt"] = LotwText("K1LOTW\r\n");
   world.files.content["/f/eqsl.txt"] = EqslText("k1eqsl\r\n");
-  EXPECT_EQ(membership.ReadLotw(), FileState::Read);
-  EXPECT_EQ(membership.ReadeQSL(), FileState::Read);
-  EXPECT_EQ(membership.ReadeQSL(), FileState::Read) << "in order";
+  EXPECT_EQ(ReadLotw(), FileState::Read);
+  EXPECT_EQ(ReadeQSL(), FileState::Read);
+  EXPECT_EQ(ReadeQSL(), FileState::Read) << "in order";
   world.files.denied.insert("/f");
-  EXPECT_EQ(membership.ReadLotw(), FileState::Unreadable);
-  EXPECT_EQ(membership.ReadeQSL(), FileState::Unreadable);
+  EXPECT_EQ(ReadLotw(), FileState::Unreadable);
+  EXPECT_EQ(ReadeQSL(), FileState::Unreadable);
 }
 
 TEST_F(MembershipTest, FileThatIsCutIsDamagedAndItsCallsCount) {
   world.files.content["/f/lotw.txt"] = LotwText("") + "K1LOTW        K1CU";
   world.files.content["/f/eqsl.txt"] = " 3 MOLVA SORTED LIST OF AG MEMBERS\r\nK1EQSL\r\nK1";
-  EXPECT_EQ(membership.ReadLotw(), FileState::Damaged);
-  EXPECT_EQ(membership.ReadeQSL(), FileState::Damaged);
+  EXPECT_EQ(ReadLotw(), FileState::Damaged);
+  EXPECT_EQ(ReadeQSL(), FileState::Damaged);
   EXPECT_EQ(membership.LotwCount(), 2u);
   EXPECT_EQ(membership.EqslCount(), 2u);
   world.files.content["/f/lotw.txt"] = LotwText("K1LOTW\r\n") + "&& end";
-  EXPECT_EQ(membership.ReadLotw(), FileState::Read) << "the list ends before its last line";
+  EXPECT_EQ(ReadLotw(), FileState::Read) << "the list ends before its last line";
 }
 
 TEST_F(MembershipTest, FiftyMegabytesOfCallsAreReadInPartAndNotWrittenOver) {
@@ -221,7 +229,7 @@ TEST_F(MembershipTest, FiftyMegabytesOfCallsAreReadInPartAndNotWrittenOver) {
   while (calls.size() < 50'000'000) calls += "K1ABC\n";
   const std::string text = EqslText(calls);
   world.files.content["/f/eqsl.txt"] = text;
-  EXPECT_EQ(membership.ReadeQSL(), FileState::TooLong);
+  EXPECT_EQ(ReadeQSL(), FileState::TooLong);
   EXPECT_EQ(membership.EqslCount(), kMostMembers);
   EXPECT_EQ(world.files.content["/f/eqsl.txt"], text);
   EXPECT_LT(membership.Memory(), 50u << 20);

@@ -13,6 +13,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr const char* kListsPath = "/home/op/reject.dat";
+constexpr const char* kBadPath = "/home/op/reject.dat.bad";
 
 class RejectListsTest : public testing::Test {
  protected:
@@ -25,6 +26,7 @@ class RejectListsTest : public testing::Test {
   const std::vector<std::string>& Entries(RejectLists::Kind kind) const {
     return lists.lstReject[kind].Items();
   }
+  FileState State() const { return lists.file.State.Get(); }
   bool Rejects(const std::string& call) {
     spot.DxCall = call;
     return lists.RejectDX(spot);
@@ -107,43 +109,61 @@ TEST_F(RejectListsTest, FileThatMayNotBeReadIsNotWrittenOver) {
   EXPECT_EQ(lists.WriteReject(), Fault::None);
 }
 
-TEST_F(RejectListsTest, FileThatHoldsNothingOfAListIsDamagedAndNotWrittenOver) {
+TEST_F(RejectListsTest, FileThatHoldsNothingOfAListIsDamagedAndSetAsideWhenItIsWritten) {
   for (const std::string text : {"<html>\r\n", "\"K1ABC\",\"K\"\r\n", "\x01\x02\xFF"}) {
-    files.content[kListsPath] = text;
-    EXPECT_EQ(lists.ReadReject(), FileState::Damaged) << text;
+    files.content.clear();
+    Keep(text);
+    EXPECT_EQ(State(), FileState::Damaged) << text;
     lists.Add(RejectLists::kDx, "K1ABC");
-    EXPECT_EQ(lists.WriteReject(), Fault::Other);
-    EXPECT_EQ(files.content[kListsPath], text);
+    EXPECT_EQ(lists.WriteReject(), Fault::None);
+    EXPECT_EQ(files.content[kBadPath], text);
+    lists.ReadReject();
+    EXPECT_EQ(State(), FileState::Read);
+    EXPECT_TRUE(Rejects("K1ABC"));
   }
 }
 
+TEST_F(RejectListsTest, LineOfAnotherKindIsSetAsideWhenTheFileIsWritten) {
+  const std::string text = "\"Dx\",\"P5DX\"\r\n\"Grid\",\"JO62\"\r\n";
+  Keep(text);
+  EXPECT_EQ(State(), FileState::Read);
+  EXPECT_EQ(lists.WriteReject(), Fault::None);
+  EXPECT_EQ(files.content[kBadPath], text);
+  EXPECT_EQ(State(), FileState::SetAside);
+}
+
 TEST_F(RejectListsTest, FileThatIsCutIsDamagedAndItsEntriesHold) {
-  files.content[kListsPath] = "\"Dx\",\"P5DX\"\r\n\"Call\",\"W1A";
-  EXPECT_EQ(lists.ReadReject(), FileState::Damaged);
+  const std::string text = "\"Dx\",\"P5DX\"\r\n\"Call\",\"W1A";
+  Keep(text);
+  EXPECT_EQ(State(), FileState::Damaged);
   EXPECT_TRUE(Rejects("P5DX"));
-  EXPECT_EQ(lists.WriteReject(), Fault::None) << "nothing more is to be had of it";
+  EXPECT_EQ(lists.WriteReject(), Fault::None);
+  EXPECT_EQ(files.content[kBadPath], text);
 }
 
 TEST_F(RejectListsTest, EmptyFileAndOneWithoutItsLastLineEndAreGood) {
   for (const char* text : {"", "\r\n", "\"Dx\",\"\"\r\n", "\"Dx\",\"P5DX\"", "Dx,P5DX"}) {
-    files.content[kListsPath] = text;
-    EXPECT_EQ(lists.ReadReject(), FileState::Read) << text;
+    Keep(text);
+    EXPECT_EQ(State(), FileState::Read) << text;
     EXPECT_EQ(lists.WriteReject(), Fault::None) << text;
+    EXPECT_FALSE(files.content.contains(kBadPath)) << text;
   }
   files.content.clear();
-  EXPECT_EQ(lists.ReadReject(), FileState::Missing);
+  lists.ReadReject();
+  EXPECT_EQ(State(), FileState::Missing);
 }
 
-TEST_F(RejectListsTest, FileBeyondMeasureIsReadInPartAndNotWrittenOver) {
+TEST_F(RejectListsTest, FileBeyondMeasureIsReadInPartAndSetAsideWhenItIsWritten) {
   std::string text;
   for (std::size_t i = 0; i <= RejectLists::kMostEntries; ++i)
     text += "\"Dx\",\"K" + std::to_string(i) + "\"\r\n";
-  files.content[kListsPath] = text + "\"Call\",\"W1ABC\"\r\n";
-  EXPECT_EQ(lists.ReadReject(), FileState::TooLong);
+  Keep(text + "\"Call\",\"W1ABC\"\r\n");
+  EXPECT_EQ(State(), FileState::TooLong);
   EXPECT_EQ(Entries(RejectLists::kDx).size(), RejectLists::kMostEntries);
   EXPECT_THAT(Entries(RejectLists::kCall), ElementsAre("W1ABC"));
-  EXPECT_EQ(lists.WriteReject(), Fault::Other);
   EXPECT_FALSE(lists.Add(RejectLists::kDx, "P5DX"));
+  EXPECT_EQ(lists.WriteReject(), Fault::None);
+  EXPECT_EQ(files.content[kBadPath], text + "\"Call\",\"W1ABC\"\r\n");
 }
 
 TEST_F(RejectListsTest, FiftyMegabytesTakeNoMoreThanTheListsHold) {
@@ -151,7 +171,7 @@ TEST_F(RejectListsTest, FiftyMegabytesTakeNoMoreThanTheListsHold) {
   const std::size_t before = MemoryMeter::Live();
   lists.ReadReject();
   EXPECT_LT(MemoryMeter::Live(), before + 5 * RejectLists::kMostBytes);
-  EXPECT_EQ(lists.WriteReject(), Fault::Other);
+  EXPECT_EQ(State(), FileState::TooLong);
 }
 
 TEST_F(RejectListsTest, EntriesAreHeldAsTheFileGivesThemBack) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,9 +51,10 @@ class SpotDesk : public testing::Test {
   // What else hears of spots.
   struct Receivers : spots::SpotReceivers, spots::CountryFilter {
     bool takesLines = false;
-    bool alarms = false;           // of every spot
-    bool hasBuddies = false;       // who wait for every call
-    bool limitsCountries = false;  // to none at all
+    bool alarms = false;                     // of every spot
+    bool hasBuddies = false;                 // who wait for every call
+    bool limitsCountries = false;            // to none at all
+    std::function<void()> checking = [] {};  // an alarm
     Texts raw, fed, logWindow, buddies, announced, sounds;
 
     bool TakesLines() override { return takesLines; }
@@ -65,7 +67,10 @@ class SpotDesk : public testing::Test {
     void Announce(std::string_view text, std::string_view) override {
       announced.emplace_back(text);
     }
-    bool CheckAlarm(const spots::Spot&, std::string_view) override { return alarms; }
+    bool CheckAlarm(const spots::Spot&, std::string_view) override {
+      checking();
+      return alarms;
+    }
     void WaveQue(std::string_view name) override { sounds.emplace_back(name); }
     bool LimitsDxCountries() const override { return limitsCountries; }
     bool DxCountryTicked(std::string_view) const override { return !limitsCountries; }

@@ -101,4 +101,40 @@ TEST_F(SpotPartsTest, ListIsSortedAtItsEnd) {
   EXPECT_THAT(CallsInTable(), ElementsAre("3Y0J"));
 }
 
+// Looking for an alarm takes that long.
+class SlowSpotTest : public SpotPartsTest {
+ protected:
+  void Take(std::chrono::milliseconds time) {
+    receivers.checking = [this, time] { world.scheduler.AdvanceTo(world.scheduler.Now() + time); };
+  }
+  const std::string& Shown() const { return parts.numbers.txtTime.Caption.Get(); }
+};
+
+TEST_F(SlowSpotTest, TimeToItsRowIsShownInSecondsWithTheNextTick) {
+  Take(std::chrono::milliseconds{3});
+  Receive(Line{});
+  EXPECT_EQ(Shown(), "");
+  parts.Tick();
+  EXPECT_EQ(Shown(), " 0.003");
+  Take(std::chrono::milliseconds{12'345});
+  Receive({.call = "P5DX"});
+  parts.Tick();
+  EXPECT_EQ(Shown(), " 12.345");
+}
+
+TEST_F(SlowSpotTest, SpotThatReachesNoRowHasNoTime) {
+  Take(std::chrono::milliseconds{3});
+  Receive({.kHz = "16000.0"});
+  parts.Tick();
+  EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(SlowSpotTest, InASortedViewNoTimeIsTaken) {
+  table.SortBy(2);
+  Take(std::chrono::milliseconds{3});
+  Receive(Line{});
+  parts.Tick();
+  EXPECT_EQ(Shown(), "");
+}
+
 }  // namespace

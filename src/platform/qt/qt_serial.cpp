@@ -96,41 +96,51 @@ std::string ApplySettings(QSerialPort& port, const SerialSettings& settings) {
   return {};
 }
 
-QtSerialDevice::QtSerialDevice(Scheduler& scheduler) : scheduler_(scheduler) {
-  port_.setReadBufferSize(kReadBuffer);
-  QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
-                   [this](QSerialPort::SerialPortError error) { OnError(error); });
-}
+QtSerialDevice::QtSerialDevice(Scheduler& scheduler, QtClosingPorts& closing)
+    : scheduler_(scheduler), closing_(closing) {}
+
+QtSerialDevice::~QtSerialDevice() { Close(); }
 
 std::string QtSerialDevice::Open(const std::string& path, const SerialSettings& settings) {
   Close();
   if (path.empty()) return kNoDevice;
-  std::string why = ApplySettings(port_, settings);
+  closing_.CloseNow(path);
+  port_ = std::make_unique<QSerialPort>();
+  std::string why = OpenPort(path, settings);
+  if (!why.empty()) port_.reset();
+  return why;
+}
+
+std::string QtSerialDevice::OpenPort(const std::string& path, const SerialSettings& settings) {
+  std::string why = ApplySettings(*port_, settings);
   if (!why.empty()) return why;
-  port_.setPortName(QString::fromStdString(path));
-  if (!port_.open(QIODevice::ReadWrite)) return Why(port_, path);
-  if (settings.flow != FlowControl::Both || AddXonXoff(port_.handle())) return {};
-  Close();
-  return kNotAPort;
+  port_->setReadBufferSize(kReadBuffer);
+  port_->setPortName(QString::fromStdString(path));
+  if (!port_->open(QIODevice::ReadWrite)) return Why(*port_, path);
+  if (settings.flow == FlowControl::Both && !AddXonXoff(port_->handle())) return kNotAPort;
+  QObject::connect(port_.get(), &QSerialPort::errorOccurred, port_.get(),
+                   [this](QSerialPort::SerialPortError error) { OnError(error); });
+  return {};
 }
 
 void QtSerialDevice::Close() {
   losing_.Release();
-  if (port_.isOpen()) port_.close();
+  if (port_ == nullptr) return;
+  QObject::disconnect(port_.get(), nullptr, nullptr, nullptr);
+  closing_.Close(std::move(port_));
 }
 
 std::string QtSerialDevice::Read() {
-  return port_.isOpen() ? port_.readAll().toStdString() : std::string();
+  return port_ == nullptr ? std::string() : port_->readAll().toStdString();
 }
 
 void QtSerialDevice::Write(std::string_view bytes) {
-  if (port_.isOpen()) port_.write(bytes.data(), static_cast<qint64>(bytes.size()));
+  if (port_ != nullptr) port_->write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
 void QtSerialDevice::OnError(QSerialPort::SerialPortError error) {
-  if (!port_.isOpen()) return;
   // Qt takes the end of a device that was pulled out for a read that failed, again and again.
-  const bool readFailed = error == QSerialPort::ReadError && HasHungUp(port_.handle());
+  const bool readFailed = error == QSerialPort::ReadError && HasHungUp(port_->handle());
   if (error != QSerialPort::ResourceError && !readFailed) return;
   losing_ = scheduler_.Post([this] {
     Close();
@@ -139,7 +149,8 @@ void QtSerialDevice::OnError(QSerialPort::SerialPortError error) {
 }
 
 std::unique_ptr<SerialPort> QtSerialPorts::MakePort() {
-  return std::make_unique<SerialPort>(scheduler_, std::make_unique<QtSerialDevice>(scheduler_));
+  return std::make_unique<SerialPort>(scheduler_,
+                                      std::make_unique<QtSerialDevice>(scheduler_, closing_));
 }
 
 std::vector<SerialPorts::Present> QtSerialPorts::List() {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QSerialPort>
+#include <memory>
 
+#include "platform/qt/qt_closing_ports.h"
 #include "platform/serial.h"
 
 namespace platform::qt {
@@ -11,7 +13,10 @@ std::string ApplySettings(QSerialPort& port, const SerialSettings& settings);
 
 class QtSerialDevice final : public SerialDevice {
  public:
-  explicit QtSerialDevice(Scheduler& scheduler);
+  QtSerialDevice(Scheduler& scheduler, QtClosingPorts& closing);
+  QtSerialDevice(const QtSerialDevice&) = delete;
+  QtSerialDevice& operator=(const QtSerialDevice&) = delete;
+  ~QtSerialDevice() override;
 
   std::string Open(const std::string& path, const SerialSettings& settings) override;
   void Close() override;
@@ -19,22 +24,25 @@ class QtSerialDevice final : public SerialDevice {
   void Write(std::string_view bytes) override;
 
  private:
+  std::string OpenPort(const std::string& path, const SerialSettings& settings);
   void OnError(QSerialPort::SerialPortError error);
 
   Scheduler& scheduler_;
-  QSerialPort port_;
+  QtClosingPorts& closing_;
+  std::unique_ptr<QSerialPort> port_;  // while open
   Registration losing_;
 };
 
 class QtSerialPorts final : public SerialPorts {
  public:
-  explicit QtSerialPorts(Scheduler& scheduler) : scheduler_(scheduler) {}
+  explicit QtSerialPorts(Scheduler& scheduler) : scheduler_(scheduler), closing_(scheduler) {}
 
   std::unique_ptr<SerialPort> MakePort() override;
   std::vector<Present> List() override;
 
  private:
   Scheduler& scheduler_;
+  QtClosingPorts closing_;
 };
 
 }  // namespace platform::qt
