@@ -170,6 +170,22 @@ TEST_F(ShutDownTest, MovedWindowIsWritten) {
   EXPECT_EQ(desk.Start().form.Get().width, 15000);
 }
 
+TEST_F(ShutDownTest, WriteThatIsStillDueIsDone) {
+  for (const bool connected : {false, true}) {
+    Desk each;
+    each.HasUsualConfiguration(connected ? "\"AutoStart\",-1\r\n" : "");
+    each.StartNode();
+    Program& program = each.Start();
+    each.world.Run(10s);
+    ASSERT_EQ(program.session.state.LoggedIn, connected);
+    program.settings.MyQth = "Elsewhere";
+    program.DelayedWriteCfg();
+    program.RequestClose(Program::Close::WithoutAsking);
+    ASSERT_TRUE(each.world.RunUntil([&each] { return each.quits == 1; }));
+    EXPECT_THAT(each.Content("molva.cfg"), HasSubstr("\"My QTH\",\"Elsewhere\"")) << connected;
+  }
+}
+
 TEST_F(ShutDownTest, UnmovedWindowIsNotWritten) {
   Program& program = desk.Start();
   desk.world.Run(10s);
