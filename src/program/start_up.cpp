@@ -30,16 +30,16 @@ constexpr std::array kDataFiles = {
 
 constexpr int kLastPort = 65535;
 
+constexpr auto kCantWrite = "Error writing to HD.";
+constexpr auto kCheckPermission =
+    "             Check Permission\n\n              TEXT 2\n              TEXT 3\n\n"
+    "              TEXT 5";
+
 // Picked once a run, so that many clients of one node don't return together after its failure.
 platform::Milliseconds RetryInterval(std::uint32_t seed) {
   std::mt19937 random(seed);
   return platform::Milliseconds{std::uniform_int_distribution<int>(55000, 65000)(random)};
 }
-
-constexpr auto kCantWrite = "Error writing to HD.";
-constexpr auto kCheckPermission =
-    "             Check Permission\n\n              TEXT 2\n              TEXT 3\n\n"
-    "              TEXT 5";
 
 }  // namespace
 

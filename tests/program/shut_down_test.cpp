@@ -155,10 +155,12 @@ TEST_F(ShutDownTest, NothingReconnectsMeanwhile) {
 TEST_F(ShutDownTest, DuringStartUpItEndsAtOnceAndWritesNothing) {
   Desk fresh;
   fresh.world.files.folders.insert(Desk::kFolder);
+  fresh.Content("debug.cfg") = "\"yes\"\r\n";
+  const auto files = fresh.world.files.content;
   fresh.Start().RequestClose(Program::Close::Ask);
   EXPECT_EQ(fresh.quits, 1);
   fresh.world.Run(10s);
-  EXPECT_FALSE(fresh.world.files.Exists(fresh.File("molva.cfg")));
+  EXPECT_EQ(fresh.world.files.content, files);
 }
 
 TEST_F(ShutDownTest, MovedWindowIsWritten) {
