@@ -32,4 +32,8 @@ std::string Nossid(std::string_view call) {
   return UCase(call);
 }
 
+std::string BaseCall(std::string_view myCall) {
+  return std::string(ExtractToCharacter('-', myCall));
+}
+
 }  // namespace core

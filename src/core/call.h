@@ -10,4 +10,7 @@ namespace core {
 // call.
 std::string Nossid(std::string_view call);
 
+// The part of a call before its "-": "F/K1TST-2" is "F/K1TST".
+std::string BaseCall(std::string_view myCall);
+
 }  // namespace core

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/call.h"
 #include "core/file_fault.h"
 #include "core/text.h"
 
@@ -48,10 +49,6 @@ Message WriteFaultMessage() {
 }
 
 }  // namespace
-
-std::string BaseCall(std::string_view myCall) {
-  return std::string(ExtractToCharacter('-', myCall));
-}
 
 std::string SecondaryCall(std::string_view myCall, std::string_view primaryCall) {
   const std::string base = BaseCall(myCall);

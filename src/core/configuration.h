@@ -13,9 +13,6 @@
 
 namespace core {
 
-// The part of a call before its "-".
-std::string BaseCall(std::string_view myCall);
-
 // The call of a second copy, so that both can log in: the base call and "-16", or "-14" if the
 // first copy has that one. Empty for an empty call.
 std::string SecondaryCall(std::string_view myCall, std::string_view primaryCall);

@@ -30,7 +30,7 @@ platform::Registration TextPage::Observe(std::function<void(const Change&)> obse
 std::size_t TextPage::Cut() {
   std::size_t removed = 0;
   std::size_t gone = 0;
-  while (!lines_.empty() && gone < kCutFrom) {
+  while (!lines_.empty() && gone <= kCutFrom) {
     gone += lines_.front().size() + kLineEnd;
     lines_.pop_front();
     ++removed;

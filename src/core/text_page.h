@@ -10,8 +10,9 @@
 namespace core {
 
 // A page of lines that forgets the oldest: once it holds more than kMostCharacters, the next line
-// first takes out what stands before kCutFrom, up to the end of the line there. Every line counts
-// two characters for its end. Of a line longer than the page only its beginning is kept.
+// first takes out what stands before kCutFrom, up to the first line end whose CR stands there or
+// behind. Every line counts two characters for its end. Of a line longer than the page only its
+// beginning is kept.
 class TextPage {
  public:
   static constexpr std::size_t kMostCharacters = 20000;

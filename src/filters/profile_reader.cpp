@@ -15,6 +15,8 @@ namespace {
 using session::ProfileField;
 
 constexpr auto kPause = 100ms;
+// A DXSpider may prompt before it has told all.
+constexpr auto kRestOfAReport = 500ms;
 
 // The prompt that the program can tell from everything else a DXSpider sends.
 std::string OwnPrompt() {
@@ -23,12 +25,13 @@ std::string OwnPrompt() {
 
 }  // namespace
 
-ProfileReader::ProfileReader(const core::Settings& settings, session::SessionState& state,
-                             session::Outgoing& outgoing, session::Intake& intake,
-                             const session::ProfileHints& hints,
+ProfileReader::ProfileReader(platform::Scheduler& scheduler, const core::Settings& settings,
+                             session::SessionState& state, session::Outgoing& outgoing,
+                             session::Intake& intake, const session::ProfileHints& hints,
                              const session::KeepAlive& keepAlive, session::LoginRequests& requests,
                              UserSettings& page)
-    : settings_(settings),
+    : scheduler_(scheduler),
+      settings_(settings),
       state_(state),
       outgoing_(outgoing),
       intake_(intake),
@@ -38,7 +41,7 @@ ProfileReader::ProfileReader(const core::Settings& settings, session::SessionSta
       page_(page) {}
 
 void ProfileReader::AskedByLogin() {
-  page_.chkSettings[kBottomOfBand].Value.Set(true);
+  if (state_.IsSpider()) page_.chkSettings[kBottomOfBand].Value.Set(true);
   askedByLogin_ = true;
 }
 
@@ -46,6 +49,7 @@ void ProfileReader::Forget() {
   for (const Switch each : {kDxSpots, kBottomOfBand, kUsState})
     page_.chkSettings[each].Value.Set(false);
   phase_ = Phase::Closed;
+  rest_.Release();
   askedByLogin_ = false;
   completed_ = false;
   askNameAtPrompt_ = false;
@@ -60,7 +64,7 @@ bool ProfileReader::StatUser(std::string_view line) {
   }
   ReadFilterAnswers(line);
   const auto entry = EntryOf(line);
-  if (entry && phase_ != Phase::Open && OpensReport(*entry, settings_.MyCall)) {
+  if (entry && phase_ != Phase::Open && OpensReport(line, state_.LoginCall(settings_.MyCall))) {
     phase_ = Phase::Open;
     report_ = {};
   }
@@ -68,19 +72,33 @@ bool ProfileReader::StatUser(std::string_view line) {
   const bool known = ReadEntry(*entry);
   if (!known && phase_ == Phase::Behind) return false;
   if (!session::Feeds(settings_, session::FeedOption::Profile)) intake_.ForwardSuppressed = true;
-  if (entry->label == "Type of User" && phase_ == Phase::Open) Close();
+  if (phase_ == Phase::Open && entry->label == "Type of User") Close();
+  if (known && phase_ == Phase::Open && report_.prompted) AwaitRest();
   return true;
 }
 
-// A report that nothing ended before the prompt is complete all the same.
+// Among the rows of a DXSpider any prompt may be another command's.
 void ProfileReader::AtPrompt() {
-  if (phase_ == Phase::Open) Close();
-  phase_ = Phase::Closed;
+  if (phase_ != Phase::Open || !state_.IsSpider())
+    End();
+  else if (!report_.prompted)
+    AwaitRest();
   if (!std::exchange(askNameAtPrompt_, false)) return;
   if (!report_.name && Wanted(ProfileField::Name, settings_.MyName))
     outgoing_.SendAsIs("set/name " + settings_.MyName);
   page_.fraSettings.Caption.Set("Settings @ " + state_.ConnectedNodeCall);
   page_.fraSettings.ForeColour.Set(core::kThemeColour);
+}
+
+void ProfileReader::AwaitRest() {
+  report_.prompted = true;
+  rest_ = scheduler_.After(kRestOfAReport, [this] { End(); });
+}
+
+// A report whose last line never came is complete all the same.
+void ProfileReader::End() {
+  if (phase_ == Phase::Open) Close();
+  phase_ = Phase::Closed;
 }
 
 bool ProfileReader::ReadEntry(const Entry& entry) {
@@ -151,6 +169,7 @@ void ProfileReader::ReadLatitude(const Entry& entry) {
 
 void ProfileReader::Close() {
   phase_ = Phase::Behind;
+  rest_.Release();
   page_.fraUserInfo[0].Caption.Set("User Information @ " + state_.ConnectedNodeCall);
   page_.fraUserInfo[0].ForeColour.Set(core::kThemeColour);
   const bool first = !std::exchange(completed_, true);

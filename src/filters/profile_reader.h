@@ -8,6 +8,7 @@
 #include "core/settings.h"
 #include "filters/profile_report.h"
 #include "filters/user_settings.h"
+#include "platform/scheduler.h"
 #include "session/intake.h"
 #include "session/keep_alive.h"
 #include "session/outgoing.h"
@@ -22,8 +23,8 @@ namespace filters {
 class ProfileReader {
  public:
   // Everything outlives the reader.
-  ProfileReader(const core::Settings& settings, session::SessionState& state,
-                session::Outgoing& outgoing, session::Intake& intake,
+  ProfileReader(platform::Scheduler& scheduler, const core::Settings& settings,
+                session::SessionState& state, session::Outgoing& outgoing, session::Intake& intake,
                 const session::ProfileHints& hints, const session::KeepAlive& keepAlive,
                 session::LoginRequests& requests, UserSettings& page);
 
@@ -50,6 +51,7 @@ class ProfileReader {
     bool grid = false;
     bool location = false;
     bool name = false;
+    bool prompted = false;  // before it was over
     std::string latitude;
     std::string longitude;
   };
@@ -67,6 +69,8 @@ class ProfileReader {
   bool ReadMark(const Entry& entry);
   void ReadLatitude(const Entry& entry);
   void AtPrompt();
+  void AwaitRest();
+  void End();
   void Close();
   std::vector<Message> Missing(bool first) const;
   void AddEnding(bool first, int pauses, std::vector<Message>& messages) const;
@@ -74,6 +78,7 @@ class ProfileReader {
   bool TellsNameAtPrompt() const;
   bool Wanted(session::ProfileField field, const std::string& value) const;
 
+  platform::Scheduler& scheduler_;
   const core::Settings& settings_;
   session::SessionState& state_;
   session::Outgoing& outgoing_;
@@ -88,6 +93,7 @@ class ProfileReader {
   bool askedByLogin_ = false;
   bool completed_ = false;  // once in this session
   bool askNameAtPrompt_ = false;
+  platform::Registration rest_;  // of the report, behind a prompt
 };
 
 }  // namespace filters

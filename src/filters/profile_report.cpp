@@ -51,10 +51,15 @@ constexpr std::array kFieldLabels = {
     FieldLabel{"Geogr. Location", &UserSettings::txtMyLocation},
 };
 
+// What stands before the user's call. The blanks behind a label tell the report from what a node
+// says of a station.
+constexpr std::array<std::string_view, 3> kOpenings = {
+    "Callsign        : ", "Callsign: ", "User          : "};
+
 bool IsCallOf(std::string_view text, std::string_view call) {
-  const std::string bare = core::Nossid(call);
-  if (!core::StartsWithIgnoringCase(text, bare)) return false;
-  const std::string_view behind = core::Mid(text, core::Len(bare) + 1, 1);
+  const std::string base = core::BaseCall(call);
+  if (!core::StartsWithIgnoringCase(text, base)) return false;
+  const std::string_view behind = core::Mid(text, core::Len(base) + 1, 1);
   return behind.empty() || behind == "-" || behind == " ";
 }
 
@@ -68,9 +73,12 @@ std::optional<Entry> EntryOf(std::string_view line) {
   return entry;
 }
 
-bool OpensReport(const Entry& entry, std::string_view call) {
-  if (entry.label == "Buddies") return true;
-  return (entry.label == "Callsign" || entry.label == "User") && IsCallOf(entry.value, call);
+bool OpensReport(std::string_view line, std::string_view call) {
+  line = core::LTrim(line);
+  if (core::StartsWith(line, "Buddies:")) return true;
+  return std::any_of(kOpenings.begin(), kOpenings.end(), [&](std::string_view each) {
+    return core::StartsWith(line, each) && IsCallOf(core::Mid(line, core::Len(each) + 1), call);
+  });
 }
 
 std::optional<Switch> SwitchOf(std::string_view label) {

@@ -17,8 +17,9 @@ struct Entry {
 // Nothing for a line without a label.
 std::optional<Entry> EntryOf(std::string_view line);
 
-// Whether the line begins the report about the user with that call, or about one of its SSIDs.
-bool OpensReport(const Entry& entry, std::string_view call);
+// Whether the line begins the report about the user with that call, or about one of its SSIDs. What
+// "sh/station" tells of him begins otherwise, but for the software that has no other report.
+bool OpensReport(std::string_view line, std::string_view call);
 
 // The switch that a label names.
 std::optional<Switch> SwitchOf(std::string_view label);

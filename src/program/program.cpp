@@ -5,6 +5,7 @@
 #include "core/password_file.h"
 #include "core/version.h"
 #include "program/clock_condition.h"
+#include "program/offset_condition.h"
 #include "program/save_condition.h"
 
 namespace program {
@@ -71,8 +72,8 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
                     }}),
       modeSwitch(platform_, settings, session, NeedsOfModeSwitch()),
       spotParts(platform_, calendar, settings, errorLog, folder_, NeedsOfSpots()),
-      profileReader(settings, session.state, session.outgoing, session.intake, session.profileHints,
-                    session.keepAlive, ties_, userSettings),
+      profileReader(platform_.scheduler, settings, session.state, session.outgoing, session.intake,
+                    session.profileHints, session.keepAlive, ties_, userSettings),
       userInfo(settings, {.password = [this] { return session.outgoing.NodePassword; },
                           .save = [this](const std::string& password) { SaveUserInfo(password); }}),
       offsetForm([this](const std::string& gmtOffset) {
@@ -246,6 +247,7 @@ void Program::WriteCfg() {
 
 void Program::ApplySettings() {
   calendar.GmtOffset = settings.GmtOffset;
+  ShowOffset(conditions, settings.GmtOffset, [this] { offsetForm.Show(); });
   session.intake.stopLists.Build(settings.MyCall);
   session.linkText.Tick();
   userInfo.Refresh();

@@ -143,13 +143,18 @@ class Program {
 
   platform::Task<> StartUp();
   platform::Task<> PrepareFolder();
+  void NoteWrite(const char* step, platform::Files::Fault fault);
+  void TellUnwritable(platform::Files::Fault fault);
   platform::Task<> ReadDebugCfg();
+  platform::Task<> ClearDebugCfg();
   platform::Task<> BringDataFiles();
   void BringCountryFile();
+  void Bring(const char* file, std::string_view content);
   platform::Task<> ReadCfg();
   platform::Task<> StartLogger();
   platform::Task<> ReadPassword();
   platform::Task<> PrepareSession();
+  void RenameDefaultNode();
   platform::Task<> ReadSpotFiles();
   platform::Task<> EndLoading();
   platform::Task<> BeginSpotLog();
@@ -172,7 +177,8 @@ class Program {
   platform::Registration NameColumn(core::Label& words, spots::DisplayChoice::Check column);
   void TellOfMembers(spots::Membership::List list);
   void ChooseLinking();
-  void WriteDebugCfg(bool on);
+  platform::Files::Fault WriteDebugCfg(bool on);
+  bool KnowsUser() const;
   spots::NodeFacts NodeFacts() const;
   spots::SlotSwitches SlotSwitches() const;
   void CaptionSetup();

@@ -1,6 +1,7 @@
 #include <array>
 #include <random>
 
+#include "core/file_fault.h"
 #include "core/password_file.h"
 #include "core/quoted.h"
 #include "core/text.h"
@@ -12,6 +13,7 @@ namespace program {
 namespace {
 
 using session::TimerId;
+using Fault = platform::Files::Fault;
 
 struct DataFile {
   const char* name;
@@ -27,17 +29,15 @@ constexpr std::array kDataFiles = {
 
 constexpr int kLastPort = 65535;
 
+constexpr auto kCantWrite = "Error writing to HD.";
+constexpr auto kCheckPermission =
+    "             Check Permission\n\n              TEXT 2\n              TEXT 3\n\n"
+    "              TEXT 5";
+
 // Picked once a run, so that many clients of one node don't return together after its failure.
 platform::Milliseconds RetryInterval(std::uint32_t seed) {
   std::mt19937 random(seed);
   return platform::Milliseconds{std::uniform_int_distribution<int>(55000, 65000)(random)};
-}
-
-void BringMissing(platform::Files& files, const std::string& folder) {
-  for (const DataFile& file : kDataFiles) {
-    const std::string path = folder + "/" + file.name;
-    if (!files.Exists(path)) files.Replace(path, file.content);
-  }
 }
 
 }  // namespace
@@ -53,8 +53,9 @@ platform::Task<> Program::StartUp() {
   static constexpr std::array kSteps = {
       Step{"PrepareFolder", &Program::PrepareFolder},
       Step{"ReadDebugCfg", &Program::ReadDebugCfg},
-      Step{"BringDataFiles", &Program::BringDataFiles},
       Step{"ReadCfg", &Program::ReadCfg},
+      Step{"ClearDebugCfg", &Program::ClearDebugCfg},
+      Step{"BringDataFiles", &Program::BringDataFiles},
       Step{"StartLogger", &Program::StartLogger},
       Step{"ReadPassword", &Program::ReadPassword},
       Step{"PrepareSession", &Program::PrepareSession},
@@ -78,34 +79,55 @@ platform::Task<> Program::StartUp() {
 
 platform::Task<> Program::PrepareFolder() {
   folderIsNew_ = !platform_.files.Exists(folder_);
-  platform_.files.MakeFolder(folder_);
+  const Fault made = platform_.files.MakeFolder(folder_);
   Primary = platform_.files.Lock(Path("molva.lock"));
   configuration_ = std::make_unique<core::Configuration>(
       platform_.files, platform_.dialogs, calendar, errorLog, folder_, Primary, folderIsNew_);
   saved_ = configuration_->LastWrite.Observe([this](platform::Files::Fault fault) {
     ShowSaved(conditions, fault, [this] { WriteCfg(); });
   });
+  NoteWrite("PrepareFolder", made);
   CaptionSetup();
   co_return;
 }
 
-// The switch lasts for one run.
+void Program::NoteWrite(const char* step, Fault fault) {
+  if (fault == Fault::None) return;
+  const core::FaultName name = core::NameOf(fault);
+  errorLog.ReportError(std::string("load form1 ") + step, name.number, name.description);
+  if (fault == Fault::Denied || fault == Fault::NotFound) TellUnwritable(fault);
+}
+
+// Once: the configuration, which can't be written there either, counts as told.
+void Program::TellUnwritable(Fault fault) {
+  if (configuration_->LastWrite.Get() != Fault::None) return;
+  messageForm.Show(kCantWrite, kCheckPermission);
+  configuration_->LastWrite.Set(fault);
+}
+
 platform::Task<> Program::ReadDebugCfg() {
   const auto content = platform_.files.Read(Path("debug.cfg"));
-  const auto lines = core::SplitLines(content.bytes);
-  errorLog.DebugMode = !lines.empty() && lines.front() == core::QuotedField("yes");
-  WriteDebugCfg(false);
+  std::string_view rest = content.bytes;
+  const core::RecordPair record = core::SplitRecord(core::TakeLine(rest));
+  errorLog.DebugMode = core::Trim(record.first) == "yes";
   DebuggingOn.Value.Set(errorLog.DebugMode);
   if (errorLog.DebugMode) session.linkText.lblclock[1].ForeColour.Set(core::kRed);
   co_return;
 }
 
-void Program::WriteDebugCfg(bool on) {
-  platform_.files.Replace(Path("debug.cfg"), core::Record({core::QuotedField(on ? "yes" : "no")}));
+// The switch lasts for one run.
+platform::Task<> Program::ClearDebugCfg() {
+  NoteWrite("ClearDebugCfg", WriteDebugCfg(false));
+  co_return;
+}
+
+Fault Program::WriteDebugCfg(bool on) {
+  return platform_.files.Replace(Path("debug.cfg"),
+                                 core::Record({core::QuotedField(on ? "yes" : "no")}));
 }
 
 platform::Task<> Program::BringDataFiles() {
-  BringMissing(platform_.files, folder_);
+  for (const DataFile& file : kDataFiles) Bring(file.name, file.content);
   if (!platform_.files.Exists(Path("cty.dat"))) BringCountryFile();
   endpoints = core::ReadEndpoints(platform_.files, folder_);
   nodeDirectory.Load();
@@ -114,7 +136,12 @@ platform::Task<> Program::BringDataFiles() {
 
 void Program::BringCountryFile() {
   const auto countries = platform_.files.Read(kCountryFile);
-  if (!countries.bytes.empty()) platform_.files.Replace(Path("cty.dat"), countries.bytes);
+  if (!countries.bytes.empty()) Bring("cty.dat", countries.bytes);
+}
+
+void Program::Bring(const char* file, std::string_view content) {
+  if (!platform_.files.Exists(Path(file)))
+    NoteWrite("BringDataFiles", platform_.files.Replace(Path(file), content));
 }
 
 platform::Task<> Program::ReadCfg() {
@@ -150,6 +177,7 @@ platform::Task<> Program::PrepareSession() {
   session.state.UserDisconnected = true;
   session.state.WantMissedSpots = session.state.FirstConnect = settings.GetMissedOnes;
   session.nodeAddress.EnsureNode();
+  RenameDefaultNode();
   TakeMode();
   session.timers.SetInterval(TimerId::Reconnect, RetryInterval(needs_.seed));
   form.Set({.left = settings.FormLeft,
@@ -161,6 +189,15 @@ platform::Task<> Program::PrepareSession() {
   views.Begin(settings.StartTab);
   ApplySettings();
   co_return;
+}
+
+// A stored host of the default node is that node, whatever it was called and reached by.
+void Program::RenameDefaultNode() {
+  if (endpoints.molva1.empty()) return;
+  if (core::InStrIgnoringCase(settings.NodeHost, endpoints.molva1) == 0) return;
+  const session::DefaultNode node = nodeDirectory.Default();
+  settings.NodeCall = node.call;
+  settings.NodePort = node.port;
 }
 
 platform::Task<> Program::ReadSpotFiles() {
@@ -179,9 +216,14 @@ platform::Task<> Program::BeginSpotLog() {
   co_return;
 }
 
-// None of these forms holds anything up.
+bool Program::KnowsUser() const {
+  return !settings.MyCall.empty() && !settings.MyName.empty() && !settings.MyQth.empty();
+}
+
+// None of these forms holds anything up. Who has said who he is sees the missing offset among the
+// conditions.
 platform::Task<> Program::AskWhatIsMissing() {
-  offsetWaits_ = settings.GmtOffset.empty();
+  offsetWaits_ = settings.GmtOffset.empty() && !KnowsUser();
   if (configurationIsNew_)
     userInfo.Show();
   else

@@ -51,7 +51,7 @@ void LoginSequence::Run(std::string_view line) {
   }
   if ((state_.IsZelva() || state_.TncMode) && core::StartsWith(line, "password:")) {
     outgoing_.SendPassword();
-    state_.NodeSentPassword = true;
+    if (!outgoing_.NodePassword.empty()) state_.NodeSentPassword = true;
     return;
   }
   if (state_.RcvdPrompt(line) || IsOwnPrompt(line, state_.LoginCall(settings_.MyCall)))

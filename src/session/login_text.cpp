@@ -12,14 +12,16 @@ using namespace std::chrono_literals;
 namespace session {
 
 LoginText::LoginText(const core::Settings& settings, SessionState& state, Outgoing& outgoing,
-                     Intake& intake, Duelling& duelling, Timers& timers, LoginRequests& requests)
+                     Intake& intake, Duelling& duelling, Timers& timers, LoginRequests& requests,
+                     std::function<void()> profileAsked)
     : settings_(settings),
       state_(state),
       outgoing_(outgoing),
       intake_(intake),
       duelling_(duelling),
       timers_(timers),
-      requests_(requests) {}
+      requests_(requests),
+      profileAsked_(std::move(profileAsked)) {}
 
 void LoginText::updatetxtLoginMsg(std::string_view line) {
   if (!state_.LoginMsgActive || state_.LoginTextDone) return;
@@ -49,13 +51,21 @@ void LoginText::FirstPrompt() {
   if (state_.IsDxNet()) {
     state_.txtNode.Caption.Set("Connected to " + state_.ConnectedNodeCall);
     outgoing_.SendAsIs("set/page 0");
-    state_.KnownNodes = {state_.ConnectedNodeCall};
+    NameConnectedNode();
   }
   const bool asksLater = state_.IsSpider() || state_.IsZelva() || state_.IsArCluster();
   if (state_.WantMissedSpots && !asksLater)
     intake_.PushStep("GetEm", AskMissedSpots(state_.Sessions));
-  if (state_.IsZelva() && !std::exchange(state_.RequestedSettings, true))
+  if (state_.IsZelva() && !std::exchange(state_.RequestedSettings, true)) {
+    profileAsked_();
     outgoing_.Send("sh/settings");
+  }
+}
+
+// Those that it told of stay.
+void LoginText::NameConnectedNode() {
+  if (state_.KnownNodes.empty()) state_.KnownNodes.emplace_back();
+  state_.KnownNodes.front() = state_.ConnectedNodeCall;
 }
 
 platform::Task<> LoginText::AskMissedSpots(std::uint64_t session) {

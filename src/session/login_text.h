@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,8 +20,10 @@ namespace session {
 // What the node has to say before its first prompt. Its software is recognised by it.
 class LoginText {
  public:
+  // `profileAsked`: the question for the profile is on its way.
   LoginText(const core::Settings& settings, SessionState& state, Outgoing& outgoing, Intake& intake,
-            Duelling& duelling, Timers& timers, LoginRequests& requests);
+            Duelling& duelling, Timers& timers, LoginRequests& requests,
+            std::function<void()> profileAsked);
 
   core::TextPage rtbLoginMsg;
 
@@ -34,6 +37,7 @@ class LoginText {
  private:
   void Collect(std::string_view line);
   void FirstPrompt();
+  void NameConnectedNode();
   platform::Task<> AskMissedSpots(std::uint64_t session);
 
   const core::Settings& settings_;
@@ -43,6 +47,7 @@ class LoginText {
   Duelling& duelling_;
   Timers& timers_;
   LoginRequests& requests_;
+  std::function<void()> profileAsked_;
 };
 
 }  // namespace session

@@ -84,7 +84,8 @@ Session::Session(const platform::Platform& platform, const core::Calendar& calen
                        },
                    .onFault = needs.onFault}),
       login(settings, state, outgoing, connection, duelling, tncLink),
-      loginText(settings, state, outgoing, intake, duelling, timers, needs.requests),
+      loginText(settings, state, outgoing, intake, duelling, timers, needs.requests,
+                needs.profileAsked),
       loginLinks(loginText.rtbLoginMsg, platform.browser,
                  [show = needs.showMessage](const std::string& link) {
                    show("Nothing opens this link", link);

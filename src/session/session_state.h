@@ -29,7 +29,7 @@ struct NodeState {
   bool Ar17Silent = false;         // an AR-Cluster did not answer in time, or prompt to be asked
   bool NoEmailSet = false;         // the node greets with the name: it knows the operator
   bool RequestedSettings = false;  // "sh/settings" has been sent
-  bool NodeSentPassword = false;   // the node has asked for the password behind the login
+  bool NodeSentPassword = false;   // the password was sent behind the login
 };
 
 // Where the session stands. One for the program; Connection says how it changes.

@@ -65,5 +65,12 @@ TEST(Nossid, CountsThePlusInThePieceItStandsIn) { EXPECT_EQ(Nossid("+N0/K1A"), "
 
 TEST(Nossid, CutsAtADashInFrontOfTheLongerPiece) { EXPECT_EQ(Nossid("K1A-3/VP2E"), "K1A"); }
 
+TEST(BaseCall, IsTheCallBeforeItsSsid) {
+  EXPECT_EQ(BaseCall("K1TST-2"), "K1TST");
+  EXPECT_EQ(BaseCall("K1TST"), "K1TST");
+  EXPECT_EQ(BaseCall("F/K1TST-2-3"), "F/K1TST");
+  EXPECT_EQ(BaseCall(""), "");
+}
+
 }  // namespace
 }  // namespace core

@@ -263,13 +263,6 @@ TEST_F(ConfigurationTest, ASecondCopyNeverWritesTheFileOfTheFirst) {
   EXPECT_TRUE(HasFile("molva2.cfg.bak"));
 }
 
-TEST(BaseCall, IsTheCallBeforeItsSsid) {
-  EXPECT_EQ(BaseCall("K1TST-2"), "K1TST");
-  EXPECT_EQ(BaseCall("K1TST"), "K1TST");
-  EXPECT_EQ(BaseCall("F/K1TST-2-3"), "F/K1TST");
-  EXPECT_EQ(BaseCall(""), "");
-}
-
 // Writing.
 
 class WriteCfgTest : public ConfigurationTest {

@@ -36,17 +36,18 @@ TEST_F(FolderTest, AFolderThatItMakesIsItsOwnersAlone) {
   EXPECT_EQ(proxy->Calls(), 0);
 }
 
-TEST_F(FolderTest, WithAnEmptyConfigurationEveryFileStaysAsItIs) {
+TEST_F(FolderTest, WithAnEmptyConfigurationTheWholeFolderStaysAsItIs) {
   const std::map<const char*, QByteArray> files = {{"molva.cfg", ""},
                                                    {"molva.cfg.bak", Configuration()},
                                                    {"molva.pwd", "secret"},
-                                                   {"endpoints.cfg", "\"MOLVA-1\",\"\"\r\n"}};
+                                                   {"debug.cfg", "\"yes\"\r\n"}};
   for (const auto& [name, bytes] : files) WriteFile(name, bytes);
   const auto client = StartClient();
   ASSERT_TRUE(PumpUntil([this] { return Exists("molva.lock"); }, kPatience));
   EXPECT_EQ(client->Terminate(), "exit code 0");
   for (const auto& [name, bytes] : files) EXPECT_EQ(Content(name), bytes) << name;
-  EXPECT_EQ(QDir(folder).entryList({"molva*.cfg*"}).size(), 2) << "and none is made";
+  EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden),
+            QStringList({"debug.cfg", "molva.cfg", "molva.cfg.bak", "molva.lock", "molva.pwd"}));
 }
 
 TEST_F(FolderTest, TwoCopiesInOneFolderEndCleanly) {

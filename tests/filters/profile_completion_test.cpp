@@ -141,25 +141,25 @@ TEST_F(CompletionTest, SessionThatEndsInTheMiddleIsSentNothingMore) {
 // Zelva Cluster.
 
 TEST(ZelvaProfile, IsCompletedInItsOwnWay) {
-  ProfileStation station("N0NODE, a Zelva Cluster");
+  ProfileStation station(kZelva, kZelvaPrompt);
   station.settings.AutoFilter = true;
   station.program.keepAlive.KeepAliveMinutes = 7;
   station.ReceiveReport({});
   EXPECT_THAT(station.Sent(),
               ElementsAre(" ", "unset/echo", "set/qra FN31", "set/location 41 42 N 72 43 W",
-                          "sh/filter", "set/name ANNA", "KeepAlive Rx 7  V2.4315"));
+                          "set/molva", "sh/filter", "set/name ANNA", "KeepAlive Rx 7  V2.4315"));
 }
 
-TEST(ZelvaProfile, VersionIsToldOnceASession) {
-  ProfileStation station("N0NODE, a Zelva Cluster");
+TEST(ZelvaProfile, MolvaAndTheVersionAreToldOnceASession) {
+  ProfileStation station(kZelva, kZelvaPrompt);
   station.program.keepAlive.KeepAliveRx = false;
   station.program.keepAlive.KeepAliveMinutes = 5;
   for (int i = 0; i < 2; ++i) station.ReceiveReport(kComplete);
-  EXPECT_THAT(station.Sent(), ElementsAre(" ", "KeepAlive Tx 5  V2.4315", " "));
+  EXPECT_THAT(station.Sent(), ElementsAre(" ", "set/molva", "KeepAlive Tx 5  V2.4315", " "));
 }
 
 TEST(ZelvaProfile, MissedSpotsAreAskedForAtTheEnd) {
-  ProfileStation station("N0NODE, a Zelva Cluster");
+  ProfileStation station(kZelva, kZelvaPrompt);
   station.program.state.WantMissedSpots = station.program.state.FirstConnect = true;
   station.ReceiveReport(kComplete);
   EXPECT_THAT(station.above.asked, ElementsAre("GetEm"));

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <utility>
+
 #include "profile_station.h"
 
 using namespace std::chrono_literals;
@@ -162,6 +164,60 @@ TEST_F(ProfileTest, ReportOfAnotherUserIsNotRead) {
   }
 }
 
+TEST_F(ProfileTest, WhatANodeSaysOfTheOwnStationIsNoReport) {
+  for (const char* line :
+       {"User         : K1TST-2", "User: K1TST-2", " User: K1TST-2", "User            : K1TST-2",
+        "Station:       K1TST-2", "Callsign : K1TST-2"}) {
+    ProfileStation station;
+    station.Receive(line);
+    station.Receive("Name         : Bert");
+    station.Receive("Home Node    : ");
+    station.Receive(kSpiderPrompt);
+    station.LetPass(2s);
+    EXPECT_EQ(station.Told(&filters::UserSettings::txtMyName), "") << line;
+    EXPECT_THAT(station.Sent(), IsEmpty()) << line;
+  }
+}
+
+TEST_F(ProfileTest, CallWithAStrokeIsThatOfItsReport) {
+  const std::pair<const char*, const char*> reports[] = {
+      {"EA8/K1TST-2", "     Callsign: EA8/K1TST-2"},
+      {"EA8/K1TST-2", "     Callsign: EA8/K1TST"},
+      {"EA8/K1TST-2", "Callsign        : ea8/k1tst"},
+      {"K1TST/P", "     Callsign: K1TST/P"},
+      {"K1TST/P", "User          : K1TST/P"}};
+  for (const auto& [call, line] : reports) {
+    ProfileStation station;
+    station.settings.MyCall = call;
+    station.Receive(line);
+    station.Receive("Req WWV: Yes");
+    EXPECT_TRUE(station.Ticked(filters::kWwv)) << line;
+  }
+}
+
+TEST_F(ProfileTest, CallWithAStrokeIsAnotherThanTheOneWithout) {
+  const std::pair<const char*, const char*> reports[] = {{"EA8/K1TST-2", "Callsign: K1TST"},
+                                                         {"K1TST/P", "Callsign: K1TST"},
+                                                         {"K1TST", "Callsign: K1TST/P"},
+                                                         {"K1TST", "Callsign: EA8/K1TST"}};
+  for (const auto& [call, line] : reports) {
+    ProfileStation station;
+    station.settings.MyCall = call;
+    station.Receive(line);
+    station.Receive("Req WWV: Yes");
+    EXPECT_FALSE(station.Ticked(filters::kWwv)) << line;
+  }
+}
+
+// In a duel the login goes out under a call of the moment.
+TEST_F(ProfileTest, ReportOfTheCallThatLoggedInIsTheUsers) {
+  settings.MyCall = "EA8/K1TST-2";
+  program.state.TempCall = "K1TST-7";
+  Receive("     Callsign: K1TST-7");
+  Receive("Req WWV: Yes");
+  EXPECT_TRUE(Ticked(filters::kWwv));
+}
+
 TEST_F(ProfileTest, LinesOfAReportAreClaimed) {
   ReceiveReport(kComplete);
   EXPECT_THAT(program.loginText.rtbLoginMsg.Lines(), Not(Contains(testing::HasSubstr("Locator"))));
@@ -213,6 +269,76 @@ TEST_F(ProfileTest, RowsBehindThePromptAreReadAndTheReaderIsShutThen) {
   Receive(kSpiderPrompt);
   Receive("Name: Bert");
   EXPECT_EQ(Told(&filters::UserSettings::txtMyName), "ANNA");
+}
+
+TEST_F(ProfileTest, PromptAmongTheRowsDoesNotEndTheReport) {
+  Receive("       Callsign: K1TST-2");
+  ReceiveRows({{"Language", "en"}, {"Location", "41 42 N 72 43 W"}}, 15);
+  Receive(kSpiderPrompt);
+  LetPass(400ms);
+  ExpectNothingSent();
+  ReceiveRows({{"Locator", "FN31"},
+               {"Name", "ANNA"},
+               {"Req Echo", "No"},
+               {"Required Prompt", kOwnPrompt},
+               {"Type of User", "U"}},
+              15);
+  LetPass(5s);
+  ExpectSent({" ", "set/molva", "SET/PAGE 9999"});
+}
+
+TEST_F(ProfileTest, ReportThatIsNotToldToItsEndEndsHalfASecondBehindThePrompt) {
+  ReceiveRows({{"Callsign", "K1TST-2"}, {"Name", "ANNA"}}, 15);
+  Receive(kSpiderPrompt);
+  LetPass(400ms);
+  ExpectNothingSent();
+  LetPass(200ms);
+  EXPECT_THAT(Sent(), Contains(" "));
+  LetPass(5s);
+  EXPECT_THAT(Sent(), Contains("SET/PAGE 9999"));
+  Receive("Name: Bert");
+  EXPECT_EQ(Told(&filters::UserSettings::txtMyName), "ANNA");
+}
+
+TEST_F(ProfileTest, EachRowBehindAPromptPutsTheEndOff) {
+  ReceiveRows({{"Callsign", "K1TST-2"}}, 15);
+  Receive(kSpiderPrompt);
+  for (const char* row : {"Name: ANNA", "Locator: FN31"}) {
+    LetPass(400ms);
+    Receive(row);
+    ExpectNothingSent();
+  }
+  Receive("To ALL de K2AAA: this is none");
+  LetPass(450ms);
+  Receive("To ALL de K2AAA: nor is this");
+  LetPass(100ms);
+  EXPECT_THAT(Sent(), Contains(" "));
+}
+
+TEST_F(ProfileTest, FurtherPromptsDoNotPutTheEndOff) {
+  ReceiveRows({{"Callsign", "K1TST-2"}}, 15);
+  for (int i = 0; i < 3; ++i) {
+    Receive(kSpiderPrompt);
+    LetPass(200ms);
+  }
+  EXPECT_THAT(Sent(), Contains(" "));
+}
+
+TEST_F(ProfileTest, SessionThatEndsBehindSuchAPromptCompletesNothing) {
+  ReceiveRows({{"Callsign", "K1TST-2"}}, 15);
+  Receive(kSpiderPrompt);
+  reader.Forget();
+  LetPass(5s);
+  ExpectNothingSent();
+}
+
+TEST_F(ProfileTest, PromptOfAnotherSoftwareEndsTheReportAtOnce) {
+  ProfileStation station(kZelva, kZelvaPrompt);
+  station.ReceiveRows({{"Callsign", "K1TST-2"}, {"Req Echo", "No"}}, 15);
+  station.ExpectNothingSent();
+  station.Receive(kZelvaPrompt);
+  station.LetPass(20ms);
+  station.ExpectSent({" "});
 }
 
 TEST_F(ProfileTest, RowsOfAnotherCommandBehindTheReportAreNotTakenForIt) {
@@ -286,7 +412,10 @@ TEST_F(ProfileTest, ThoseLinesCountOnADxSpiderOnly) {
 
 // The session's beginning and end.
 
-TEST_F(ProfileTest, LoginTicksTheBottomOfBand) { EXPECT_TRUE(Ticked(filters::kBottomOfBand)); }
+TEST_F(ProfileTest, LoginTicksTheBottomOfBandOnADxSpiderAlone) {
+  EXPECT_TRUE(Ticked(filters::kBottomOfBand));
+  EXPECT_FALSE(ProfileStation(kZelva, kZelvaPrompt).Ticked(filters::kBottomOfBand));
+}
 
 TEST_F(ProfileTest, EndOfTheSessionUnticksTheFirstThreeSwitches) {
   for (auto& each : page.chkSettings) each.Value.Set(true);

@@ -5,7 +5,7 @@
 
 using namespace std::chrono_literals;
 
-ProfileStation::ProfileStation(const std::string& greeting) {
+ProfileStation::ProfileStation(const std::string& greeting, const std::string& prompt) {
   settings.MyName = "ANNA";
   settings.MyQth = "Newington, CT";
   settings.MyGrid = "FN31";
@@ -19,6 +19,7 @@ ProfileStation::ProfileStation(const std::string& greeting) {
   Receive("");
   Receive("K1TST-2 de N0NODE 20-Nov-2026 2101Z");
   Receive(greeting);
+  if (!prompt.empty()) Receive(prompt);
   if (profileAsked > 0) reader.AskedByLogin();
   Sent();
   log.entries.clear();

@@ -9,6 +9,9 @@
 inline constexpr const char* kOwnPrompt = "%C de %M %D %T 2.4315  dxspider >";
 inline constexpr const char* kSetPrompt = "set/prompt %C de %M %D %T 2.4315  dxspider >";
 
+inline constexpr const char* kZelva = "N0NODE, a Zelva Cluster";
+inline constexpr const char* kZelvaPrompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z   ZLV >";
+
 struct Row {
   std::string label;
   std::string value;
@@ -18,7 +21,9 @@ using Rows = std::vector<Row>;
 // A station that has asked a node for the profile, and reads it in its row.
 class ProfileStation : public Station {
  public:
-  explicit ProfileStation(const std::string& greeting = "running DXSpider V1.57 build 441");
+  // Where the node is asked at its first prompt, it has to prompt.
+  explicit ProfileStation(const std::string& greeting = "running DXSpider V1.57 build 441",
+                          const std::string& prompt = "");
 
   // The rows as a node shows them, their labels right-aligned to that width.
   void ReceiveRows(const Rows& rows, std::size_t width);
@@ -30,14 +35,9 @@ class ProfileStation : public Station {
   }
 
   filters::UserSettings page;
-  filters::ProfileReader reader{settings,
-                                program.state,
-                                program.outgoing,
-                                program.intake,
-                                program.profileHints,
-                                program.keepAlive,
-                                above,
-                                page};
+  filters::ProfileReader reader{world.scheduler,   settings,       program.state,
+                                program.outgoing,  program.intake, program.profileHints,
+                                program.keepAlive, above,          page};
 };
 
 // A profile that lacks nothing, the same without a row, and with another value in one.

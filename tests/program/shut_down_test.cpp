@@ -155,10 +155,12 @@ TEST_F(ShutDownTest, NothingReconnectsMeanwhile) {
 TEST_F(ShutDownTest, DuringStartUpItEndsAtOnceAndWritesNothing) {
   Desk fresh;
   fresh.world.files.folders.insert(Desk::kFolder);
+  fresh.Content("debug.cfg") = "\"yes\"\r\n";
+  const auto files = fresh.world.files.content;
   fresh.Start().RequestClose(Program::Close::Ask);
   EXPECT_EQ(fresh.quits, 1);
   fresh.world.Run(10s);
-  EXPECT_FALSE(fresh.world.files.Exists(fresh.File("molva.cfg")));
+  EXPECT_EQ(fresh.world.files.content, files);
 }
 
 TEST_F(ShutDownTest, MovedWindowIsWritten) {
@@ -168,6 +170,22 @@ TEST_F(ShutDownTest, MovedWindowIsWritten) {
   desk.world.Run(10s);
   EXPECT_THAT(desk.Content("molva.cfg"), HasSubstr("\"FormTop\",300\r\n\"FormLeft\",150\r\n"));
   EXPECT_EQ(desk.Start().form.Get().width, 15000);
+}
+
+TEST_F(ShutDownTest, WriteThatIsStillDueIsDone) {
+  for (const bool connected : {false, true}) {
+    Desk each;
+    each.HasUsualConfiguration(connected ? "\"AutoStart\",-1\r\n" : "");
+    each.StartNode();
+    Program& program = each.Start();
+    each.world.Run(10s);
+    ASSERT_EQ(program.session.state.LoggedIn, connected);
+    program.settings.MyQth = "Elsewhere";
+    program.DelayedWriteCfg();
+    program.RequestClose(Program::Close::WithoutAsking);
+    ASSERT_TRUE(each.world.RunUntil([&each] { return each.quits == 1; }));
+    EXPECT_THAT(each.Content("molva.cfg"), HasSubstr("\"My QTH\",\"Elsewhere\"")) << connected;
+  }
 }
 
 TEST_F(ShutDownTest, UnmovedWindowIsNotWritten) {

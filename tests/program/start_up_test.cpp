@@ -56,6 +56,7 @@ TEST_F(StartUpTest, CompleteConfigurationOpensNoDialog) {
   EXPECT_TRUE(desk.world.dialogs.shown.empty());
   EXPECT_FALSE(program.userInfo.Open.Get());
   EXPECT_FALSE(program.offsetForm.Open.Get());
+  EXPECT_FALSE(program.conditions.lblText.Visible.Get());
 }
 
 TEST_F(StartUpTest, FolderThatWasThereIsAskedAboutAndNoEndsTheProgramAfterTwoSeconds) {
@@ -80,24 +81,29 @@ TEST_F(StartUpTest, TimersWaitForTheEndOfTheStartUp) {
   EXPECT_NE(program.session.linkText.lblclock[0].Caption.Get(), "");
 }
 
-TEST_F(StartUpTest, EmptyConfigurationEndsTheProgramAndTouchesNothing) {
-  desk.HasConfiguration("");
-  desk.Content("molva.cfg.bak") = "\"My Call\",\"K1TST\"\r\n";
-  desk.world.dialogs.WillAnswer("Molva Desk  -  Critical Error", Answer::Cancel);
-  desk.Start();
-  desk.world.Run(10s);
-  EXPECT_EQ(desk.quits, 1);
-  EXPECT_EQ(desk.Content("molva.cfg"), "");
-  EXPECT_EQ(desk.Content("molva.cfg.bak"), "\"My Call\",\"K1TST\"\r\n");
+TEST_F(StartUpTest, ConfigurationThatCannotBeReadEndsTheProgramAndLeavesTheWholeFolder) {
+  for (const bool denied : {false, true}) {
+    Desk each;
+    each.HasConfiguration("");
+    if (denied) each.world.files.denied.insert(each.File("molva.cfg"));
+    each.Content("molva.cfg.bak") = "\"My Call\",\"K1TST\"\r\n";
+    each.Content("debug.cfg") = "\"yes\"\r\n";
+    const auto folders = each.world.files.folders;
+    const auto files = each.world.files.content;
+    each.world.dialogs.WillAnswer("Molva Desk  -  Critical Error", Answer::Cancel);
+    each.Start();
+    each.world.Run(10s);
+    EXPECT_EQ(each.quits, 1) << denied;
+    EXPECT_EQ(each.world.files.content, files) << denied;
+    EXPECT_EQ(each.world.files.folders, folders) << denied;
+  }
 }
 
-TEST_F(StartUpTest, EmptyGmtOffsetOpensItsFormWhichHoldsNothingUp) {
-  desk.HasConfiguration(
-      "\"My Call\",\"K1TST\"\r\n\"My Name\",\"A\"\r\n\"My QTH\",\"B\"\r\n\"AutoStart\",-1\r\n");
+TEST_F(StartUpTest, EmptyGmtOffsetOpensItsFormWhereTheUserIsNotWhollyKnown) {
+  desk.HasConfiguration("\"My Call\",\"K1TST\"\r\n\"My Name\",\"A\"\r\n");
   program::Program& program = desk.Start();
   EXPECT_TRUE(program.offsetForm.Open.Get());
-  desk.StartNode();
-  EXPECT_TRUE(desk.world.RunUntil([&] { return program.session.state.LoggedIn; }));
+  EXPECT_FALSE(program.Loading);
   program.offsetForm.chkSystemZone.UserSets(false);
   program.offsetForm.txtHours.UserTypes("-5.5");
   program.offsetForm.cmdOk.Press();
@@ -189,6 +195,30 @@ TEST_F(StartUpTest, DefaultNodeIsTheOneOfTheEndpointsOnceTheyNameIt) {
   EXPECT_EQ(program.settings.NodePort, "23");
 }
 
+TEST_F(StartUpTest, StoredHostOfTheDefaultNodeIsThatNode) {
+  for (const char* host : {"node.example", "cluster.Node.Example."}) {
+    desk.HasUsualConfiguration("\"SelectedNode\",\"K1OLD\"\r\n\"SelectedNodesAddress\",\"" +
+                               std::string(host) + "\"\r\n\"PrimaryPort\",\"7300\"\r\n");
+    desk.Content("endpoints.cfg") = "\"MOLVA-1\",\"node.example\"\r\n";
+    program::Program& program = desk.Start();
+    EXPECT_EQ(program.settings.NodeCall, "MOLVA-1") << host;
+    EXPECT_EQ(program.settings.NodeHost, host);
+    EXPECT_EQ(program.settings.NodePort, "23") << host;
+  }
+}
+
+TEST_F(StartUpTest, AnotherHostOrNoneOfTheDefaultNodeLeavesTheStoredOne) {
+  for (const char* host : {"node.example", ""}) {
+    desk.HasUsualConfiguration(
+        "\"SelectedNode\",\"K1OLD\"\r\n\"SelectedNodesAddress\",\"old.example\"\r\n"
+        "\"PrimaryPort\",\"7300\"\r\n");
+    desk.Content("endpoints.cfg") = "\"MOLVA-1\",\"" + std::string(host) + "\"\r\n";
+    program::Program& program = desk.Start();
+    EXPECT_EQ(program.settings.NodeCall, "K1OLD") << host;
+    EXPECT_EQ(program.settings.NodePort, "7300") << host;
+  }
+}
+
 TEST_F(StartUpTest, MissingDataFileIsPutInPlaceAndAPresentOneStays) {
   desk.HasUsualConfiguration();
   desk.Start();
@@ -230,6 +260,19 @@ TEST_F(StartUpTest, DebugSwitchLastsForOneRun) {
   EXPECT_TRUE(desk.Start().errorLog.DebugMode);
   EXPECT_EQ(desk.Content("debug.cfg"), "\"no\"\r\n");
   EXPECT_FALSE(desk.Start().errorLog.DebugMode);
+}
+
+TEST_F(StartUpTest, DebugSwitchIsOneValueInQuotesOrBare) {
+  desk.HasUsualConfiguration();
+  for (const char* content : {"yes", "yes\r\n", " yes \n", "\"yes\"", "yes,no\r\n"}) {
+    desk.Content("debug.cfg") = content;
+    EXPECT_TRUE(desk.Start().errorLog.DebugMode) << content;
+    EXPECT_EQ(desk.Content("debug.cfg"), "\"no\"\r\n") << content;
+  }
+  for (const char* content : {"", "no", "\"no\"\r\n\"yes\"", "yesterday", "no,yes"}) {
+    desk.Content("debug.cfg") = content;
+    EXPECT_FALSE(desk.Start().errorLog.DebugMode) << content;
+  }
 }
 
 TEST_F(StartUpTest, DebugRunShowsItsDateInRedAndTheTickIsForTheNextRun) {

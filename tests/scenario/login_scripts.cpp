@@ -200,32 +200,32 @@ Script WinCluster() {
 // Asks for its password in a line of its own.
 Script Zelva() {
   const std::string prompt = "K1TST-2 de N0NODE 20-Nov-2026 2101Z   ZLV >\r\n";
-  return {
-      .name = "Zelva",
-      .password = "secret",
-      .turns =
-          {
-              {{"Please enter your call: "}, {"K1TST-2"}},
-              {{"\r\nWelcome to N0NODE, a Zelva Cluster\r\npassword:\r\n"}, {"secret"}},
-              {{prompt}, {"SH/SETTINGS"}},
-              {{"       Callsign: K1TST-2\r\n"
-                "        Locator: EN82\r\n"
-                "       Location: 42 17 N 83 44 W\r\n"
-                "       Req Echo: No\r\n"
-                "   Req DX Spots: Yes\r\n"
-                "   Type of User: U\r\n" +
-                prompt},
-               {" ", "sh/filter", "set/name ANNA", "KeepAlive Rx 5  V2.4315", "sh/mydx/100", ""}},
-          },
-      .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE Zelva Cluster)",
-                 .txtNode = "***Connected to: N0NODE",
-                 .showDx = "sh/mydx",
-                 .lblStatus = "Node is Zelva Cluster",
-                 .flags = {"IsZelva", "LoggedIn", "LoginTextDone", "LoginFinished", "SunDone",
-                           "Ar17Refused", "DuelArmed", "RequestedSettings", "NodeSentPassword"},
-                 .loginText = {" ", " Welcome to N0NODE, a Zelva Cluster", " password:"},
-                 .asked = {{"AskSunTimes", 1}}},
-      .keepAlive = "KeepAlive Rx 5  V2.4315"};
+  return {.name = "Zelva",
+          .password = "secret",
+          .turns =
+              {
+                  {{"Please enter your call: "}, {"K1TST-2"}},
+                  {{"\r\nWelcome to N0NODE, a Zelva Cluster\r\npassword:\r\n"}, {"secret"}},
+                  {{prompt}, {"SH/SETTINGS"}},
+                  {{"       Callsign: K1TST-2\r\n"
+                    "        Locator: EN82\r\n"
+                    "       Location: 42 17 N 83 44 W\r\n"
+                    "       Req Echo: No\r\n"
+                    "   Req DX Spots: Yes\r\n"
+                    "   Type of User: U\r\n" +
+                    prompt},
+                   {" ", "set/molva", "sh/filter", "set/name ANNA", "KeepAlive Rx 5  V2.4315",
+                    "sh/mydx/100", ""}},
+              },
+          .ending = {.title = "Molva Desk 2.4315 @ K1TST-2  (N0NODE Zelva Cluster)",
+                     .txtNode = "***Connected to: N0NODE",
+                     .showDx = "sh/mydx",
+                     .lblStatus = "Node is Zelva Cluster",
+                     .flags = {"IsZelva", "LoggedIn", "LoginTextDone", "LoginFinished", "SunDone",
+                               "Ar17Refused", "DuelArmed", "RequestedSettings", "NodeSentPassword"},
+                     .loginText = {" ", " Welcome to N0NODE, a Zelva Cluster", " password:"},
+                     .asked = {{"AskSunTimes", 1}}},
+          .keepAlive = "KeepAlive Rx 5  V2.4315"};
 }
 
 Script Skimmer() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include "scenario/login_scripts.h"
 
@@ -119,6 +120,24 @@ TEST(LoginToARelay, SpotsAreTakenFromFiveSecondsBehindTheLogin) {
       "DX de K1ABC-#:   14025.0  K2DEF          CW 12 dB  CQ           2101Z\r\n";
   EXPECT_EQ(stage.Say({spot}), Lines());
   EXPECT_EQ(shown, 1u);
+}
+
+TEST(LoginBehindIt, WhatANodeSaysOfTheOwnStationSendsNothing) {
+  const std::pair<const char*, const char*> stations[] = {
+      {"Spider157",
+       "User         : K1TST-2\r\nHome Node    : \r\n"
+       "K1TST-2 de N0NODE 20-Nov-2026 2101Z 2.4315  dxspider >\r\n"},
+      {"Zelva",
+       "User         : K1TST-2\r\nHome Node    : \r\n"
+       "K1TST-2 de N0NODE 20-Nov-2026 2101Z   ZLV >\r\n"},
+      {"ArCluster",
+       "User: K1TST-2\r\nStation:       K1TST-2\r\nHome Node:\r\n"
+       "K1TST-2 de N0NODE 20-Nov-2026 2101Z   arc >\r\n"}};
+  for (const auto& [name, station] : stations) {
+    Stage stage(LoginScript(name));
+    stage.Play(LoginScript(name).turns);
+    EXPECT_EQ(stage.Say({station}), Lines()) << name;
+  }
 }
 
 // Two programs with one call throw each other out: the third login goes out under another SSID.

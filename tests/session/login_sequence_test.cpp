@@ -221,6 +221,15 @@ TEST_F(LoginSequenceTest, ZelvaIsAskedForSwitchesAtItsFirstPromptAndNotAgain) {
   for (int i = 0; i < 2; ++i) Receive("K1TST-2 de N0NODE 2101Z ZLV >");
   ExpectSent({"SH/SETTINGS"});
   EXPECT_TRUE(program.state.RequestedSettings);
+  EXPECT_EQ(profileAsked, 1);
+}
+
+TEST_F(LoginSequenceTest, ZelvaThatWasAskedForSwitchesIsNotAskedByTheLogin) {
+  LogInToZelva();
+  program.state.RequestedSettings = true;
+  Receive("K1TST-2 de N0NODE 2101Z ZLV >");
+  ExpectNothingSent();
+  EXPECT_EQ(profileAsked, 0);
 }
 
 TEST_F(LoginSequenceTest, ZelvasPasswordLineIsAnsweredOnceWithOneLineEnd) {
@@ -237,6 +246,7 @@ TEST_F(LoginSequenceTest, ZelvasPasswordLineWithoutAStoredPasswordIsNotAnswered)
   LogInToZelva();
   Receive("password:");
   ExpectNothingSent();
+  EXPECT_FALSE(program.state.NodeSentPassword);
 }
 
 // DxNet and the others.
@@ -247,6 +257,13 @@ TEST_F(LoginSequenceTest, DxNetIsToldNotToStopAtPages) {
   ExpectSent({"set/page 0"});
   EXPECT_EQ(txtNode(), "Connected to N0NODE");
   EXPECT_THAT(program.state.KnownNodes, ElementsAre("N0NODE"));
+}
+
+TEST_F(LoginSequenceTest, DxNetsFirstPromptLeavesTheNodesThatItToldOf) {
+  LogInTo("the software is DxNet.");
+  program.state.KnownNodes = {"N0NODE", "K3AAA"};
+  Receive("K1TST-2 de N0NODE 2101Z DxNet>");
+  EXPECT_THAT(program.state.KnownNodes, ElementsAre("N0NODE", "K3AAA"));
 }
 
 TEST_F(LoginSequenceTest, DxNetAndClxAreFinishedAtOnce) {

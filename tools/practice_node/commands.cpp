@@ -108,7 +108,7 @@ constexpr auto kSpider = std::to_array<Command>({
 
 constexpr auto kZelva = std::to_array<Command>({
     {"stat/user", ReportUser}, {"sh/settings", ReportUser}, {"sh/mydx", ShowSpots},
-    {"set/res", SetResolution}, {"keepalive", Accept},
+    {"set/res", SetResolution}, {"keepalive", Accept}, {"set/molva", Accept},
     {"set/echo", SetEcho<true>}, {"unset/echo", SetEcho<false>},
 });
 

@@ -13,7 +13,7 @@ Files::Content SimFiles::Read(const std::string& path) {
 }
 
 Files::Fault SimFiles::Replace(const std::string& path, std::string_view bytes, Access access) {
-  if (Denied(path)) return Fault::Denied;
+  if (Denied(path) || ReadOnly(path)) return Fault::Denied;
   if (folders.contains(path)) return Fault::Other;
   const std::string beside = path + ".new";
   content[beside].clear();
@@ -32,13 +32,13 @@ Files::Fault SimFiles::Replace(const std::string& path, std::string_view bytes, 
 }
 
 Files::Fault SimFiles::Append(const std::string& path, std::string_view bytes) {
-  if (Denied(path)) return Fault::Denied;
+  if (Denied(path) || (ReadOnly(path) && !content.contains(path))) return Fault::Denied;
   if (folders.contains(path)) return Fault::Other;
   return Write(content[path], bytes);
 }
 
 Files::Fault SimFiles::Remove(const std::string& path) {
-  if (Denied(path)) return Fault::Denied;
+  if (Denied(path) || ReadOnly(path)) return Fault::Denied;
   content.erase(path);
   return Fault::None;
 }
@@ -53,7 +53,7 @@ std::uint64_t SimFiles::Size(const std::string& path) {
 }
 
 Files::Fault SimFiles::MakeFolder(const std::string& path) {
-  if (Denied(path)) return Fault::Denied;
+  if (Denied(path) || (ReadOnly(path) && !folders.contains(path))) return Fault::Denied;
   folders.insert(path);
   return Fault::None;
 }
@@ -74,6 +74,11 @@ bool SimFiles::Denied(const std::string& path) const {
   return std::any_of(denied.begin(), denied.end(), [&](const std::string& each) {
     return path == each || path.starts_with(each + "/");
   });
+}
+
+bool SimFiles::ReadOnly(const std::string& path) const {
+  return std::any_of(readOnly.begin(), readOnly.end(),
+                     [&](const std::string& each) { return path.starts_with(each + "/"); });
 }
 
 Files::Fault SimFiles::Write(std::string& file, std::string_view bytes) {

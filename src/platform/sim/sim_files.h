@@ -15,7 +15,8 @@ struct Crash {};
 // A disk in memory. Its members are its faults, to be switched by a test at any time.
 class SimFiles : public Files {
  public:
-  std::set<std::string> denied;  // paths, and folders with all that is below them
+  std::set<std::string> denied;    // paths, and folders with all that is below them
+  std::set<std::string> readOnly;  // folders below which nothing is made, replaced or removed
   std::size_t bytesFree = std::numeric_limits<std::size_t>::max();
   // The machine stops when this many more bytes have been written, or before the step behind them.
   std::size_t crashAfterBytes = std::numeric_limits<std::size_t>::max();
@@ -37,6 +38,7 @@ class SimFiles : public Files {
 
  private:
   bool Denied(const std::string& path) const;
+  bool ReadOnly(const std::string& path) const;
   Fault Write(std::string& file, std::string_view bytes);
 };
 
