@@ -33,8 +33,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
                       -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 
-if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  add_compile_options(-Wno-shadow)  # it takes a name of one source for hidden by the next
+if(CMAKE_UNITY_BUILD)
+  # Sources that are compiled together are taken for headers of one that is not ours: GCC misses the
+  # linkage of their unnamed types, and clang takes a name of one for hidden by the next.
+  add_compile_options($<IF:$<CXX_COMPILER_ID:GNU>,-Wno-subobject-linkage,-Wno-shadow>)
 endif()
 
 # What is packaged reads what strangers send.
