@@ -6,6 +6,7 @@
 #include "platform/qt/qt_text.h"
 #include "spots/row_layout.h"
 #include "ui/bind.h"
+#include "ui/figures.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
 #include "ui/spot_view_accessible.h"
@@ -203,7 +204,7 @@ void SpotView::CountBelow(std::size_t spots) {
   newBelow_ = std::min(spots, rows_.Rows().size());
   below_->setVisible(newBelow_ > 0);
   if (newBelow_ == 0) return;
-  below_->setText(tr("%1 new below").arg(newBelow_));
+  below_->setText(tr("%1 new below").arg(Grouped(newBelow_)));
   PlaceBelow();
 }
 

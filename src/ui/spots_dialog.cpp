@@ -31,7 +31,7 @@ SpotsDialog::SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* paren
   AddReload(form, model, frames);
   AddMemory(form, model, frames);
   AddCheck(form, model.chkShowNrs, "N", frames);
-  AddCloseButton(form, this);
+  AddCloseButton(form, this, QStringLiteral("C"));
   SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, frames);
 }
@@ -75,7 +75,7 @@ void SpotsDialog::AddReload(QFormLayout* form, spots::SpotsForm& model, Frames& 
   auto* count = new QLabel(this);
   count->setProperty("dim", true);
   count->setAccessibleName(tr("Spots read"));
-  BindLabel(count, model.lblCount, frames);
+  BindCount(count, model.lblCount, frames);
   auto* unit = new QLabel(tr("spots read"), this);
   unit->setProperty("dim", true);
   row->addWidget(count);
