@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QPushButton>
+#include <functional>
 
 namespace ui {
 
@@ -15,8 +16,9 @@ class DropButton : public QPushButton {
 // A panel of controls that a button drops, and that goes with Escape or with a press beside it.
 class DropPanel : public QFrame {
  public:
-  // The panel goes under the button, and speaks as `name`.
-  DropPanel(DropButton* button, const QString& name);
+  // The panel goes under the button, and speaks as `name`. F1 in it closes it, then asks for
+  // `help`.
+  DropPanel(DropButton* button, const QString& name, std::function<void()> help);
 
  private:
   void Drop(const QPushButton* button);

@@ -54,6 +54,7 @@ void MacroPanel::AddButton(session::Macros& model, std::size_t index, Frames& fr
   const bool getsThem = index == 0;
   auto* button = new QPushButton(this);
   button->setAccessibleName(getsThem ? tr("Get Macros") : tr("Send macro %1").arg(index));
+  if (getsThem) button->setProperty("mnemonic", QStringLiteral("G"));
   BindButton(button, model.cmdMacro[index], frames);
   if (!getsThem) ShowWith(model.fraSendMacro, button, frames);
   grid_->addWidget(button, RowOf(index), 0);

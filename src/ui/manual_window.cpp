@@ -133,7 +133,7 @@ ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent) {
   auto* contents = new QPushButton(tr("&Contents"), this);
   auto* back = new QPushButton(tr("&Back"), this);
   back->setEnabled(false);
-  auto* close = new QPushButton(tr("Close"), this);
+  auto* close = new QPushButton(tr("C&lose"), this);
   text_ = new Page(this);  // behind the buttons for the Tab key
   text_->setAccessibleName(tr("Manual page"));
   text_->setOpenExternalLinks(true);

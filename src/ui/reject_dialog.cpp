@@ -89,7 +89,7 @@ RejectDialog::RejectDialog(spots::RejectForm& form, spots::RejectLists& lists,
   auto* rejected = new QLabel(this);
   rejected->setProperty("dim", true);
   BindLabel(rejected, lists.lblRejected, frames);
-  auto* foot = AddCloseButton(column, this);
+  auto* foot = AddCloseButton(column, this, QStringLiteral("l"));
   foot->insertWidget(0, rejected);
 }
 

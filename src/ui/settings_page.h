@@ -28,7 +28,10 @@ class SettingsPage : public QScrollArea {
   QVBoxLayout* AddGroup(QVBoxLayout* column, const QString& heading);
   void AddChoice(QHBoxLayout* row, const QString& label, const QString& name, core::Choice& model,
                  Frames& frames);
-  void AddCheck(QVBoxLayout* group, core::Check& model, Frames& frames);
+  // `mnemonic` is a letter of its caption; so in what follows.
+  void AddCheck(QVBoxLayout* group, core::Check& model, const char* mnemonic, Frames& frames);
+  QPushButton* AddButton(QHBoxLayout* row, const QString& name, core::Button& model,
+                         const char* mnemonic, Frames& frames);
 
   void FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Frames& frames);
   void FillConnection(QVBoxLayout* group, program::Program& program, Frames& frames);
