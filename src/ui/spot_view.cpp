@@ -182,13 +182,19 @@ void SpotView::ChangeFont() {
 void SpotView::SetRanges() {
   const int height = static_cast<int>(rows_.Rows().size()) * painter_.RowHeight();
   verticalScrollBar()->setSingleStep(painter_.RowHeight());
-  verticalScrollBar()->setPageStep(viewport()->height());
-  verticalScrollBar()->setRange(0, std::max(height - viewport()->height(), 0));
+  verticalScrollBar()->setPageStep(RowsInSight() * painter_.RowHeight());
+  verticalScrollBar()->setRange(0, WholeRows(std::max(height - viewport()->height(), 0)));
   const int width =
       painter_.ColumnAt(std::min(static_cast<core::Position>(widest_), kLongestShown)) + kFromEdge;
   horizontalScrollBar()->setSingleStep(painter_.RowHeight());
   horizontalScrollBar()->setPageStep(viewport()->width());
   horizontalScrollBar()->setRange(0, std::max(width - viewport()->width(), 0));
+}
+
+// At the end as well the first row in sight is whole: what is too little for one stays empty below.
+int SpotView::WholeRows(int pixels) const {
+  const int row = painter_.RowHeight();
+  return (pixels + row - 1) / row * row;
 }
 
 void SpotView::GoToEnd() {
