@@ -100,6 +100,27 @@ TEST_F(SpotDialogsTest, TheSpotLogsNumbersCountWhenItIsClosed) {
   EXPECT_EQ(program->settings.SpotMemorySingle, 55);
 }
 
+TEST_F(SpotDialogsTest, TheSpotLogsFieldsAreAsWideAsTheirNumbersAndTellTheirUnits) {
+  QDialog& dialog = Opened("Spot log", "Dx Spot Log File ");
+  const auto check = [&](const char* name, int digits, const QString& unit) {
+    const auto& field = *Named<QLineEdit>(dialog, name);
+    const int needed =
+        field.fontMetrics().horizontalAdvance(QString(digits, '8')) + 2 * 8 + 2;  // the padding
+    EXPECT_EQ(field.maxLength(), digits) << name;
+    EXPECT_GE(field.width(), needed) << name;
+    EXPECT_LE(field.width(), needed + 16) << name;
+    bool told = false;
+    for (const QLabel* each : dialog.findChildren<QLabel*>())
+      told = told || (each->text() == unit && each->x() > field.geometry().right() &&
+                      std::abs(each->geometry().center().y() - field.geometry().center().y()) <= 1);
+    EXPECT_TRUE(told) << name;
+  };
+  check("Number of days to keep", 4, "days");
+  check("Number of hours to reload", 4, "hours");
+  check("Max spots displayed, all bands together", 6, "spots");
+  check("Max spots displayed, each band", 6, "spots");
+}
+
 TEST_F(SpotDialogsTest, StopHasNothingToDoWithoutAReload) {
   QDialog& dialog = Opened("Spot log", "Dx Spot Log File ");
   EXPECT_FALSE(Named<QPushButton>(dialog, "Stop the reload")->isEnabled());
