@@ -47,7 +47,7 @@ QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
 DropButton::DropButton(const QString& caption, const QString& name, QWidget* parent)
     : QPushButton(parent) {
   QAccessible::installFactory(MakeAccessible);  // before Qt asks who speaks for it
-  setText(caption);
+  setText(caption + QStringLiteral(" ▾"));
   setAccessibleName(name);
 }
 

@@ -6,8 +6,8 @@
 
 namespace ui {
 
-// A button for a panel. To a screen reader the panel is a part of the button while it is dropped:
-// windows that pop up stand nowhere in its tree by themselves.
+// A button for a panel, with an arrow behind its caption. To a screen reader the panel is a part of
+// the button while it is dropped: windows that pop up stand nowhere in its tree by themselves.
 class DropButton : public QPushButton {
  public:
   DropButton(const QString& caption, const QString& name, QWidget* parent);

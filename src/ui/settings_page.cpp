@@ -57,9 +57,9 @@ SettingsPage::SettingsPage(program::Program& program, Frames& frames, LiveTheme&
   FillKeepAlive(AddGroup(left, tr("Keep-alive")), program.session, frames);
   left->addStretch();
   QVBoxLayout* right = AddColumn();
-  FillLinking(AddGroup(right, tr("Linked copies")), program.MultiNode, frames);
   FillAppearance(AddGroup(right, tr("Appearance")), program.appearance, frames);
   AddGroup(right, tr("Macros"))->addWidget(new MacroPanel(program.session.macros, frames, page_));
+  FillLinking(AddGroup(right, tr("Linked copies")), program.MultiNode, frames);
   AddGroup(right, tr("Technical"))->addWidget(new TechnicalPanel(program, frames, page_));
   right->addStretch();
   columns_->addStretch();

@@ -11,8 +11,8 @@
 namespace ui {
 
 // The page of the first tab: who the operator is, what the program does by itself, how the link is
-// kept alive, the macros, how the window looks, and the figures of the link. In a low window it
-// scrolls.
+// kept alive, how the window looks, the macros, the other copy of the program, and the figures of
+// the link. In a low window it scrolls.
 class SettingsPage : public QScrollArea {
  public:
   SettingsPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent);

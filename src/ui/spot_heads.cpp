@@ -94,7 +94,7 @@ class SpotHead : public QAbstractButton {
     if (!IsActive()) return text();
     const QString arrow = IsReversed() ? QStringLiteral("↑") : QStringLiteral("↓");
     const QString airy = text() + QLatin1Char(' ') + arrow;
-    const bool fits = WidthOf(airy) <= heads_.painter_.WidthOf(model_.width + 1);
+    const bool fits = WidthOf(airy) + kBetween <= heads_.painter_.WidthOf(model_.width + 1);
     return fits ? airy : text() + arrow;
   }
   QFont Font() const {

@@ -55,5 +55,16 @@ TEST_F(CaptionsTest, ADialogIsAnnouncedByThatSignWhereverItIsOpened) {
     EXPECT_TRUE(Caption(each).endsWith(QChar(0x2026))) << each;
 }
 
+TEST_F(CaptionsTest, AButtonThatDropsAPanelHasAnArrow) {
+  Open();
+  int panels = 0;
+  for (const DialogRow& row : Dialogs()) {
+    if (*row.button == '\0') continue;
+    EXPECT_TRUE(Caption(row.button).endsWith(" ▾")) << row.button;
+    ++panels;
+  }
+  EXPECT_EQ(panels, 2);
+}
+
 }  // namespace
 }  // namespace gui

@@ -167,6 +167,15 @@ TEST_F(SettingsPageTest, TheBoxOfLinkedCopiesSaysWhichOneThisIs) {
   EXPECT_TRUE(window->windowTitle().startsWith("Primary - Molva Desk"));
 }
 
+TEST_F(SettingsPageTest, WhatEachOperatorWantsStandsAboveWhatFewDo) {
+  const auto top = [this](const char* name) {
+    return Named(*window, name)->mapTo(Page().widget(), QPoint(0, 0)).y();
+  };
+  EXPECT_LT(top("Theme: as the system has it, light or dark"), top("Get Macros"));
+  EXPECT_LT(top("Get Macros"), top("Enable Linking of two running copies"));
+  EXPECT_LT(top("Enable Linking of two running copies"), top("Inactivity"));
+}
+
 TEST_F(SettingsPageTest, ScrollsInALowWindowAndNeverSideways) {
   GetMacros();
   window->resize(1024, 700);

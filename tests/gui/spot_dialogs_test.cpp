@@ -86,6 +86,20 @@ TEST_F(SpotDialogsTest, InvalidCountrySaysThatItRejectsNothingYet) {
   EXPECT_TRUE(says);
 }
 
+TEST_F(SpotDialogsTest, AddStandsBesideItsFieldAndNoButtonIsStretched) {
+  QDialog& dialog = Opened("Spots to reject", "Reject spots");
+  for (const char* each : {"DX call", "spotter or node", "word in comments"}) {
+    const auto named = [each](const char* before) { return std::string(before) + each; };
+    const auto& field = *Named<QLineEdit>(dialog, named("To be rejected: ").c_str());
+    const auto& add = *Named<QPushButton>(dialog, named("Add ").c_str());
+    EXPECT_NEAR(add.geometry().center().y(), field.geometry().center().y(), 1) << each;
+    EXPECT_GT(add.x(), field.geometry().right()) << each;
+    for (const QPushButton* button : {&add, static_cast<const QPushButton*>(Named<QPushButton>(
+                                                dialog, named("Delete ").c_str()))})
+      EXPECT_LE(button->width(), button->sizeHint().width()) << each;
+  }
+}
+
 // The spot log.
 
 TEST_F(SpotDialogsTest, TheSpotLogsNumbersCountWhenItIsClosed) {

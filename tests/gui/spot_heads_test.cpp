@@ -39,6 +39,16 @@ TEST_F(SpotHeadsTest, AClickSortsByTheColumn) {
   EXPECT_THAT(Calls(), ElementsAre("K2BBB", "K3CCC", "K1AAA"));
 }
 
+TEST_F(SpotHeadsTest, TheArrowOfTheOrderKeepsClearOfTheNextHead) {
+  Show({});
+  Click("Sort by time");
+  const QImage heads = view.Heads()->grab().toImage();
+  const int next = Head("Sort by DX call").x();
+  for (int x = next - 3; x < next; ++x)
+    for (int y = 2; y < heads.height() - 4; ++y)
+      ASSERT_EQ(heads.pixelColor(x, y), heads.pixelColor(x, 1)) << x << ", " << y;
+}
+
 TEST_F(SpotHeadsTest, TheMiddleButtonShowsTheRowsFromTheirEnd) {
   Three();
   Click("Sort by DX call", Qt::MiddleButton);
