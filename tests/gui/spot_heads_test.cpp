@@ -44,7 +44,7 @@ TEST_F(SpotHeadsTest, TheArrowOfTheOrderKeepsClearOfTheNextHead) {
   Click("Sort by time");
   const QImage heads = view.Heads()->grab().toImage();
   const int next = Head("Sort by DX call").x();
-  for (int x = next - 3; x < next; ++x)
+  for (int x = next - 5; x < next; ++x)
     for (int y = 2; y < heads.height() - 4; ++y)
       ASSERT_EQ(heads.pixelColor(x, y), heads.pixelColor(x, 1)) << x << ", " << y;
 }
