@@ -17,7 +17,7 @@ namespace ui {
 namespace {
 
 constexpr int kFindWidth = 200;
-constexpr int kLeastFindWidth = 110;
+constexpr int kLeastFindWidth = 116;
 constexpr int kQueryWidth = 250;
 constexpr int kLeastQueryWidth = 180;
 constexpr int kBetweenGroups = 8;
@@ -157,7 +157,7 @@ void DxPage::AddFind(FoldRow* strip) {
   find_ = new FindField(*spots_, tell, strip);
   find_->setMinimumWidth(kLeastFindWidth);
   find_->setMaximumWidth(kFindWidth);
-  find_->setPlaceholderText(tr("Find in table  (Ctrl+F)"));
+  find_->setPlaceholderText(tr("Find  (Ctrl+F)"));
   find_->setAccessibleName(tr("Find in table"));
   strip->Controls()->addWidget(find_, kBeforeTheGap);
 }

@@ -167,6 +167,13 @@ TEST_F(SettingsPageTest, TheBoxOfLinkedCopiesSaysWhichOneThisIs) {
   EXPECT_TRUE(window->windowTitle().startsWith("Primary - Molva Desk"));
 }
 
+TEST_F(SettingsPageTest, AnEmptyFieldSaysWhichMacroItIs) {
+  for (int i = 1; i < 10; ++i) {
+    const std::string name = "Macro " + std::to_string(i);
+    EXPECT_EQ(Field(name.c_str()).placeholderText().toStdString(), name);
+  }
+}
+
 TEST_F(SettingsPageTest, WhatEachOperatorWantsStandsAboveWhatFewDo) {
   const auto top = [this](const char* name) {
     return Named(*window, name)->mapTo(Page().widget(), QPoint(0, 0)).y();

@@ -110,5 +110,16 @@ TEST_F(SpotStripTest, CtrlClickOnACallAsksForItsSunTimes) {
   EXPECT_THAT(node.Heard(), Contains("SH/SUN 3Y0J"));
 }
 
+TEST_F(SpotStripTest, TheFieldToFindInSaysSoInFull) {
+  const auto& field = *Named<QLineEdit>(*window, "Find in table");
+  for (const int width : {1280, 1024}) {
+    window->resize(width, 700);
+    Run(200ms);
+    EXPECT_LE(field.fontMetrics().horizontalAdvance(field.placeholderText()) + 2 * 8 + 2,
+              field.width())
+        << width;
+  }
+}
+
 }  // namespace
 }  // namespace gui
