@@ -1,6 +1,5 @@
 #include "ui/key_list.h"
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>

@@ -42,7 +42,7 @@ constexpr std::array kSpots = {
     Key{QT_TR_NOOP("Left; Right"), QT_TR_NOOP("Rows that are too wide: to the left, to the right")},
     Key{QT_TR_NOOP("Return; Alt+Return"), QT_TR_NOOP("The row's call goes into the clipboard")},
     Key{QT_TR_NOOP("Ctrl+Return"),
-        QT_TR_NOOP("So it does, and the node tells of sunrise and sunset there")},
+        QT_TR_NOOP("The same, and the node is asked for sunrise and sunset there")},
     Key{QT_TR_NOOP("Ctrl+C"), QT_TR_NOOP("Copy the rows that are chosen")}};
 constexpr std::array kHeads = {
     Key{QT_TR_NOOP("Left; Right"), QT_TR_NOOP("The head before, the next head")},
