@@ -1,10 +1,4 @@
-#include <QAbstractButton>
 #include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTreeView>
 #include <set>
 
 #include "gui/opened_row.h"
