@@ -19,7 +19,7 @@ ColourForm::ColourForm(core::Settings& settings, Needs needs)
   words.reserve(kColourTable.size());
   for (const ColourRow& row : kColourTable) words.emplace_back(row.words);
   optColour.Options.Set(std::move(words));
-  cmdChoose.Caption.Set("Choose colour...");
+  cmdChoose.Caption.Set("Choose colour…");
   cmdTheme.Caption.Set("As the theme has it");
   cmdDefault.Caption.Set("Default Colour");
   cmdClose.Caption.Set("Close");

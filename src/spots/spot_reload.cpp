@@ -14,7 +14,6 @@ using Fault = platform::Files::Fault;
 
 constexpr int kLinesInARow = 100;
 constexpr platform::Milliseconds kYield{0};
-constexpr int kMostHours = 366 * 24;
 
 // Without the line end. A last line that has none counts only if it is whole: a crash may have cut
 // it.

@@ -18,6 +18,8 @@ namespace spots {
 // window lives on; what comes from the node waits meanwhile.
 class SpotReload {
  public:
+  static constexpr int kMostHours = 366 * 24;  // that it goes back
+
   struct Needs {
     std::function<void()> closeLog;                      // so that all that was logged can be read
     std::function<platform::Registration()> holdIntake;  // until the result goes

@@ -1,5 +1,6 @@
 #include "spots/spots_form.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -24,23 +25,24 @@ constexpr std::array kTicks = {
     Tick{&SpotsForm::chkShowNrs, &Settings::ShowSpotNrs, "Show Spot Nrs"},
 };
 
+constexpr int kMostDays = 3650;
 constexpr int kDefaultMemory = 200;
 constexpr int kLeastMemory = 20;
+constexpr int kMostMemory = 100'000;
 
 }  // namespace
 
-// A box with a number. One below `least` counts as `fallback`.
+// A box with a number. One below `least` counts as `fallback`, and one above `most` as that.
 struct SpotsForm::Number {
   core::TextBox& box;
   int& setting;
   const char* caption;
   int least;
   int fallback;
+  int most;
 
-  int Typed() const {
-    const int typed = core::ValInt(box.Text.Get());
-    return typed < least ? fallback : typed;
-  }
+  int Held(int number) const { return number < least ? fallback : std::min(number, most); }
+  int Typed() const { return Held(core::ValInt(box.Text.Get())); }
 };
 
 SpotsForm::SpotsForm(Settings& settings, SpotReload& reload, Needs needs)
@@ -52,18 +54,19 @@ SpotsForm::SpotsForm(Settings& settings, SpotReload& reload, Needs needs)
 }
 
 std::array<SpotsForm::Number, 4> SpotsForm::Numbers() {
-  return {{{Text1, settings_.KeepSpotsDays, "Number of days to keep", 1, 1},
-           {txtReloadNr, settings_.ReloadHours, "Number of hours to reload", 0, 0},
-           {txtMemory[0], settings_.SpotMemoryAll, "ALL", kLeastMemory, kDefaultMemory},
-           {txtMemory[1], settings_.SpotMemorySingle, "Single", kLeastMemory, kDefaultMemory}}};
+  return {
+      {{Text1, settings_.KeepSpotsDays, "Number of days to keep", 1, 1, kMostDays},
+       {txtReloadNr, settings_.ReloadHours, "Number of hours to reload", 0, 0,
+        SpotReload::kMostHours},
+       {txtMemory[0], settings_.SpotMemoryAll, "ALL", kLeastMemory, kDefaultMemory, kMostMemory},
+       {txtMemory[1], settings_.SpotMemorySingle, "Single", kLeastMemory, kDefaultMemory,
+        kMostMemory}}};
 }
 
 void SpotsForm::Show() {
   for (const Tick& tick : kTicks) (this->*tick.box).Value.Set(settings_.*tick.setting);
-  for (const Number& number : Numbers()) {
-    const int kept = number.setting < number.least ? number.fallback : number.setting;
-    number.box.Text.Set(std::to_string(kept));
-  }
+  for (const Number& number : Numbers())
+    number.box.Text.Set(std::to_string(number.Held(number.setting)));
   shown_ = true;
   Open.Set(true);
 }
@@ -91,10 +94,14 @@ void SpotsForm::BindNumbers() {
   }));
 }
 
-// Not with each key: on the way to "500" a limit of 5 would cost all spots but a few.
+// Not with each key: on the way to "500" a limit of 5 would cost all spots but a few. The boxes
+// show what holds then.
 void SpotsForm::TakeNumbers() {
-  for (const Number& number : Numbers())
-    if (std::exchange(number.setting, number.Typed()) != number.Typed()) needs_.settingsChanged();
+  for (const Number& number : Numbers()) {
+    const int typed = number.Typed();
+    number.box.Text.Set(std::to_string(typed));
+    if (std::exchange(number.setting, typed) != typed) needs_.settingsChanged();
+  }
 }
 
 void SpotsForm::BindReload() {

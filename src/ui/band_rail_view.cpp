@@ -7,6 +7,7 @@
 
 #include "program/dx_tab.h"
 #include "ui/bind.h"
+#include "ui/figures.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
 #include "ui/spot_colours.h"
@@ -14,24 +15,21 @@
 namespace ui {
 namespace {
 
-constexpr int kWidth = 144;  // for counts of five digits
+constexpr int kWidth = 156;  // for counts of five digits
 constexpr int kRowHeight = 25;
 constexpr int kBarLeft = 10;
 constexpr QSize kBar(4, 11);
 constexpr int kLabelLeft = 22;
 constexpr int kTotalFromRight = 10;  // of the row, which a scroll bar makes narrower
-constexpr int kUnseenFromRight = 56;
+constexpr int kUnseenFromRight = 60;
 constexpr core::Position kLongest = 20;
 
 QString TextOf(std::string_view bytes) { return OneLine(bytes, kLongest); }
 
-// "2231" is shown as "2,231", and none as a dash.
+// None is shown as a dash.
 QString TotalText(const core::Label& total) {
-  QString digits = TextOf(total.Caption.Get());
-  if (digits == QLatin1String("0")) return QStringLiteral("–");
-  for (qsizetype place = digits.size() - 3; place > 0; place -= 3)
-    digits.insert(place, QLatin1Char(','));
-  return digits;
+  const std::string& digits = total.Caption.Get();
+  return digits == "0" ? QStringLiteral("–") : Grouped(digits);
 }
 
 }  // namespace
@@ -83,7 +81,7 @@ class BandRailView::Painter : public QStyledItemDelegate {
     draw(kUnseenFromRight, Qt::AlignLeft, any || chosen ? Token::Text : Token::DimText, chosen,
          TextOf(view_.model_.optBand.Options.Get()[band]));
     if (unseen.Visible.Get())
-      draw(kUnseenFromRight, Qt::AlignRight, Token::Accent, true, TextOf(unseen.Caption.Get()));
+      draw(kUnseenFromRight, Qt::AlignRight, Token::Accent, true, Grouped(unseen.Caption.Get()));
     draw(kTotalFromRight, Qt::AlignRight, Token::DimText, false, TotalText(total));
   }
 
@@ -114,9 +112,9 @@ class BandRailView::Band : public QListWidgetItem {
     const QString name = words.empty() ? text() : TextOf(words);
     const core::Label& unseen = model_.lblUnseen[place];
     const QString unseenText =
-        unseen.Visible.Get() ? tr("%1 unseen, ").arg(TextOf(unseen.Caption.Get())) : QString();
+        unseen.Visible.Get() ? tr("%1 unseen, ").arg(Grouped(unseen.Caption.Get())) : QString();
     return tr("%1, %2%3 in all")
-        .arg(name, unseenText, TextOf(model_.lblTotal[place].Caption.Get()));
+        .arg(name, unseenText, Grouped(model_.lblTotal[place].Caption.Get()));
   }
 
   const spots::BandRail& model_;

@@ -4,6 +4,7 @@
 #include <QStyle>
 
 #include "platform/qt/qt_text.h"
+#include "ui/figures.h"
 #include "ui/one_line.h"
 #include "ui/theme.h"
 
@@ -78,6 +79,21 @@ void BindCommon(QWidget* widget, core::Control& model, Frames& frames) {
   });
 }
 
+void BindText(QLabel* widget, core::Label& model, Frames& frames,
+              QString (*shown)(const std::string& text)) {
+  widget->setTextFormat(Qt::PlainText);
+  BindCommon(widget, model, frames);
+  BindTint(widget, model, frames);
+  const QString name = widget->accessibleName();
+  BindProperty<std::string>(
+      widget, model.Caption, frames, [widget, name, shown](const std::string& text) {
+        const QString line = shown(text);
+        widget->setText(widget->buddy() != nullptr ? Caption(*widget, line) : line);
+        const bool says = !name.isEmpty() && !line.isEmpty();
+        widget->setAccessibleName(says ? name + ": " + line : name);
+      });
+}
+
 // The widget's choice is the model's: what it would choose by itself tells nobody.
 void Select(QListWidget& widget, int place) {
   const QSignalBlocker silent(widget);
@@ -104,16 +120,12 @@ void BindOpen(QDialog* widget, core::Property<bool>& open, Frames& frames) {
 }  // namespace
 
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames) {
-  widget->setTextFormat(Qt::PlainText);
-  BindCommon(widget, model, frames);
-  BindTint(widget, model, frames);
-  const QString name = widget->accessibleName();
-  BindProperty<std::string>(widget, model.Caption, frames, [widget, name](const std::string& text) {
-    const QString line = OneLine(text, kLongestLabel);
-    widget->setText(widget->buddy() != nullptr ? Caption(*widget, line) : line);
-    const bool says = !name.isEmpty() && !line.isEmpty();
-    widget->setAccessibleName(says ? name + ": " + line : name);
-  });
+  BindText(widget, model, frames,
+           [](const std::string& text) { return OneLine(text, kLongestLabel); });
+}
+
+void BindCount(QLabel* widget, core::Label& model, Frames& frames) {
+  BindText(widget, model, frames, [](const std::string& text) { return Grouped(text); });
 }
 
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames) {

@@ -24,6 +24,8 @@ namespace ui {
 // The letter in the property "mnemonic" of a label with a buddy, of a button and of a box is its
 // key, where its caption has that letter.
 void BindLabel(QLabel* widget, core::Label& model, Frames& frames);
+// The same for a count, in groups of three digits.
+void BindCount(QLabel* widget, core::Label& model, Frames& frames);
 void BindButton(QAbstractButton* widget, core::Button& model, Frames& frames);
 void BindCheck(QCheckBox* widget, core::Check& model, Frames& frames);
 // The same for a box whose words are its own, where the model's caption says something else.

@@ -32,7 +32,7 @@ constexpr std::array kRow = {Choice::kComments, Choice::kWide, Choice::kDate, Ch
 constexpr std::array kFormatKeys = {"l", "x"};
 // By Choice::Check, the letter of its key.
 constexpr std::array<const char*, Choice::kChecks> kKeys = {"N", "m", "B", "c", "y", "k", "t",
-                                                            "O", "v", "D", "Q", "I", "7", "S",
+                                                            "O", "a", "D", "Q", "I", "7", "S",
                                                             "u", "Z", "e", "G", "r", "W"};
 
 // Where the caption alone says too little to the ear.
@@ -145,7 +145,7 @@ QWidget* DisplayDialog::MakeFoot(Frames& frames) {
   row->setSpacing(8);
   row->addStretch();
   MakePrimary(
-      AddButton(row, tr("Apply the display"), QStringLiteral("A"), model_.cmdApply, frames));
+      AddButton(row, tr("Apply the display"), QStringLiteral("p"), model_.cmdApply, frames));
   auto* close = new QPushButton(tr("Close"), foot);
   close->setAutoDefault(false);
   close->setAccessibleName(close->text());

@@ -2,7 +2,9 @@
 
 #include <QAccessibleWidget>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 namespace ui {
 namespace {
@@ -45,14 +47,20 @@ QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
 DropButton::DropButton(const QString& caption, const QString& name, QWidget* parent)
     : QPushButton(parent) {
   QAccessible::installFactory(MakeAccessible);  // before Qt asks who speaks for it
-  setText(caption);
+  setText(caption + QStringLiteral(" ▾"));
   setAccessibleName(name);
 }
 
-DropPanel::DropPanel(DropButton* button, const QString& name) : QFrame(button, Qt::Popup) {
+DropPanel::DropPanel(DropButton* button, const QString& name, std::function<void()> help)
+    : QFrame(button, Qt::Popup) {
   setObjectName(QStringLiteral("DropPanel"));
   setAccessibleName(name);
   connect(button, &QPushButton::clicked, this, [this, button] { Drop(button); });
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+          [this, help = std::move(help)] {
+            close();  // what pops up keeps all keys to itself
+            help();
+          });
 }
 
 void DropPanel::Drop(const QPushButton* button) {

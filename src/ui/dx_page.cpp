@@ -17,16 +17,23 @@ namespace ui {
 namespace {
 
 constexpr int kFindWidth = 200;
-constexpr int kLeastFindWidth = 110;
+constexpr int kLeastFindWidth = 116;
 constexpr int kQueryWidth = 250;
 constexpr int kLeastQueryWidth = 180;
 constexpr int kBetweenGroups = 8;
 constexpr int kBeforeTheGap = 100;  // of the room that is left, for fields
 
+// The captions have the marks of their keys.
 QPushButton* MakeButton(const QString& caption, const QString& name, QWidget* parent) {
   auto* button = new QPushButton(caption, parent);
   button->setAccessibleName(name);
   return button;
+}
+
+std::function<void()> HelpAt(const DxPage::Acts& acts, const char* page) {
+  return [help = acts.help, page] {
+    if (help) help(page);
+  };
 }
 
 }  // namespace
@@ -60,20 +67,21 @@ void DxPage::focusInEvent(QFocusEvent* event) { spots_->setFocus(event->reason()
 
 FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frames) {
   auto* strip = new FoldRow(this);
-  AddOrder(strip, tr("Time order"), spots::kTimeOrder, models.table, frames);
-  AddOrder(strip, tr("Last hour"), spots::kLastHour, models.table, frames);
+  AddOrder(strip, tr("&Time order"), spots::kTimeOrder, models.table, frames);
+  AddOrder(strip, tr("&Last hour"), spots::kLastHour, models.table, frames);
   strip->Controls()->addSpacing(kBetweenGroups);
   AddSources(strip, models.table, frames);
   strip->Controls()->addSpacing(kBetweenGroups);
-  AddMembership(strip, models.membership, frames);
+  AddMembership(strip, models.membership, acts, frames);
   strip->Controls()->addStretch(1);
   auto* rows = new QLabel(strip);
   rows->setAccessibleName(tr("Rows in this view"));
-  BindLabel(rows, models.numbers.txtrtb2, frames);
+  BindCount(rows, models.numbers.txtrtb2, frames);
   strip->Controls()->addWidget(rows);
   AddFind(strip);
-  auto* get = new DropButton(tr("Get spots"), tr("Get spots…"), strip);
-  new GetSpotsPanel(models.requests, acts.clearSpots, frames, get);
+  auto* get = new DropButton(tr("&Get spots"), tr("Get spots…"), strip);
+  new GetSpotsPanel(models.requests, acts.clearSpots, HelpAt(acts, "dx#Spots from the node"),
+                    frames, get);
   strip->Controls()->addWidget(get);
   const auto add = [&](const QString& caption, const QString& name, std::function<void()> act) {
     QPushButton* button = MakeButton(caption, name, strip);
@@ -82,16 +90,16 @@ FoldRow* DxPage::MakeStrip(const Models& models, const Acts& acts, Frames& frame
     });
     strip->AddFolding(button);
   };
-  add(tr("Columns"), tr("Columns of the spots"), acts.columns);
-  add(tr("Spot log"), tr("Spot log"), acts.spotLog);
-  add(tr("Rejects"), tr("Spots to reject"), acts.rejects);
-  add(tr("Corrections"), tr("Corrections of spots"), acts.corrections);
+  add(tr("Col&umns…"), tr("Columns of the spots"), acts.columns);
+  add(tr("S&pot log…"), tr("Spot log"), acts.spotLog);
+  add(tr("&Rejects…"), tr("Spots to reject"), acts.rejects);
+  add(tr("Correct&ions…"), tr("Corrections of spots"), acts.corrections);
   return strip;
 }
 
-void DxPage::AddOrder(FoldRow* strip, const QString& caption, int button, spots::SpotTable& table,
+void DxPage::AddOrder(FoldRow* strip, const QString& keyed, int button, spots::SpotTable& table,
                       Frames& frames) {
-  QPushButton* widget = MakeButton(caption, caption, strip);
+  QPushButton* widget = MakeButton(keyed, QString(keyed).remove(QLatin1Char('&')), strip);
   widget->setCheckable(true);
   const auto show = [widget, button, &table](const int&) {
     widget->setChecked(table.optSortBy.Get() == button);
@@ -108,17 +116,20 @@ void DxPage::AddOrder(FoldRow* strip, const QString& caption, int button, spots:
 
 void DxPage::AddSources(FoldRow* strip, spots::SpotTable& table, Frames& frames) {
   const std::array names = {tr("Show spots that are no Skimmer's"), tr("Show Skimmer spots")};
+  const std::array keys = {"X", "S"};
   for (std::size_t i = 0; i < names.size(); ++i) {
     auto* check = new QCheckBox(strip);
     check->setAccessibleName(names[i]);
+    check->setProperty("mnemonic", QLatin1String(keys[i]));
     BindCheck(check, table.chkShSkm[i], frames);
     strip->Controls()->addWidget(check);
   }
 }
 
-void DxPage::AddMembership(FoldRow* strip, spots::Membership& model, Frames& frames) {
-  auto* lists = new DropButton(tr("LoTW/eQSL"), tr("LoTW and eQSL users…"), strip);
-  new MemberPanel(model, frames, lists);
+void DxPage::AddMembership(FoldRow* strip, spots::Membership& model, const Acts& acts,
+                           Frames& frames) {
+  auto* lists = new DropButton(tr("LoTW/e&QSL"), tr("LoTW and eQSL users…"), strip);
+  new MemberPanel(model, HelpAt(acts, "dx#LoTW and eQSL"), frames, lists);
   strip->Controls()->addWidget(lists);
   auto* query = new QLineEdit(strip);
   query->setMinimumWidth(kLeastQueryWidth);
@@ -146,7 +157,7 @@ void DxPage::AddFind(FoldRow* strip) {
   find_ = new FindField(*spots_, tell, strip);
   find_->setMinimumWidth(kLeastFindWidth);
   find_->setMaximumWidth(kFindWidth);
-  find_->setPlaceholderText(tr("Find in table  (Ctrl+F)"));
+  find_->setPlaceholderText(tr("Find  (Ctrl+F)"));
   find_->setAccessibleName(tr("Find in table"));
   strip->Controls()->addWidget(find_, kBeforeTheGap);
 }

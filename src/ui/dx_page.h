@@ -34,7 +34,8 @@ class DxPage : public QWidget {
     std::function<void(const spots::Click&)> click;
     std::function<spots::ClickKeys()> clickChoice;  // as SpotView takes it
     std::function<void()> clearSpots;
-    std::function<void()> columns;  // these open dialogs
+    std::function<void(const char* page)> help;  // at that page of the manual
+    std::function<void()> columns;               // these open dialogs
     std::function<void()> spotLog;
     std::function<void()> rejects;
     std::function<void()> corrections;
@@ -51,10 +52,10 @@ class DxPage : public QWidget {
 
  private:
   FoldRow* MakeStrip(const Models& models, const Acts& acts, Frames& frames);
-  void AddOrder(FoldRow* strip, const QString& caption, int button, spots::SpotTable& table,
+  void AddOrder(FoldRow* strip, const QString& keyed, int button, spots::SpotTable& table,
                 Frames& frames);
   void AddSources(FoldRow* strip, spots::SpotTable& table, Frames& frames);
-  void AddMembership(FoldRow* strip, spots::Membership& model, Frames& frames);
+  void AddMembership(FoldRow* strip, spots::Membership& model, const Acts& acts, Frames& frames);
   void AddFind(FoldRow* strip);
 
   SpotView* spots_;

@@ -13,6 +13,7 @@
 
 #include "platform/qt/qt_text.h"
 #include "ui/bind.h"
+#include "ui/figures.h"
 #include "ui/fonts.h"
 #include "ui/form.h"
 #include "ui/one_line.h"
@@ -79,9 +80,9 @@ FixSpotDialog::FixSpotDialog(Model model, Frames& frames, LiveTheme& theme, QWid
   fixes->setTextFormat(Qt::PlainText);
   BindProperty<std::string>(
       fixes, model.list.lblFixes.Caption, frames, [fixes](const std::string& count) {
-        fixes->setText(count.empty() ? QString() : tr("Spots corrected: %1").arg(TextOf(count)));
+        fixes->setText(count.empty() ? QString() : tr("Spots corrected: %1").arg(Grouped(count)));
       });
-  QHBoxLayout* foot = AddCloseButton(column, this);
+  QHBoxLayout* foot = AddCloseButton(column, this, QStringLiteral("C"));
   foot->insertWidget(0, result);
   foot->insertWidget(1, fixes);
   BindDialog(this, model.form.Open, frames);

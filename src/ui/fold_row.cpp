@@ -13,7 +13,7 @@ FoldRow::FoldRow(QWidget* parent)
     : QWidget(parent),
       row_(new QHBoxLayout(this)),
       controls_(new QHBoxLayout),
-      more_(new QPushButton(tr("More"), this)),
+      more_(new QPushButton(tr("Mor&e"), this)),
       menu_(new QMenu(this)) {
   row_->setContentsMargins(12, 6, 12, 6);
   row_->setSpacing(kBetween);

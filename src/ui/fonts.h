@@ -8,6 +8,7 @@
 namespace ui {
 
 inline constexpr int kUsualPixels = 13;
+inline constexpr int kClockPixels = 17;  // of the largest figures in the window
 
 // The interface's font, in its usual size.
 QFont InterfaceFont();

@@ -6,6 +6,7 @@
 #include <QStyle>
 
 #include "ui/bind.h"
+#include "ui/one_line.h"
 
 namespace ui {
 namespace {
@@ -21,9 +22,10 @@ void BindNotice(QLabel* notice, core::Label& model, Frames& frames) {
   });
 }
 
-QHBoxLayout* MakeCloseButton(QDialog* dialog) {
-  auto* close = new QPushButton(QObject::tr("Close"), dialog);
-  close->setAccessibleName(close->text());
+QHBoxLayout* MakeCloseButton(QDialog* dialog, const QString& mnemonic) {
+  const QString caption = QObject::tr("Close");
+  auto* close = new QPushButton(Marked(caption, mnemonic), dialog);
+  close->setAccessibleName(caption);
   close->setAutoDefault(false);
   QObject::connect(close, &QPushButton::clicked, dialog, &QDialog::reject);
   auto* row = new QHBoxLayout;
@@ -91,17 +93,18 @@ QPushButton* AddButton(QBoxLayout* row, const QString& name, const QString& mnem
   return button;
 }
 
-void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, Frames& frames) {
+void AddButtons(QFormLayout* form, std::initializer_list<KeyedButton> buttons, Frames& frames) {
   auto* row = new QHBoxLayout;
   row->setSpacing(8);
   row->addStretch();
-  for (core::Button* model : models) {
+  for (const KeyedButton& each : buttons) {
     auto* button = new QPushButton(form->parentWidget());
-    const bool first = model == *models.begin();
+    const bool first = &each == buttons.begin();
+    button->setProperty("mnemonic", QLatin1String(each.mnemonic));
     button->setProperty("primary", first);
     button->setDefault(first);
     button->setAutoDefault(first);
-    BindButton(button, *model, frames);
+    BindButton(button, each.model, frames);
     row->addWidget(button);
   }
   form->addRow(row);
@@ -115,14 +118,14 @@ void MakePrimary(QPushButton* button, bool primary) {
   button->style()->polish(button);
 }
 
-QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog) {
-  QHBoxLayout* row = MakeCloseButton(dialog);
+QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog, const QString& mnemonic) {
+  QHBoxLayout* row = MakeCloseButton(dialog, mnemonic);
   form->addRow(row);
   return row;
 }
 
-QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog) {
-  QHBoxLayout* row = MakeCloseButton(dialog);
+QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog, const QString& mnemonic) {
+  QHBoxLayout* row = MakeCloseButton(dialog, mnemonic);
   column->addLayout(row);
   return row;
 }

@@ -25,8 +25,13 @@ void NameByLabel(QComboBox* box, QLabel* label, const QString& name);
 // Adds the line that says what is to be put right; spoken when it changes.
 void AddProblem(QFormLayout* form, core::Label& model, Frames& frames);
 
-// Adds the buttons in their order, at the right; Return presses the first.
-void AddButtons(QFormLayout* form, std::initializer_list<core::Button*> models, Frames& frames);
+// Adds the buttons in their order, at the right, each with the letter of its key; Return presses
+// the first.
+struct KeyedButton {
+  core::Button& model;
+  const char* mnemonic;
+};
+void AddButtons(QFormLayout* form, std::initializer_list<KeyedButton> buttons, Frames& frames);
 
 // Adds a button that Return does not press; `mnemonic` is a letter of its caption.
 QPushButton* AddButton(QBoxLayout* row, const QString& name, const QString& mnemonic,
@@ -39,9 +44,9 @@ void MakePrimary(QPushButton* button, bool primary = true);
 QLabel* AddNotice(QBoxLayout* column, const QString& name, core::Label& model, Frames& frames);
 
 // Adds the foot of a dialog in which every act holds at once: a button that closes it, at the
-// right. Return does not press it.
-QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog);
-QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog);
+// right. Return does not press it. `mnemonic` is a letter of "Close".
+QHBoxLayout* AddCloseButton(QFormLayout* form, QDialog* dialog, const QString& mnemonic);
+QHBoxLayout* AddCloseButton(QBoxLayout* column, QDialog* dialog, const QString& mnemonic);
 
 // Has a dialog that is laid out come up that wide, or as wide as its controls need at this scale. A
 // least width of its own would be in force in place of what its controls need.

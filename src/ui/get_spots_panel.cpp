@@ -22,8 +22,8 @@ QString CallHint(bool usable) {
 }  // namespace
 
 GetSpotsPanel::GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear,
-                             Frames& frames, DropButton* button)
-    : DropPanel(button, tr("Get spots from the node")),
+                             std::function<void()> help, Frames& frames, DropButton* button)
+    : DropPanel(button, tr("Get spots from the node"), std::move(help)),
       requests_(requests),
       band_(new QComboBox(this)),
       call_(new QLineEdit(this)) {

@@ -14,8 +14,8 @@ namespace ui {
 class GetSpotsPanel : public DropPanel {
  public:
   // The requests outlive it. `clear` empties the table.
-  GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear, Frames& frames,
-                DropButton* button);
+  GetSpotsPanel(spots::SpotRequests& requests, std::function<void()> clear,
+                std::function<void()> help, Frames& frames, DropButton* button);
 
  private:
   void FillBands();

@@ -58,7 +58,7 @@ void LinkBar::Lay() {
   row->addWidget(clock_);
   row->addWidget(date_);
   node_->setFont(Bold(node_->font(), 13));
-  clock_->setFont(Bold(FixedFont(), 17));
+  clock_->setFont(Bold(FixedFont(), kClockPixels));
   for (QLabel* label : {software_, state_, age_, date_}) label->setProperty("dim", true);
   // What a node says is cut where it would widen the window, and the buttons stay where they are
   // while the seconds count.

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/qt/qt_text.h"
+#include "ui/fonts.h"
 
 namespace ui {
 
@@ -32,7 +33,8 @@ class LoginView::Marks : public QSyntaxHighlighter {
     const auto before = RangeOf(view_.Page().Lines()[*line], 1, start - 1);
     if (!before) return;
     QFont font = QApplication::font(&view_);
-    font.setPixelSize(view_.font().pixelSize() * 5 / 4);
+    const int text = view_.font().pixelSize();
+    font.setPixelSize(std::max(std::min(text * 5 / 4, kClockPixels), text));
     font.setWeight(QFont::DemiBold);
     setFormat(before->to, currentBlock().length(), font);
   }

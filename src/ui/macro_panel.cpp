@@ -54,6 +54,7 @@ void MacroPanel::AddButton(session::Macros& model, std::size_t index, Frames& fr
   const bool getsThem = index == 0;
   auto* button = new QPushButton(this);
   button->setAccessibleName(getsThem ? tr("Get Macros") : tr("Send macro %1").arg(index));
+  if (getsThem) button->setProperty("mnemonic", QStringLiteral("G"));
   BindButton(button, model.cmdMacro[index], frames);
   if (!getsThem) ShowWith(model.fraSendMacro, button, frames);
   grid_->addWidget(button, RowOf(index), 0);
@@ -63,7 +64,7 @@ void MacroPanel::AddField(session::Macros& model, std::size_t index, Frames& fra
   auto* field = new QLineEdit(this);
   field->setFont(FixedFont());
   field->setAccessibleName(tr("Macro %1").arg(index));
-  if (index == 0) field->setPlaceholderText(tr("Macro 0, sent with Return"));
+  field->setPlaceholderText(index == 0 ? tr("Macro 0, sent with Return") : field->accessibleName());
   BindTextBox(field, model.txtMacro[index], frames);
   ShowWith(model.fraMacros, field, frames);
   grid_->addWidget(field, RowOf(index), 1);

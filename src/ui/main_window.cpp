@@ -168,6 +168,7 @@ DxPage* MainWindow::MakeDxPage(Frames& frames, LiveTheme& theme) {
                     {.click = [this](const spots::Click& click) { Do(click); },
                      .clickChoice = {},
                      .clearSpots = [&parts] { parts.ClearSpots(); },
+                     .help = [this](const char* page) { OpenManual(page); },
                      .columns = [this] { columns_->Show(); },
                      .spotLog = [&parts] { parts.spotsForm.Show(); },
                      .rejects = [this] { rejects_->Show(); },

@@ -95,7 +95,7 @@ class Page : public QTextBrowser {
     return whole.width() > room ? whole.scaled(room, whole.height(), Qt::KeepAspectRatio) : whole;
   }
 
-  // Those in view.
+  // Those in view. On a screen with other pixels they are read again.
   void ReadPictures() {
     const QAbstractTextDocumentLayout& layout = *document()->documentLayout();
     const QRectF inView = viewport()->rect().translated(0, verticalScrollBar()->value());
@@ -109,11 +109,15 @@ class Page : public QTextBrowser {
       if (!format.isImageFormat()) continue;
       const QUrl name = format.toImageFormat().name();
       const auto here = document()->resource(QTextDocument::ImageResource, name).value<QImage>();
-      if (here.format() != kUnread) continue;
+      if (here.isNull() || IsForThisScreen(here)) continue;
       document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name),
-                              Drawn(FileOf(name), here.size()));
+                              Drawn(FileOf(name), here.size() / here.devicePixelRatio()));
       viewport()->update();
     }
+  }
+
+  bool IsForThisScreen(const QImage& picture) const {
+    return picture.format() != kUnread && picture.devicePixelRatio() == devicePixelRatioF();
   }
 
   QImage Drawn(const QString& file, const QSize& size) const {
@@ -133,7 +137,7 @@ ManualWindow::ManualWindow(QWidget* parent) : QDialog(parent) {
   auto* contents = new QPushButton(tr("&Contents"), this);
   auto* back = new QPushButton(tr("&Back"), this);
   back->setEnabled(false);
-  auto* close = new QPushButton(tr("Close"), this);
+  auto* close = new QPushButton(tr("C&lose"), this);
   text_ = new Page(this);  // behind the buttons for the Tab key
   text_->setAccessibleName(tr("Manual page"));
   text_->setOpenExternalLinks(true);

@@ -9,8 +9,9 @@
 
 namespace ui {
 
-MemberPanel::MemberPanel(spots::Membership& model, Frames& frames, DropButton* button)
-    : DropPanel(button, tr("LoTW and eQSL users")) {
+MemberPanel::MemberPanel(spots::Membership& model, std::function<void()> help, Frames& frames,
+                         DropButton* button)
+    : DropPanel(button, tr("LoTW and eQSL users"), std::move(help)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 16, 16, 16);
   column->setSpacing(8);

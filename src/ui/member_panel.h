@@ -10,7 +10,8 @@ namespace ui {
 class MemberPanel : public DropPanel {
  public:
   // The model outlives it.
-  MemberPanel(spots::Membership& model, Frames& frames, DropButton* button);
+  MemberPanel(spots::Membership& model, std::function<void()> help, Frames& frames,
+              DropButton* button);
 };
 
 }  // namespace ui

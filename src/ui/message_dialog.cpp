@@ -38,6 +38,7 @@ MessageDialog::MessageDialog(program::MessageForm& model, Frames& frames, QWidge
   text->setMinimumWidth(kWidth - 2 * kMargin);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   auto* close = new QPushButton(this);
+  close->setProperty("mnemonic", QStringLiteral("C"));
   auto* foot = new QHBoxLayout;
   foot->addStretch();
   foot->addWidget(close);

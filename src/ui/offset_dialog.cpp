@@ -25,7 +25,7 @@ OffsetDialog::OffsetDialog(program::OffsetForm& model, Frames& frames, QWidget* 
   BindProperty<bool>(hours, model.chkSystemZone.Value, frames,
                      [hours](bool system) { hours->setEnabled(!system); });
   AddProblem(form, model.lblProblem, frames);
-  AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
+  AddButtons(form, {{model.cmdOk, "O"}, {model.cmdCancel, "a"}}, frames);
   SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, model.cmdCancel, frames);
 }

@@ -89,7 +89,7 @@ RejectDialog::RejectDialog(spots::RejectForm& form, spots::RejectLists& lists,
   auto* rejected = new QLabel(this);
   rejected->setProperty("dim", true);
   BindLabel(rejected, lists.lblRejected, frames);
-  auto* foot = AddCloseButton(column, this);
+  auto* foot = AddCloseButton(column, this, QStringLiteral("l"));
   foot->insertWidget(0, rejected);
 }
 
@@ -149,9 +149,9 @@ QWidget* RejectDialog::MakeList(spots::RejectLists::Kind kind, spots::RejectForm
   grid->setSpacing(8);
   grid->addWidget(heading, 0, 0, 1, 2);
   grid->addWidget(list, 1, 0, 1, 2);
-  grid->addWidget(field, 2, 0, 1, 2);
-  grid->addWidget(add, 3, 0);
-  grid->addWidget(remove, 3, 1);
+  grid->addWidget(field, 2, 0);
+  grid->addWidget(add, 2, 1);
+  grid->addWidget(remove, 3, 0, Qt::AlignLeft);
   return group;
 }
 

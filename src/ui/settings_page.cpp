@@ -57,9 +57,9 @@ SettingsPage::SettingsPage(program::Program& program, Frames& frames, LiveTheme&
   FillKeepAlive(AddGroup(left, tr("Keep-alive")), program.session, frames);
   left->addStretch();
   QVBoxLayout* right = AddColumn();
-  FillLinking(AddGroup(right, tr("Linked copies")), program.MultiNode, frames);
   FillAppearance(AddGroup(right, tr("Appearance")), program.appearance, frames);
   AddGroup(right, tr("Macros"))->addWidget(new MacroPanel(program.session.macros, frames, page_));
+  FillLinking(AddGroup(right, tr("Linked copies")), program.MultiNode, frames);
   AddGroup(right, tr("Technical"))->addWidget(new TechnicalPanel(program, frames, page_));
   right->addStretch();
   columns_->addStretch();
@@ -109,10 +109,22 @@ void SettingsPage::AddChoice(QHBoxLayout* row, const QString& label, const QStri
   row->addWidget(box);
 }
 
-void SettingsPage::AddCheck(QVBoxLayout* group, core::Check& model, Frames& frames) {
+void SettingsPage::AddCheck(QVBoxLayout* group, core::Check& model, const char* mnemonic,
+                            Frames& frames) {
   auto* box = new QCheckBox(page_);
+  box->setProperty("mnemonic", QLatin1String(mnemonic));
   BindCheck(box, model, frames);
   group->addWidget(box);
+}
+
+QPushButton* SettingsPage::AddButton(QHBoxLayout* row, const QString& name, core::Button& model,
+                                     const char* mnemonic, Frames& frames) {
+  auto* button = new QPushButton(page_);
+  button->setAccessibleName(name);
+  button->setProperty("mnemonic", QLatin1String(mnemonic));
+  BindButton(button, model, frames);
+  row->addWidget(button);
+  return button;
 }
 
 void SettingsPage::FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Frames& frames) {
@@ -120,54 +132,44 @@ void SettingsPage::FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Fr
   who->setAccessibleName(tr("Your call, name and QTH"));
   who->setMinimumWidth(1);
   BindLabel(who, model.lblWho, frames);
-  auto* change = new QPushButton(page_);
-  change->setAccessibleName(tr("User info"));
-  BindButton(change, model.cmdOpen, frames);
   QHBoxLayout* row = AddRow(group);
   row->setSpacing(2 * kInGroup);
   row->addWidget(who);
-  row->addWidget(change);
+  first_ = AddButton(row, tr("User info"), model.cmdOpen, "U", frames);
   row->addStretch();
-  first_ = change;
 }
 
 void SettingsPage::FillConnection(QVBoxLayout* group, program::Program& program, Frames& frames) {
   QHBoxLayout* row = AddRow(group);
-  const auto add = [&](const QString& name, core::Button& model) {
-    auto* button = new QPushButton(page_);
-    button->setAccessibleName(name);
-    BindButton(button, model, frames);
-    row->addWidget(button);
-  };
-  add(tr("Connection: telnet or TNC, and serial ports"), program.commForm.cmdOpen);
-  add(tr("TNC: the way to the cluster"), program.tncForm.cmdOpen);
+  AddButton(row, tr("Connection: telnet or TNC, and serial ports"), program.commForm.cmdOpen, "i",
+            frames);
+  AddButton(row, tr("TNC: the way to the cluster"), program.tncForm.cmdOpen, "T", frames);
   row->addStretch();
 }
 
 void SettingsPage::FillStart(QVBoxLayout* group, program::StartOptions& model, Frames& frames) {
-  for (core::Check* each : {&model.AutoStart, &model.ChkAskSettings, &model.AutoFilter,
-                            &model.GetMissedOnes, &model.DontAsk})
-    AddCheck(group, *each, frames);
+  AddCheck(group, model.AutoStart, "p", frames);
+  AddCheck(group, model.ChkAskSettings, "s", frames);
+  AddCheck(group, model.AutoFilter, "k", frames);
+  AddCheck(group, model.GetMissedOnes, "l", frames);
+  AddCheck(group, model.DontAsk, "w", frames);
 }
 
 void SettingsPage::FillKeepAlive(QVBoxLayout* group, session::Session& session, Frames& frames) {
   session::KeepAlivePanel& model = session.keepAlivePanel;
   QHBoxLayout* row = AddRow(group);
   AddChoice(row, tr("&Minutes"), tr("Keep-alive minutes, 0 is off"), model.optKA, frames);
-  AddChoice(row, tr("&Watch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
+  AddChoice(row, tr("W&atch"), tr("Keep-alive watches what is sent, Tx, or received, Rx"),
             model.optDirection, frames);
   AddChoice(row, tr("St&ored for"), tr("Keep-alive is stored for Telnet or TNC"), model.optMode,
             frames);
-  auto* apply = new QPushButton(page_);
-  apply->setAccessibleName(tr("Apply keep-alive"));
-  BindButton(apply, model.cmdExit, frames);
-  row->addWidget(apply);
+  AddButton(row, tr("Apply keep-alive"), model.cmdExit, "y", frames);
   row->addStretch();
-  AddCheck(group, session.connection.AutoReconnect, frames);
+  AddCheck(group, session.connection.AutoReconnect, "R", frames);
 }
 
 void SettingsPage::FillLinking(QVBoxLayout* group, core::Check& model, Frames& frames) {
-  auto* box = new QCheckBox(tr("Enable Linking"), page_);
+  auto* box = new QCheckBox(tr("Ena&ble Linking"), page_);
   box->setAccessibleName(tr("Enable Linking of two running copies"));
   BindTick(box, model, frames);
   auto* which = new QLabel(page_);
@@ -187,7 +189,7 @@ void SettingsPage::FillLinking(QVBoxLayout* group, core::Check& model, Frames& f
 
 void SettingsPage::FillAppearance(QVBoxLayout* group, program::Appearance& model, Frames& frames) {
   QHBoxLayout* row = AddRow(group);
-  AddChoice(row, tr("&Theme"), tr("Theme: as the system has it, light or dark"), model.optTheme,
+  AddChoice(row, tr("Th&eme"), tr("Theme: as the system has it, light or dark"), model.optTheme,
             frames);
   row->addStretch();
 }

@@ -11,8 +11,8 @@
 namespace ui {
 
 // The page of the first tab: who the operator is, what the program does by itself, how the link is
-// kept alive, the macros, how the window looks, and the figures of the link. In a low window it
-// scrolls.
+// kept alive, how the window looks, the macros, the other copy of the program, and the figures of
+// the link. In a low window it scrolls.
 class SettingsPage : public QScrollArea {
  public:
   SettingsPage(program::Program& program, Frames& frames, LiveTheme& theme, QWidget* parent);
@@ -28,7 +28,10 @@ class SettingsPage : public QScrollArea {
   QVBoxLayout* AddGroup(QVBoxLayout* column, const QString& heading);
   void AddChoice(QHBoxLayout* row, const QString& label, const QString& name, core::Choice& model,
                  Frames& frames);
-  void AddCheck(QVBoxLayout* group, core::Check& model, Frames& frames);
+  // `mnemonic` is a letter of its caption; so in what follows.
+  void AddCheck(QVBoxLayout* group, core::Check& model, const char* mnemonic, Frames& frames);
+  QPushButton* AddButton(QHBoxLayout* row, const QString& name, core::Button& model,
+                         const char* mnemonic, Frames& frames);
 
   void FillUserInfo(QVBoxLayout* group, program::UserInfo& model, Frames& frames);
   void FillConnection(QVBoxLayout* group, program::Program& program, Frames& frames);

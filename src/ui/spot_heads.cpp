@@ -16,6 +16,7 @@ using spots::Column;
 using Press = spots::SpotTable::Press;
 
 constexpr const char* kLastHourSays = QT_TR_NOOP("the last hour, each station once a band");
+constexpr core::Position kLongestRow = 300;
 constexpr int kBetween = 4;  // pixels at least, from a caption to the next head
 
 struct Name {
@@ -94,8 +95,7 @@ class SpotHead : public QAbstractButton {
     if (!IsActive()) return text();
     const QString arrow = IsReversed() ? QStringLiteral("↑") : QStringLiteral("↓");
     const QString airy = text() + QLatin1Char(' ') + arrow;
-    const bool fits = WidthOf(airy) <= heads_.painter_.WidthOf(model_.width + 1);
-    return fits ? airy : text() + arrow;
+    return WidthOf(airy) + kBetween <= heads_.RoomOf(model_) ? airy : text() + arrow;
   }
   QFont Font() const {
     QFont font = InterfaceFont();
@@ -202,6 +202,19 @@ void SpotHeads::Place(int scrolled) {
     if (head->IsActive()) head->raise();
   }
   update();
+}
+
+// A caption at the end of its column grows to the left, over the gap between the two.
+int SpotHeads::RoomOf(const spots::SortButton& button) const {
+  if (button.atEnd) return painter_.WidthOf(button.width + 1) + kBetween;
+  core::Position next = button.column + kLongestRow;
+  const auto isNext = [&](core::Position column) {
+    if (column > button.column) next = std::min(next, column);
+  };
+  for (const SpotHead* head : heads_) isNext(head->model().column);
+  for (const Plain& plain : kPlain)
+    if (display_.Layout().Shows(plain.column)) isNext(display_.Layout().Start(plain.column));
+  return painter_.WidthOf(next - button.column);
 }
 
 void SpotHeads::Press(int button, spots::SpotTable::Press press) {

@@ -37,6 +37,8 @@ class SpotHeads : public QWidget {
   friend class SpotHead;
 
   void MakeHeads();
+  // In pixels, for its caption: up to the next one.
+  int RoomOf(const spots::SortButton& button) const;
   void Press(int button, spots::SpotTable::Press press);
   void Go(const SpotHead* from, int steps);
   // The one head that the Tab key reaches, from the rows.

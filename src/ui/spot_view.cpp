@@ -6,6 +6,7 @@
 #include "platform/qt/qt_text.h"
 #include "spots/row_layout.h"
 #include "ui/bind.h"
+#include "ui/figures.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
 #include "ui/spot_view_accessible.h"
@@ -181,13 +182,19 @@ void SpotView::ChangeFont() {
 void SpotView::SetRanges() {
   const int height = static_cast<int>(rows_.Rows().size()) * painter_.RowHeight();
   verticalScrollBar()->setSingleStep(painter_.RowHeight());
-  verticalScrollBar()->setPageStep(viewport()->height());
-  verticalScrollBar()->setRange(0, std::max(height - viewport()->height(), 0));
+  verticalScrollBar()->setPageStep(RowsInSight() * painter_.RowHeight());
+  verticalScrollBar()->setRange(0, WholeRows(std::max(height - viewport()->height(), 0)));
   const int width =
       painter_.ColumnAt(std::min(static_cast<core::Position>(widest_), kLongestShown)) + kFromEdge;
   horizontalScrollBar()->setSingleStep(painter_.RowHeight());
   horizontalScrollBar()->setPageStep(viewport()->width());
   horizontalScrollBar()->setRange(0, std::max(width - viewport()->width(), 0));
+}
+
+// At the end as well the first row in sight is whole: what is too little for one stays empty below.
+int SpotView::WholeRows(int pixels) const {
+  const int row = painter_.RowHeight();
+  return (pixels + row - 1) / row * row;
 }
 
 void SpotView::GoToEnd() {
@@ -203,7 +210,7 @@ void SpotView::CountBelow(std::size_t spots) {
   newBelow_ = std::min(spots, rows_.Rows().size());
   below_->setVisible(newBelow_ > 0);
   if (newBelow_ == 0) return;
-  below_->setText(tr("%1 new below").arg(newBelow_));
+  below_->setText(tr("%1 new below").arg(Grouped(newBelow_)));
   PlaceBelow();
 }
 

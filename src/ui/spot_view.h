@@ -99,6 +99,8 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   void ShowHeads(bool on);
   void Measure(Number first);
   void SetRanges();
+  // As many pixels, or more: up to the height of a row's multiple.
+  int WholeRows(int pixels) const;
   void GoToEnd();
   bool AtEnd() const;
   void CountBelow(std::size_t spots);

@@ -68,7 +68,7 @@ void SpotView::BringInSight(Number row) {
   QScrollBar* bar = verticalScrollBar();
   if (place.top() < 0) bar->setValue(bar->value() + place.top());
   const int below = place.bottom() + 1 - viewport()->height();
-  if (below > 0) bar->setValue(bar->value() + below);
+  if (below > 0) bar->setValue(WholeRows(bar->value() + below));
 }
 
 QString SpotView::Shown(Number row) const { return OneLine(rows_.Row(row).Text(), kLongestShown); }

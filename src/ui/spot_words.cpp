@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include "spots/row_parts.h"
+#include "ui/figures.h"
 #include "ui/one_line.h"
 
 namespace ui {
@@ -29,7 +30,7 @@ QString SpokenTime(std::string_view time) {
 
 QString NewSince(const spots::TableRow& stars, std::size_t spotsBehind) {
   return QObject::tr("%1 new since %2:%3")
-      .arg(spotsBehind)
+      .arg(Grouped(spotsBehind))
       .arg(stars.Minute() / 60, 2, 10, QLatin1Char('0'))
       .arg(stars.Minute() % 60, 2, 10, QLatin1Char('0'));
 }

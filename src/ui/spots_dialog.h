@@ -14,9 +14,18 @@ class SpotsDialog : public QDialog {
   SpotsDialog(spots::SpotsForm& model, Frames& frames, QWidget* parent);
 
  private:
+  // A number: its label with the mark of its key, its name, how many digits it may have, and what
+  // is counted.
+  struct Number {
+    QString label;
+    QString name;
+    int digits;
+    QString unit;
+  };
+
   // `key` is a letter of the caption.
   void AddCheck(QFormLayout* form, core::Check& model, const char* key, Frames& frames);
-  void AddNumber(QFormLayout* form, core::TextBox& model, const char* key, Frames& frames);
+  void AddNumber(QFormLayout* form, core::TextBox& model, const Number& number, Frames& frames);
   void AddMemory(QFormLayout* form, spots::SpotsForm& model, Frames& frames);
   void AddReload(QFormLayout* form, spots::SpotsForm& model, Frames& frames);
 };

@@ -68,14 +68,14 @@ void TechnicalPanel::AddFigure(const QString& name, core::Label& model, Frames& 
   row->addWidget(figure);
   row->addStretch();
   column_->addLayout(row);
-  BindLabel(figure, model, frames);
+  BindCount(figure, model, frames);
   HideWhileEmpty(figure, model, frames);
   HideWhileEmpty(words, model, frames);
 }
 
 void TechnicalPanel::AddDebugging(core::Check& model, Frames& frames) {
-  auto* box = new QCheckBox(tr("Tell of each failure at once, from the next start on"), this);
-  box->setAccessibleName(box->text());
+  auto* box = new QCheckBox(tr("Tell of each failure at once, from the ne&xt start on"), this);
+  box->setAccessibleName(tr("Tell of each failure at once, from the next start on"));
   BindTick(box, model, frames);
   column_->addSpacing(4);
   column_->addWidget(box);

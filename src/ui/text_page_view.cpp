@@ -9,7 +9,8 @@
 namespace ui {
 namespace {
 
-constexpr int kMargin = 8;  // besides the document's own 4
+constexpr int kMargin = 8;     // besides the document's own 4
+constexpr int kTopMargin = 4;  // the document's own scrolls away
 
 // A line of megabytes is no use to a reader, and laying it out would hold up the window.
 constexpr core::Position kLongestShown = 4000;
@@ -24,7 +25,7 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
   setUndoRedoEnabled(false);
   setFont(FixedFont());
   setFrameShape(QFrame::NoFrame);
-  setViewportMargins(kMargin, 0, 0, 0);
+  setViewportMargins(kMargin, kTopMargin, 0, 0);
   item_ = frames.Add([this] { Refresh(); });
   observing_ = page_.Observe([this](const core::TextPage::Change& change) { Collect(change); });
 }

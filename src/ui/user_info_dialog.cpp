@@ -32,7 +32,7 @@ UserInfoDialog::UserInfoDialog(program::UserInfo& model, Frames& frames, QWidget
   AddField(form, tr("Node &password"), model.txtPassword, frames)->setEchoMode(QLineEdit::Password);
   AddZone(form, model, frames);
   AddProblem(form, model.lblProblem, frames);
-  AddButtons(form, {&model.cmdOk, &model.cmdCancel}, frames);
+  AddButtons(form, {{model.cmdOk, "O"}, {model.cmdCancel, "a"}}, frames);
   SetUsualWidth(this, kWidth);
   BindDialog(this, model.Open, model.cmdCancel, frames);
 }

@@ -18,8 +18,8 @@ struct DialogRow {
   const char* page = "";     // of the manual, by F1; with the heading behind "#"
   const char* primary = "";  // the button that Return presses
   const char* closes = "Close";
-  // Controls without an Alt key or a label of their own: what their names begin with. They stand
-  // beside one that has it, and keys of another kind do what they do.
+  // Controls without an Alt key or a label of their own: what their names begin with. Their letters
+  // are all taken, or they stand beside one that has it; keys of another kind do what they do.
   std::vector<const char*> together = {};
 };
 

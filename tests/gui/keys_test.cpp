@@ -1,7 +1,5 @@
 #include <QApplication>
 #include <QShortcut>
-#include <QTreeWidget>
-#include <algorithm>
 #include <set>
 
 #include "gui/desk.h"
@@ -135,23 +133,7 @@ TEST_F(KeysTest, EscapeReturnsToTheSpots) {
   }
 }
 
-TEST_F(KeysTest, AllKeysAreListedAndTheListHoldsNothingUp) {
-  Press(Qt::Key_Question, Qt::ControlModifier);
-  Run(200ms);
-  auto* list = Named<QTreeWidget>(*window, "Keys and what they do");
-  ASSERT_TRUE(list->isVisible());
-  EXPECT_FALSE(list->window()->isModal());
-  QStringList names;
-  for (int row = 0; row < list->topLevelItemCount(); ++row)
-    names << list->topLevelItem(row)->text(0);
-  EXPECT_THAT(names, Contains(QString("Ctrl+L")));
-  EXPECT_THAT(names, Contains(QString("Alt+-")));
-  EXPECT_EQ(names.size(), std::ranges::count_if(ui::Commands(), &ui::Command::HasKey));
-  QTest::keyClick(list, Qt::Key_Escape);
-  EXPECT_FALSE(list->isVisible());
-}
-
-TEST_F(KeysTest, EveryKeyOfTheListIsAShortcutOfItsOwn) {
+TEST_F(KeysTest, EveryCommandsKeyIsAShortcutOfItsOwn) {
   std::set<QString> all;
   for (const QShortcut* each :
        window->findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly))

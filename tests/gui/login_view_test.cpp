@@ -225,16 +225,24 @@ TEST_F(LoginViewTest, WithTheSessionTheLinksEndAndTheTextStays) {
   EXPECT_THAT(LinesOf(View()), Contains(QString(" See http://a.org")));
 }
 
-TEST_F(LoginViewTest, AHeadingIsLargerThanTheTextAroundItAndGrowsWithIt) {
+TEST_F(LoginViewTest, AHeadingIsLargerThanTheTextAroundItAndGrowsWithItUpToTheClock) {
   Say({"*.  News of http://a.org", "the text below"});
   EXPECT_EQ(SizeOf("News of "), 16);
   EXPECT_EQ(SizeOf("http://a.org"), 16) << "a link in it as well";
   EXPECT_THAT(Underlined(), ElementsAre("http://a.org"));
   EXPECT_TRUE(FormatOf(" the text below").isEmpty()) << "which is as the view has it";
   View().setFocus();
-  for (int step = 0; step < 3; ++step) Press(Qt::Key_Plus, Qt::ControlModifier);
-  Run(200ms);
-  EXPECT_EQ(SizeOf("News of "), 20);
+  const int clock = Named(*window, "Time in UTC")->font().pixelSize();
+  const auto enlarge = [this](int steps) {
+    for (; steps > 0; --steps) Press(Qt::Key_Plus, Qt::ControlModifier);
+    Run(200ms);
+  };
+  enlarge(1);
+  EXPECT_EQ(SizeOf("News of "), 17);
+  enlarge(2);
+  EXPECT_EQ(SizeOf("News of "), clock);
+  enlarge(3);
+  EXPECT_EQ(SizeOf("News of "), 19) << "no smaller than the text, which is the user's choice";
 }
 
 TEST_F(LoginViewTest, LinksFollowTheTheme) {

@@ -44,7 +44,7 @@ TEST_F(MenusTest, EachEntryShowsItsKey) {
   EXPECT_EQ(KeyOf(Entry("View", "Larger text")), "Ctrl++");
   EXPECT_EQ(KeyOf(Entry("Connection", "Connect")), "F5");
   EXPECT_EQ(KeyOf(Entry("Connection", "Disconnect")), "F5");
-  EXPECT_EQ(KeyOf(Entry("Configuration", "Columns...")), "");
+  EXPECT_EQ(KeyOf(Entry("Configuration", "Columns…")), "");
 }
 
 TEST_F(MenusTest, NoTwoEntriesOfAMenuHaveTheSameMnemonic) {
@@ -71,17 +71,17 @@ TEST_F(MenusTest, ConnectAndDisconnectAreThereByTurns) {
 }
 
 TEST_F(MenusTest, TheWayToTheClusterIsTickedAndTheOtherIsChosen) {
-  EXPECT_TRUE(Entry("Connection", "Cluster by telnet...").isChecked());
+  EXPECT_TRUE(Entry("Connection", "Cluster by telnet…").isChecked());
   EXPECT_FALSE(Entry("Connection", "Cluster by radio").isChecked());
   Entry("Connection", "Cluster by radio").trigger();
   Run(200ms);
-  EXPECT_FALSE(Entry("Connection", "Cluster by telnet...").isChecked());
+  EXPECT_FALSE(Entry("Connection", "Cluster by telnet…").isChecked());
   EXPECT_TRUE(Entry("Connection", "Cluster by radio").isChecked());
   EXPECT_TRUE(program->session.tncLink.lblTnc.Visible.Get());
 }
 
 TEST_F(MenusTest, ChoosingRadioShowsInTheOpenFormOfTheConnection) {
-  Entry("Connection", "Telnet or TNC, and ports...").trigger();
+  Entry("Connection", "Telnet or TNC, and ports…").trigger();
   EXPECT_EQ(program->commForm.optMode.Selected.Get(), session::CommForm::Telnet);
   Entry("Connection", "Cluster by radio").trigger();
   Run(200ms);
@@ -116,18 +116,18 @@ TEST_F(MenusTest, TheCorrectionOfFilterErrorsIsSwitched) {
 }
 
 TEST_F(MenusTest, DialogsAreOpenedWithoutHoldingAnythingUp) {
-  for (const auto& [menu, entry] : std::vector<std::pair<const char*, const char*>>{
-           {"Connection", "Nodes..."},
-           {"Connection", "Cluster by telnet..."},
-           {"Connection", "Cluster by radio"},
-           {"Connection", "Telnet or TNC, and ports..."},
-           {"Connection", "Script for the TNC..."},
-           {"Configuration", "User information..."},
-           {"Configuration", "Columns..."},
-           {"Configuration", "Spot log..."},
-           {"Configuration", "Rejects..."},
-           {"Configuration", "Colours and fonts..."},
-           {"Configuration", "Corrections..."}}) {
+  for (const auto& [menu, entry] :
+       std::vector<std::pair<const char*, const char*>>{{"Connection", "Nodes…"},
+                                                        {"Connection", "Cluster by telnet…"},
+                                                        {"Connection", "Cluster by radio"},
+                                                        {"Connection", "Telnet or TNC, and ports…"},
+                                                        {"Connection", "Script for the TNC…"},
+                                                        {"Configuration", "User information…"},
+                                                        {"Configuration", "Columns…"},
+                                                        {"Configuration", "Spot log…"},
+                                                        {"Configuration", "Rejects…"},
+                                                        {"Configuration", "Colours and fonts…"},
+                                                        {"Configuration", "Corrections…"}}) {
     Entry(menu, entry).trigger();
     Run(200ms);
     QDialog* open = nullptr;

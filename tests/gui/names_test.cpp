@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QLabel>
+#include <algorithm>
 #include <map>
 
 #include "gui/desk.h"
@@ -89,6 +90,28 @@ TEST_F(NamesTest, EachPageIsUsedByKeysAlone) {
       EXPECT_TRUE(ComesBefore(*round[i - 1], *round[i]))
           << round[i - 1]->accessibleName().toStdString() << ", then "
           << round[i]->accessibleName().toStdString();
+  }
+}
+
+TEST_F(NamesTest, EachControlOfAPageHasAKey) {
+  Open();
+  LogIn();
+  window->resize(1280, 800);
+  // They have keys of another kind, or stand where there may be no room.
+  const QStringList others = {"Command to the node", "Maximize", "Disconnect", "Nodes",
+                              "Find in table",       "Answer",   "Spots",      "Sort by",
+                              "Bands of the spots",  "Raw view"};
+  for (const int tab : {program::Views::Settings, program::Views::Dx}) {
+    Tabs().setCurrentIndex(tab);
+    Run(200ms);
+    int keyed = 0;
+    for (const Control& each : ControlsIn(*window)) {
+      const auto begins = [&](const QString& name) { return each.name.startsWith(name); };
+      if (std::ranges::any_of(others, begins) || each.widget == &Tabs()) continue;
+      EXPECT_TRUE(HasKey(*each.widget)) << each.name.toStdString();
+      ++keyed;
+    }
+    EXPECT_GT(keyed, 8);
   }
 }
 

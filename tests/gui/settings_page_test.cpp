@@ -157,14 +157,30 @@ TEST_F(SettingsPageTest, DebuggingIsForTheNextStart) {
 
 TEST_F(SettingsPageTest, TheBoxOfLinkedCopiesSaysWhichOneThisIs) {
   QCheckBox& box = Box("Enable Linking of two running copies");
-  EXPECT_EQ(box.text(), "Enable Linking");
+  EXPECT_EQ(box.text().remove('&'), "Enable Linking");
   EXPECT_EQ(Text("This copy is"), "");
   box.click();
   Run(200ms);
   EXPECT_TRUE(program->settings.Linking);
-  EXPECT_EQ(box.text(), "Enable Linking");
+  EXPECT_EQ(box.text().remove('&'), "Enable Linking");
   EXPECT_EQ(Text("This copy is"), "Primary - ");
   EXPECT_TRUE(window->windowTitle().startsWith("Primary - Molva Desk"));
+}
+
+TEST_F(SettingsPageTest, AnEmptyFieldSaysWhichMacroItIs) {
+  for (int i = 1; i < 10; ++i) {
+    const std::string name = "Macro " + std::to_string(i);
+    EXPECT_EQ(Field(name.c_str()).placeholderText().toStdString(), name);
+  }
+}
+
+TEST_F(SettingsPageTest, WhatEachOperatorWantsStandsAboveWhatFewDo) {
+  const auto top = [this](const char* name) {
+    return Named(*window, name)->mapTo(Page().widget(), QPoint(0, 0)).y();
+  };
+  EXPECT_LT(top("Theme: as the system has it, light or dark"), top("Get Macros"));
+  EXPECT_LT(top("Get Macros"), top("Enable Linking of two running copies"));
+  EXPECT_LT(top("Enable Linking of two running copies"), top("Inactivity"));
 }
 
 TEST_F(SettingsPageTest, ScrollsInALowWindowAndNeverSideways) {

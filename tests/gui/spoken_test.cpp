@@ -121,7 +121,7 @@ TEST_F(SpokenTest, AViewIsChosenByItsTab) {
 }
 
 TEST_F(SpokenTest, TheUserIsEntered) {
-  QAccessibleInterface* dialog = Opened("User information...", "User information");
+  QAccessibleInterface* dialog = Opened("User information…", "User information");
   Enter(dialog, "Call", "W1NEW");
   Enter(dialog, "Name", "BOB");
   Press(dialog, "OK");
@@ -130,7 +130,7 @@ TEST_F(SpokenTest, TheUserIsEntered) {
 }
 
 TEST_F(SpokenTest, ANodeIsAddedFoundAndUsed) {
-  QAccessibleInterface* dialog = Opened("Nodes...", "Nodes");
+  QAccessibleInterface* dialog = Opened("Nodes…", "Nodes");
   Enter(dialog, "Call of the node", "W1NEW");
   Enter(dialog, "Host of the node", "new.example");
   Enter(dialog, "Port of the node", "7300");
@@ -143,7 +143,7 @@ TEST_F(SpokenTest, ANodeIsAddedFoundAndUsed) {
 }
 
 TEST_F(SpokenTest, ACallIsRejectedAndShownAgain) {
-  QAccessibleInterface* dialog = Opened("Rejects...", "Reject spots");
+  QAccessibleInterface* dialog = Opened("Rejects…", "Reject spots");
   Enter(dialog, "To be rejected: DX call", "k1*");
   Press(dialog, "Add DX call");
   QAccessibleInterface* list = Spoken(dialog, "Rejected: DX calls");
@@ -170,7 +170,7 @@ TEST_F(SpokenTest, WhatAButtonDropsIsAPartOfItWhileItIsThere) {
 }
 
 TEST_F(SpokenTest, ColumnsAreChosen) {
-  QAccessibleInterface* dialog = Opened("Columns...", "DX Spots");
+  QAccessibleInterface* dialog = Opened("Columns…", "DX Spots");
   Turn(dialog, "Expanded display");
   Turn(dialog, "Bearing");
   Press(dialog, "Apply the display");
@@ -186,7 +186,7 @@ TEST_F(SpokenTest, ABandIsChosen) {
 }
 
 TEST_F(SpokenTest, ACorrectionIsAdded) {
-  QAccessibleInterface* dialog = Opened("Corrections...", "Fix Spots");
+  QAccessibleInterface* dialog = Opened("Corrections…", "Fix Spots");
   Enter(dialog, "Call of the correction", "k1abc");
   Enter(dialog, "Country of the correction", "KH6");
   Press(dialog, "Add the correction");
@@ -195,7 +195,7 @@ TEST_F(SpokenTest, ACorrectionIsAdded) {
 
 TEST_F(SpokenTest, TheLogOfSpotsIsSwitchedAndItsLengthSet) {
   const bool before = program->spotParts.spotsForm.chkSave.Value.Get();
-  QAccessibleInterface* dialog = Opened("Spot log...", "Dx Spot Log File ");
+  QAccessibleInterface* dialog = Opened("Spot log…", "Dx Spot Log File ");
   Turn(dialog, "Save Dx Spots To Log File");
   Enter(dialog, "Number of days to keep", "12");
   Press(dialog, "Close");
@@ -204,7 +204,7 @@ TEST_F(SpokenTest, TheLogOfSpotsIsSwitchedAndItsLengthSet) {
 }
 
 TEST_F(SpokenTest, AScriptForTheTncIsEntered) {
-  QAccessibleInterface* dialog = Opened("Script for the TNC...", "TNC");
+  QAccessibleInterface* dialog = Opened("Script for the TNC…", "TNC");
   Enter(dialog, "Step 1, connect string", "C N0NODE");
   Enter(dialog, "Step 1, time out in seconds", "30");
   Press(dialog, "Save the script");

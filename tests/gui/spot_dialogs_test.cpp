@@ -86,6 +86,20 @@ TEST_F(SpotDialogsTest, InvalidCountrySaysThatItRejectsNothingYet) {
   EXPECT_TRUE(says);
 }
 
+TEST_F(SpotDialogsTest, AddStandsBesideItsFieldAndNoButtonIsStretched) {
+  QDialog& dialog = Opened("Spots to reject", "Reject spots");
+  for (const char* each : {"DX call", "spotter or node", "word in comments"}) {
+    const auto named = [each](const char* before) { return std::string(before) + each; };
+    const auto& field = *Named<QLineEdit>(dialog, named("To be rejected: ").c_str());
+    const auto& add = *Named<QPushButton>(dialog, named("Add ").c_str());
+    EXPECT_NEAR(add.geometry().center().y(), field.geometry().center().y(), 1) << each;
+    EXPECT_GT(add.x(), field.geometry().right()) << each;
+    for (const QPushButton* button : {&add, static_cast<const QPushButton*>(Named<QPushButton>(
+                                                dialog, named("Delete ").c_str()))})
+      EXPECT_LE(button->width(), button->sizeHint().width()) << each;
+  }
+}
+
 // The spot log.
 
 TEST_F(SpotDialogsTest, TheSpotLogsNumbersCountWhenItIsClosed) {
@@ -98,6 +112,27 @@ TEST_F(SpotDialogsTest, TheSpotLogsNumbersCountWhenItIsClosed) {
   Run(200ms);
   EXPECT_EQ(program->settings.KeepSpotsDays, 12);
   EXPECT_EQ(program->settings.SpotMemorySingle, 55);
+}
+
+TEST_F(SpotDialogsTest, TheSpotLogsFieldsAreAsWideAsTheirNumbersAndTellTheirUnits) {
+  QDialog& dialog = Opened("Spot log", "Dx Spot Log File ");
+  const auto check = [&](const char* name, int digits, const QString& unit) {
+    const auto& field = *Named<QLineEdit>(dialog, name);
+    const int needed =
+        field.fontMetrics().horizontalAdvance(QString(digits, '8')) + 2 * 8 + 2;  // the padding
+    EXPECT_EQ(field.maxLength(), digits) << name;
+    EXPECT_GE(field.width(), needed) << name;
+    EXPECT_LE(field.width(), needed + 16) << name;
+    bool told = false;
+    for (const QLabel* each : dialog.findChildren<QLabel*>())
+      told = told || (each->text() == unit && each->x() > field.geometry().right() &&
+                      std::abs(each->geometry().center().y() - field.geometry().center().y()) <= 1);
+    EXPECT_TRUE(told) << name;
+  };
+  check("Number of days to keep", 4, "days");
+  check("Number of hours to reload", 4, "hours");
+  check("Max spots displayed, all bands together", 6, "spots");
+  check("Max spots displayed, each band", 6, "spots");
 }
 
 TEST_F(SpotDialogsTest, StopHasNothingToDoWithoutAReload) {

@@ -28,6 +28,15 @@ class SpotHeadsTest : public SpotStage {
     display.cmdApply.Press();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
+  // Where the caption of a head ends as it is drawn.
+  int EndOf(const QWidget& head) {
+    const QImage heads = view.Heads()->grab().toImage();
+    int end = head.x();
+    for (int x = head.x(); x <= head.geometry().right(); ++x)
+      for (int y = 2; y < heads.height() - 4; ++y)
+        if (heads.pixelColor(x, y) != heads.pixelColor(x, 1)) end = x;
+    return end;
+  }
 };
 
 TEST_F(SpotHeadsTest, AClickSortsByTheColumn) {
@@ -37,6 +46,19 @@ TEST_F(SpotHeadsTest, AClickSortsByTheColumn) {
   EXPECT_THAT(Calls(), ElementsAre("K1AAA", "K2BBB", "K3CCC"));
   Click("Sort by time");
   EXPECT_THAT(Calls(), ElementsAre("K2BBB", "K3CCC", "K1AAA"));
+}
+
+TEST_F(SpotHeadsTest, TheArrowOfTheOrderKeepsClearOfTheNextHead) {
+  Show({});
+  Click("Sort by time");
+  EXPECT_LT(EndOf(Head("Sort by time")), Head("Sort by DX call").x() - 5);
+}
+
+TEST_F(SpotHeadsTest, WhereNothingFollowsTheArrowStandsOffItsCaption) {
+  Click("Sort by time");
+  const int alone = EndOf(Head("Sort by time")) - Head("Sort by time").x();
+  Show({});
+  EXPECT_GT(alone, EndOf(Head("Sort by time")) - Head("Sort by time").x());
 }
 
 TEST_F(SpotHeadsTest, TheMiddleButtonShowsTheRowsFromTheirEnd) {

@@ -92,7 +92,7 @@ TEST_F(SpotStripTest, StaysOneLineHighAndWhatHasNoRoomStandsInAMenu) {
   ASSERT_TRUE(Button("More of the spots' page").isVisible());
   Click("More of the spots' page");
   auto& menu = *strip.findChild<QMenu*>();
-  ASSERT_EQ(menu.actions().last()->text(), "Corrections");
+  ASSERT_EQ(menu.actions().last()->text().remove('&'), "Corrections…");
   menu.setActiveAction(menu.actions().last());
   QTest::keyClick(&menu, Qt::Key_Return);
   Run(200ms);
@@ -108,6 +108,17 @@ TEST_F(SpotStripTest, CtrlClickOnACallAsksForItsSunTimes) {
   Press(Qt::Key_Return, Qt::ControlModifier);
   Run(200ms);
   EXPECT_THAT(node.Heard(), Contains("SH/SUN 3Y0J"));
+}
+
+TEST_F(SpotStripTest, TheFieldToFindInSaysSoInFull) {
+  const auto& field = *Named<QLineEdit>(*window, "Find in table");
+  for (const int width : {1280, 1024}) {
+    window->resize(width, 700);
+    Run(200ms);
+    EXPECT_LE(field.fontMetrics().horizontalAdvance(field.placeholderText()) + 2 * 8 + 2,
+              field.width())
+        << width;
+  }
 }
 
 }  // namespace

@@ -95,6 +95,32 @@ TEST_F(SpotViewTest, ARowIsFivePixelsHigherThanItsFont) {
   }
 }
 
+TEST_F(SpotViewTest, TheFirstRowInSightIsWholeAtTheEndWhateverTheHeight) {
+  Add(100);
+  for (int height = 280; height < 330; height += 3) {
+    view.resize(800, height);
+    Add(1);
+    Run();
+    ASSERT_TRUE(AtEnd());
+    EXPECT_EQ(Bar().value() % RowHeight(), 0) << height;
+    const QRect lastRow = view.PlaceOf(view.Rows().End() - 1);
+    const int below = view.viewport()->height() - lastRow.bottom() - 1;
+    EXPECT_TRUE(below >= 0 && below < RowHeight()) << height << ": " << below;
+  }
+}
+
+TEST_F(SpotViewTest, SoItIsWhereKeysHaveLedTheReader) {
+  Add(100);
+  Run();
+  Bar().setValue(0);
+  QTest::keyClick(&view, Qt::Key_Down);
+  for (int step = 0; step < 30; ++step) {
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(Bar().value() % RowHeight(), 0) << step;
+  }
+  EXPECT_GT(Bar().value(), 0);
+}
+
 TEST_F(SpotViewTest, AnEmptyTableSaysWhatItWaitsFor) {
   empty.Caption.Set("Not connected.");
   Run();

@@ -57,6 +57,13 @@ class TextPageViewTest : public ::testing::Test {
   std::set<Milliseconds> repaintedAt;
 };
 
+TEST_F(TextPageViewTest, TheFirstLineInSightKeepsClearOfTheEdgeThoughThePageIsScrolled) {
+  Add(300);
+  Run(200ms);
+  ASSERT_TRUE(IsAtEnd(view));
+  EXPECT_GE(view.viewport()->y(), 4);
+}
+
 TEST_F(TextPageViewTest, ShowsThePageWithTheNextFrame) {
   Add(3);
   EXPECT_EQ(LinesOf(view), QStringList({""}));

@@ -120,6 +120,30 @@ TEST_F(SpotsFormTest, NumbersThatMakeNoSenseCountAsTheDefault) {
   }
 }
 
+TEST_F(SpotsFormTest, NumbersBeyondAllMeasureAreCutToTheMost) {
+  for (core::TextBox* box :
+       {&form.Text1, &form.txtReloadNr, &form.txtMemory[0], &form.txtMemory[1]})
+    box->UserTypes("99999999999");
+  form.Text1.UserPressesReturn();
+  EXPECT_EQ(settings.KeepSpotsDays, 3650);
+  EXPECT_EQ(settings.ReloadHours, SpotReload::kMostHours);
+  EXPECT_EQ(settings.SpotMemoryAll, 100'000);
+  EXPECT_EQ(settings.SpotMemorySingle, 100'000);
+}
+
+TEST_F(SpotsFormTest, TheBoxesShowWhatHolds) {
+  form.Text1.UserTypes("0");
+  form.txtReloadNr.UserTypes("9999");
+  form.txtMemory[0].UserTypes("5");
+  form.Text1.UserPressesReturn();
+  EXPECT_EQ(form.Text1.Text.Get(), "1");
+  EXPECT_EQ(form.txtReloadNr.Text.Get(), "8784");
+  EXPECT_EQ(form.txtMemory[0].Text.Get(), "200");
+  settings.SpotMemorySingle = 2'000'000;
+  form.Show();
+  EXPECT_EQ(form.txtMemory[1].Text.Get(), "100000");
+}
+
 TEST_F(SpotsFormTest, MemoryHasALeastNumber) {
   form.txtMemory[0].UserTypes("20");
   form.txtMemory[1].UserTypes("19");
