@@ -14,23 +14,24 @@ std::shared_ptr<Frames::Item> Frames::Add(std::function<void()> repaint) {
 }
 
 void Frames::Touched() {
-  const bool quiet = Frame() == kQuietFrame;
   touched_ = scheduler_.Now();
-  if (!changed_.empty() && quiet) Wait();  // what is due comes sooner now
+  if (!changed_.empty() && Due() < due_) Wait();  // what is due comes sooner now
 }
 
 void Frames::Ask(std::weak_ptr<Item> item) {
   changed_.push_back(std::move(item));
-  if (changed_.size() == 1) Wait();
+  if (changed_.size() == 1 || Due() < due_) Wait();
 }
 
 void Frames::Wait() {
-  const auto wait = std::max(last_ + Frame() - scheduler_.Now(), platform::Milliseconds{0});
-  next_ = scheduler_.After(wait, [this] { Paint(); });
+  due_ = Due();
+  next_ = scheduler_.After(due_ - scheduler_.Now(), [this] { Paint(); });
 }
 
-platform::Milliseconds Frames::Frame() const {
-  return scheduler_.Now() - touched_ < kTouch ? kFrame : kQuietFrame;
+platform::Milliseconds Frames::Due() const {
+  const platform::Milliseconds now = scheduler_.Now();
+  if (now - touched_ < kTouch) return std::max(last_ + kFrame, now);
+  return now - last_ < kQuietFrame ? last_ + kLatestFrame : now;
 }
 
 void Frames::Paint() {
