@@ -1,5 +1,7 @@
 #include "ui/text_page_view.h"
 
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -25,6 +27,7 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
   setFont(FixedFont());
   setFrameShape(QFrame::NoFrame);
   setViewportMargins(kMargin, 0, 0, 0);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   item_ = frames.Add([this] { Refresh(); });
   observing_ = page_.Observe([this](const core::TextPage::Change& change) { Collect(change); });
 }
@@ -32,6 +35,14 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
 void TextPageView::showEvent(QShowEvent* event) {
   QPlainTextEdit::showEvent(event);
   item_->Changed();
+}
+
+// The ground is that of the style sheet; filled here, nothing behind the view is painted with it.
+void TextPageView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  painter.fillRect(event->rect(), viewport()->palette().brush(viewport()->backgroundRole()));
+  painter.end();
+  QPlainTextEdit::paintEvent(event);
 }
 
 void TextPageView::resizeEvent(QResizeEvent* event) {

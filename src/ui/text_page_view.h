@@ -36,6 +36,7 @@ class TextPageView : public QPlainTextEdit, public Searchable {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
 
