@@ -36,6 +36,7 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
   setAutoFillBackground(true);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  verticalScrollBar()->parentWidget()->setAutoFillBackground(true);
   viewport()->setToolTip(platform::qt::TextOf(spots::kTableToolTip));
   below_->setObjectName(QStringLiteral("Below"));
   below_->setFocusPolicy(Qt::NoFocus);

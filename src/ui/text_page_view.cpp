@@ -28,6 +28,8 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
   setFrameShape(QFrame::NoFrame);
   setViewportMargins(kMargin, 0, 0, 0);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  verticalScrollBar()->parentWidget()->setAutoFillBackground(true);
+  verticalScrollBar()->parentWidget()->setBackgroundRole(QPalette::Base);
   item_ = frames.Add([this] { Refresh(); });
   observing_ = page_.Observe([this](const core::TextPage::Change& change) { Collect(change); });
 }
@@ -126,11 +128,11 @@ void TextPageView::Refresh() {
   QScrollBar* bar = verticalScrollBar();
   const bool atEnd = AtEnd();
   const int stays = bar->value() - static_cast<int>(removed_);
-  setUpdatesEnabled(false);
+  viewport()->setUpdatesEnabled(false);
   RemoveFirst(removed_);
   AppendLast(page_.Lines().size() - shown_);
   bar->setValue(atEnd ? bar->maximum() : std::max(stays, 0));
-  setUpdatesEnabled(true);
+  viewport()->setUpdatesEnabled(true);
 }
 
 void TextPageView::RemoveFirst(std::size_t lines) {
