@@ -6,7 +6,8 @@
 namespace ui {
 
 void Frames::Item::Changed() {
-  if (!std::exchange(changed_, true)) frames_.Ask(weak_from_this());
+  if (!std::exchange(changed_, true)) frames_.changed_.push_back(weak_from_this());
+  frames_.Ask();
 }
 
 std::shared_ptr<Frames::Item> Frames::Add(std::function<void()> repaint) {
@@ -15,17 +16,14 @@ std::shared_ptr<Frames::Item> Frames::Add(std::function<void()> repaint) {
 
 void Frames::Touched() {
   touched_ = scheduler_.Now();
-  if (!changed_.empty() && Due() < due_) Wait();  // what is due comes sooner now
+  if (due_) Ask();  // it comes sooner now
 }
 
-void Frames::Ask(std::weak_ptr<Item> item) {
-  changed_.push_back(std::move(item));
-  if (changed_.size() == 1 || Due() < due_) Wait();
-}
-
-void Frames::Wait() {
-  due_ = Due();
-  next_ = scheduler_.After(due_ - scheduler_.Now(), [this] { Paint(); });
+void Frames::Ask() {
+  const platform::Milliseconds due = Due();
+  if (due_ && *due_ <= due) return;
+  due_ = due;
+  next_ = scheduler_.After(due - scheduler_.Now(), [this] { Paint(); });
 }
 
 platform::Milliseconds Frames::Due() const {
@@ -36,6 +34,7 @@ platform::Milliseconds Frames::Due() const {
 
 void Frames::Paint() {
   last_ = scheduler_.Now();
+  due_.reset();
   for (const auto& each : std::exchange(changed_, {})) {
     const auto item = each.lock();
     if (!item) continue;

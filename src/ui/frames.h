@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/scheduler.h"
@@ -31,9 +32,9 @@ class Frames {
 
   static constexpr platform::Milliseconds kFrame{33};
   // When nobody is at it: a change is painted at once that long after the last frame,
-  static constexpr platform::Milliseconds kQuietFrame{180};
+  static constexpr platform::Milliseconds kQuietFrame{170};
   // and a sooner one at the latest then.
-  static constexpr platform::Milliseconds kLatestFrame{250};
+  static constexpr platform::Milliseconds kLatestFrame{200};
   // How long a touch counts.
   static constexpr platform::Milliseconds kTouch{2000};
 
@@ -46,8 +47,7 @@ class Frames {
   std::shared_ptr<Item> Add(std::function<void()> repaint);
 
  private:
-  void Ask(std::weak_ptr<Item> item);
-  void Wait();
+  void Ask();
   void Paint();
   // When that is to be painted which changes now.
   platform::Milliseconds Due() const;
@@ -56,7 +56,7 @@ class Frames {
   std::vector<std::weak_ptr<Item>> changed_;  // in the order of their changes
   platform::Milliseconds last_{-kLatestFrame};
   platform::Milliseconds touched_{-kTouch};
-  platform::Milliseconds due_{0};  // while something has changed
+  std::optional<platform::Milliseconds> due_;  // while something has changed
   platform::Registration next_;
 };
 

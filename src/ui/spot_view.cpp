@@ -62,7 +62,8 @@ void SpotView::Recolour() {
   // The scroll bars stand on the same ground.
   QPalette palette;
   palette.setColor(QPalette::Window, colours_.ground);
-  setPalette(palette);
+  for (QWidget* each : {static_cast<QWidget*>(this), verticalScrollBar()->parentWidget()})
+    each->setPalette(palette);
   heads_->update();
   viewport()->update();
 }

@@ -14,9 +14,10 @@ namespace {
 constexpr qint64 kReadBuffer = qint64{64} * 1024;
 
 // A stream of lines is taken in batches: each wake-up of the program costs more than a line does.
-// What comes first behind a write is an answer, and is told at once; what comes soon behind it may
-// be the rest of one.
-constexpr Milliseconds kBatch{200};
+// A window that nobody touches is painted five times a second: a batch is a little sooner due, so
+// that the frame comes with it. What comes first behind a write is an answer, and is told at once;
+// what comes soon behind it may be the rest of one.
+constexpr Milliseconds kBatch{190};
 constexpr Milliseconds kBatchInTalk{100};
 constexpr Milliseconds kTalk{2000};     // behind a write
 constexpr int kMuch = kReadBuffer / 4;  // of bytes don't wait for their batch
