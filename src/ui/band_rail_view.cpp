@@ -57,6 +57,8 @@ class BandRailView::Painter : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
+    // Qt asks for all from the first to the last that has changed.
+    if (!view_.painted_.intersects(option.rect)) return;
     const Theme& theme = theme_.Get();
     const auto band = static_cast<std::size_t>(index.row());
     const bool chosen = index.row() == view_.model_.SelectedBand();
@@ -181,9 +183,10 @@ void BandRailView::Watch(Frames& frames) {
 
 // The bars stay as they are.
 void BandRailView::ShowCounts() {
+  const QRect first = visualItemRect(item(0)).adjusted(kLabelLeft, 0, 0, 0);
   for (int band = 0; band < count(); ++band)
     if (std::exchange(changed_[static_cast<std::size_t>(band)], false))
-      viewport()->update(visualItemRect(item(band)).adjusted(kLabelLeft, 0, 0, 0));
+      viewport()->update(first.translated(0, band * kRowHeight));
 }
 
 void BandRailView::paintEvent(QPaintEvent* event) {

@@ -47,8 +47,10 @@ void PlainText::Draw(QPainter& painter, QPointF baseline, const QString& text) c
   double left = 0;
   for (const QChar character : text) {
     const auto each = static_cast<std::size_t>(character.unicode() - kFirst);
-    glyphs.append(glyphs_[each]);
-    places.append({left, 0});
+    if (character != QLatin1Char(' ')) {
+      glyphs.append(glyphs_[each]);
+      places.append({left, 0});
+    }
     left += widths_[each];
   }
   QGlyphRun run;

@@ -62,8 +62,8 @@ void SpotView::Recolour() {
   // The scroll bars stand on the same ground.
   QPalette palette;
   palette.setColor(QPalette::Window, colours_.ground);
-  for (QWidget* each : {static_cast<QWidget*>(this), verticalScrollBar()->parentWidget()})
-    each->setPalette(palette);
+  setPalette(palette);
+  verticalScrollBar()->parentWidget()->setPalette(palette);
   heads_->update();
   viewport()->update();
 }

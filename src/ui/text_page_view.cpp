@@ -28,8 +28,8 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
   setFrameShape(QFrame::NoFrame);
   setViewportMargins(kMargin, 0, 0, 0);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  verticalScrollBar()->parentWidget()->setAutoFillBackground(true);
-  verticalScrollBar()->parentWidget()->setBackgroundRole(QPalette::Base);
+  UnderScrollBar()->setAutoFillBackground(true);
+  UnderScrollBar()->setBackgroundRole(QPalette::Base);
   item_ = frames.Add([this] { Refresh(); });
   observing_ = page_.Observe([this](const core::TextPage::Change& change) { Collect(change); });
 }
@@ -39,7 +39,7 @@ void TextPageView::showEvent(QShowEvent* event) {
   item_->Changed();
 }
 
-// The ground is that of the style sheet; filled here, nothing behind the view is painted with it.
+// The ground is that of the style sheet. Filled here, nothing behind the view is painted with it.
 void TextPageView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.fillRect(event->rect(), viewport()->palette().brush(viewport()->backgroundRole()));
@@ -95,6 +95,9 @@ void TextPageView::SetColours(const std::optional<Colours>& colours) {
                            colours->selectedText.name(), colours->accent.name())
               : QString();
   if (sheet != styleSheet()) setStyleSheet(sheet);
+  QPalette palette;
+  if (colours) palette.setColor(QPalette::Base, colours->ground);
+  UnderScrollBar()->setPalette(palette);
 }
 
 std::optional<TextPageView::Range> TextPageView::RangeOf(std::string_view line,
@@ -113,6 +116,8 @@ std::optional<std::size_t> TextPageView::LineOf(const QTextBlock& block) const {
   if (number < removed_ || number - removed_ >= page_.Lines().size()) return std::nullopt;
   return number - removed_;
 }
+
+QWidget* TextPageView::UnderScrollBar() const { return verticalScrollBar()->parentWidget(); }
 
 bool TextPageView::AtEnd() const {
   return verticalScrollBar()->value() >= verticalScrollBar()->maximum();

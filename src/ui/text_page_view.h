@@ -53,6 +53,8 @@ class TextPageView : public QPlainTextEdit, public Searchable {
   const core::TextPage& Page() const { return page_; }
 
  private:
+  // Of a ground of its own, so that nothing behind the view is painted with the bar.
+  QWidget* UnderScrollBar() const;
   bool AtEnd() const;
   void Collect(const core::TextPage::Change& change);
   void Refresh();
