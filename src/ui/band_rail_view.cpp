@@ -57,8 +57,6 @@ class BandRailView::Painter : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
-    // Qt asks for all from the first to the last that has changed.
-    if (!view_.painted_.intersects(option.rect)) return;
     const Theme& theme = theme_.Get();
     const auto band = static_cast<std::size_t>(index.row());
     const bool chosen = index.row() == view_.model_.SelectedBand();
@@ -189,12 +187,16 @@ void BandRailView::ShowCounts() {
       viewport()->update(first.translated(0, band * kRowHeight));
 }
 
+// Qt would paint all from the first to the last that has changed.
 void BandRailView::paintEvent(QPaintEvent* event) {
   painted_ = event->region();
   QPainter painter(viewport());
   for (const QRect& each : painted_) painter.fillRect(each, theme_.Get()[Token::Panel]);
-  painter.end();
-  QListWidget::paintEvent(event);
+  QStyleOptionViewItem option;
+  option.rect = visualItemRect(item(0));
+  for (int band = 0; band < count(); ++band, option.rect.translate(0, kRowHeight))
+    if (painted_.intersects(option.rect))
+      itemDelegate()->paint(&painter, option, indexFromItem(item(band)));
 }
 
 }  // namespace ui
