@@ -36,7 +36,6 @@ SpotView::SpotView(Model model, Frames& frames, LiveTheme& theme, QWidget* paren
   setAutoFillBackground(true);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  verticalScrollBar()->parentWidget()->setAutoFillBackground(true);
   viewport()->setToolTip(platform::qt::TextOf(spots::kTableToolTip));
   below_->setObjectName(QStringLiteral("Below"));
   below_->setFocusPolicy(Qt::NoFocus);
@@ -63,7 +62,6 @@ void SpotView::Recolour() {
   QPalette palette;
   palette.setColor(QPalette::Window, colours_.ground);
   setPalette(palette);
-  verticalScrollBar()->parentWidget()->setPalette(palette);
   heads_->update();
   viewport()->update();
 }
