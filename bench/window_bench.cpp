@@ -49,14 +49,20 @@ class TimedApplication : public QApplication {
   std::vector<double> events_;
 };
 
-double ProcessorSeconds() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  const auto seconds = [](const timeval& time) {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-  };
-  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
-}
+// What the process has used of the machine.
+struct Usage {
+  double processor;  // seconds
+  long waits;        // how often a thread of it went to sleep, to be woken again
+
+  static Usage Now() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto seconds = [](const timeval& time) {
+      return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return {seconds(usage.ru_utime) + seconds(usage.ru_stime), usage.ru_nvcsw};
+  }
+};
 
 // What happened while one view was on show.
 class Stretch {
@@ -73,10 +79,15 @@ class Stretch {
       return events.end() - std::upper_bound(events.begin(), events.end(), limit);
     };
     const double seconds = static_cast<double>(clock_.elapsed()) / 1e3;
-    std::cout << view << ": " << program_.spotParts.pipeline.SpotsShown - spots_ << " spots in "
-              << seconds << " s, " << events.size() << " events, the longest " << events.back()
-              << " ms, " << above(16) << " over 16 ms, " << above(50) << " over 50 ms, "
-              << 100 * (ProcessorSeconds() - processor_) / seconds << " % of a core" << std::endl;
+    const auto spots = static_cast<double>(program_.spotParts.pipeline.SpotsShown - spots_);
+    const Usage now = Usage::Now();
+    const double processor = now.processor - before_.processor;
+    std::cout << view << ": " << spots << " spots in " << seconds << " s, " << events.size()
+              << " events, the longest " << events.back() << " ms, " << above(16) << " over 16 ms, "
+              << above(50) << " over 50 ms, " << 100 * processor / seconds << " % of a core, "
+              << 1000 * processor / spots << " s for 1,000 spots, "
+              << static_cast<double>(now.waits - before_.waits) / seconds << " wake-ups a second"
+              << std::endl;
   }
 
  private:
@@ -89,7 +100,7 @@ class Stretch {
   TimedApplication& application_;
   const Program& program_;
   std::uint64_t spots_ = program_.spotParts.pipeline.SpotsShown;
-  double processor_ = ProcessorSeconds();
+  Usage before_ = Usage::Now();
   QElapsedTimer clock_ = Started();
 };
 

@@ -13,6 +13,10 @@ namespace {
 
 using session::TimerId;
 
+// How often it is looked whether anything waits to be shown: in the order of time no row does.
+constexpr platform::Milliseconds kTick{100};
+constexpr platform::Milliseconds kTickOfTimeOrder{1000};
+
 }  // namespace
 
 Program::Program(const platform::Platform& platform, std::string folder, Needs needs)
@@ -110,6 +114,10 @@ Program::Program(const platform::Platform& platform, std::string folder, Needs n
       tasks_(platform.scheduler, errorLog.FaultHandler()) {
   session.timers.SetDuty(TimerId::WriteCfg, [this] { WriteCfg(); });
   session.timers.SetDuty(TimerId::DxQue, [this] { spotParts.Tick(); });
+  ticking_ = spotParts.table.optSortBy.Observe([this](int order) {
+    session.timers.SetInterval(TimerId::DxQue,
+                               order == spots::kTimeOrder ? kTickOfTimeOrder : kTick);
+  });
 }
 
 Program::~Program() = default;

@@ -207,6 +207,7 @@ class Program {
   std::array<platform::Registration, 2> columnsNamed_;
   platform::Registration saved_;
   platform::Registration debuggingTicked_;
+  platform::Registration ticking_;
   platform::Tasks tasks_;
 };
 

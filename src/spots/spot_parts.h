@@ -80,7 +80,8 @@ class SpotParts {
   void ReadFiles();
   // The end of the start: the log goes on, and what it holds comes back if that is wanted.
   void BeginLog();
-  // Ten times a second: what waits goes into a sorted view, and counts are shown.
+  // What waits goes into a sorted view, ten times a second while there is one; counts are shown, and
+  // the last hour follows the minute.
   void Tick();
   // Empties the table; what was in it may come again from the node or the log.
   void ClearSpots();

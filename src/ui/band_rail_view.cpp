@@ -1,6 +1,7 @@
 #include "ui/band_rail_view.h"
 
 #include <QCoreApplication>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "ui/figures.h"
 #include "ui/fonts.h"
 #include "ui/one_line.h"
+#include "ui/plain_text.h"
 #include "ui/spot_colours.h"
 
 namespace ui {
@@ -26,6 +28,11 @@ constexpr core::Position kLongest = 20;
 
 QString TextOf(std::string_view bytes) { return OneLine(bytes, kLongest); }
 
+QFont Bold(QFont font) {
+  font.setWeight(QFont::DemiBold);
+  return font;
+}
+
 // None is shown as a dash.
 QString TotalText(const core::Label& total) {
   const std::string& digits = total.Caption.Get();
@@ -37,7 +44,10 @@ QString TotalText(const core::Label& total) {
 class BandRailView::Painter : public QStyledItemDelegate {
  public:
   Painter(BandRailView& view, const core::Settings& settings, LiveTheme& theme)
-      : QStyledItemDelegate(&view), view_(view), settings_(settings), theme_(theme) {}
+      : QStyledItemDelegate(&view), view_(view), settings_(settings), theme_(theme) {
+    const QFontMetrics metrics(plain_.Font());
+    baseline_ = (kRowHeight - metrics.height() + 1) / 2 + metrics.ascent();
+  }
 
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
     return {1, kRowHeight};  // as wide as the rail
@@ -56,38 +66,46 @@ class BandRailView::Painter : public QStyledItemDelegate {
     }
     const QRect& row = option.rect;
     const QRect bar(QPoint(row.left() + kBarLeft, row.center().y() - kBar.height() / 2), kBar);
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(BandColourOf(index.row(), settings_, theme));
-    painter->drawRoundedRect(bar, 2, 2);
+    if (view_.painted_.intersects(bar)) DrawBar(*painter, bar, index.row(), theme);
     DrawTexts(*painter, row, band, theme);
   }
 
  private:
+  void DrawBar(QPainter& painter, const QRect& bar, int band, const Theme& theme) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(BandColourOf(band, settings_, theme));
+    painter.drawRoundedRect(bar, 2, 2);
+  }
+
   void DrawTexts(QPainter& painter, const QRect& row, std::size_t band, const Theme& theme) const {
     const core::Label& unseen = view_.model_.lblUnseen[band];
     const core::Label& total = view_.model_.lblTotal[band];
     const bool any = total.Caption.Get() != "0";
-    const auto draw = [&](int fromRight, Qt::Alignment side, Token colour, bool bold,
-                          const QString& text) {
-      QFont font = InterfaceFont();
-      if (bold) font.setWeight(QFont::DemiBold);
-      painter.setFont(font);
-      painter.setPen(theme[colour]);
-      painter.drawText(row.adjusted(kLabelLeft, 0, -fromRight, 0),
-                       static_cast<int>(side | Qt::AlignVCenter), text);
-    };
     const bool chosen = static_cast<int>(band) == view_.model_.SelectedBand();
-    draw(kUnseenFromRight, Qt::AlignLeft, any || chosen ? Token::Text : Token::DimText, chosen,
+    const double bottom = row.top() + baseline_;
+    const auto draw = [&](const PlainText& font, double left, Token colour, const QString& text) {
+      painter.setPen(theme[colour]);
+      font.Draw(painter, {left, bottom}, text);
+    };
+    const auto drawBefore = [&](int fromRight, const PlainText& font, Token colour,
+                                const QString& text) {
+      draw(font, row.left() + row.width() - fromRight - font.WidthOf(text), colour, text);
+    };
+    draw(chosen ? bold_ : plain_, row.left() + kLabelLeft,
+         any || chosen ? Token::Text : Token::DimText,
          TextOf(view_.model_.optBand.Options.Get()[band]));
     if (unseen.Visible.Get())
-      draw(kUnseenFromRight, Qt::AlignRight, Token::Accent, true, Grouped(unseen.Caption.Get()));
-    draw(kTotalFromRight, Qt::AlignRight, Token::DimText, false, TotalText(total));
+      drawBefore(kUnseenFromRight, bold_, Token::Accent, Grouped(unseen.Caption.Get()));
+    drawBefore(kTotalFromRight, plain_, Token::DimText, TotalText(total));
   }
 
   BandRailView& view_;
   const core::Settings& settings_;
   LiveTheme& theme_;
+  PlainText plain_{InterfaceFont()};
+  PlainText bold_{Bold(InterfaceFont())};
+  int baseline_;
 };
 
 // What it shows and what is spoken of it stand in the model: counts that change many times a second
@@ -123,13 +141,14 @@ class BandRailView::Band : public QListWidgetItem {
 
 BandRailView::BandRailView(spots::BandRail& model, const core::Settings& settings, Frames& frames,
                            LiveTheme& theme, QWidget* parent)
-    : QListWidget(parent), model_(model) {
+    : QListWidget(parent), model_(model), theme_(theme) {
   setObjectName(QStringLiteral("BandRail"));
   setAccessibleName(tr("Bands of the spots"));
   setFixedWidth(kWidth);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   setItemDelegate(new Painter(*this, settings, theme));
   for (int band = 0; band < static_cast<int>(changed_.size()); ++band)
     addItem(new Band(model, band));
@@ -158,10 +177,24 @@ void BandRailView::Watch(Frames& frames) {
   watching_.push_back(model_.optBand.Selected.Observe([this](int band) { setCurrentRow(band); }));
 }
 
+// The bars stay as they are.
 void BandRailView::ShowCounts() {
+  const QRect first = visualItemRect(item(0)).adjusted(kLabelLeft, 0, 0, 0);
   for (int band = 0; band < count(); ++band)
     if (std::exchange(changed_[static_cast<std::size_t>(band)], false))
-      viewport()->update(visualItemRect(item(band)));
+      viewport()->update(first.translated(0, band * kRowHeight));
+}
+
+// Qt would paint all from the first to the last that has changed.
+void BandRailView::paintEvent(QPaintEvent* event) {
+  painted_ = event->region();
+  QPainter painter(viewport());
+  for (const QRect& each : painted_) painter.fillRect(each, theme_.Get()[Token::Panel]);
+  QStyleOptionViewItem option;
+  option.rect = visualItemRect(item(0));
+  for (int band = 0; band < count(); ++band, option.rect.translate(0, kRowHeight))
+    if (painted_.intersects(option.rect))
+      itemDelegate()->paint(&painter, option, indexFromItem(item(band)));
 }
 
 }  // namespace ui

@@ -20,6 +20,9 @@ class BandRailView : public QListWidget {
   BandRailView(spots::BandRail& model, const core::Settings& settings, Frames& frames,
                LiveTheme& theme, QWidget* parent);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   class Painter;
   class Band;
@@ -28,6 +31,8 @@ class BandRailView : public QListWidget {
   void ShowCounts();
 
   spots::BandRail& model_;
+  LiveTheme& theme_;
+  QRegion painted_;  // with this event
   std::shared_ptr<Frames::Item> item_;
   std::array<bool, spots::kBands.size()> changed_{};  // since it was last asked to be painted
   std::vector<platform::Registration> watching_;

@@ -6,7 +6,8 @@
 namespace ui {
 
 void Frames::Item::Changed() {
-  if (!std::exchange(changed_, true)) frames_.Ask(weak_from_this());
+  if (!std::exchange(changed_, true)) frames_.changed_.push_back(weak_from_this());
+  frames_.Ask();
 }
 
 std::shared_ptr<Frames::Item> Frames::Add(std::function<void()> repaint) {
@@ -14,27 +15,26 @@ std::shared_ptr<Frames::Item> Frames::Add(std::function<void()> repaint) {
 }
 
 void Frames::Touched() {
-  const bool quiet = Frame() == kQuietFrame;
   touched_ = scheduler_.Now();
-  if (!changed_.empty() && quiet) Wait();  // what is due comes sooner now
+  if (due_) Ask();  // it comes sooner now
 }
 
-void Frames::Ask(std::weak_ptr<Item> item) {
-  changed_.push_back(std::move(item));
-  if (changed_.size() == 1) Wait();
+void Frames::Ask() {
+  const platform::Milliseconds due = Due();
+  if (due_ && *due_ <= due) return;
+  due_ = due;
+  next_ = scheduler_.After(due - scheduler_.Now(), [this] { Paint(); });
 }
 
-void Frames::Wait() {
-  const auto wait = std::max(last_ + Frame() - scheduler_.Now(), platform::Milliseconds{0});
-  next_ = scheduler_.After(wait, [this] { Paint(); });
-}
-
-platform::Milliseconds Frames::Frame() const {
-  return scheduler_.Now() - touched_ < kTouch ? kFrame : kQuietFrame;
+platform::Milliseconds Frames::Due() const {
+  const platform::Milliseconds now = scheduler_.Now();
+  if (now - touched_ < kTouch) return std::max(last_ + kFrame, now);
+  return now - last_ < kQuietFrame ? last_ + kLatestFrame : now;
 }
 
 void Frames::Paint() {
   last_ = scheduler_.Now();
+  due_.reset();
   for (const auto& each : std::exchange(changed_, {})) {
     const auto item = each.lock();
     if (!item) continue;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/scheduler.h"
@@ -9,7 +10,9 @@
 namespace ui {
 
 // Repaints what has changed, however often it changes: at most once in 33 ms while somebody is at
-// it, and five times a second when nobody is.
+// it, and five times a second when nobody is. What changes soon after a frame waits then for what
+// comes next, so that a batch of lines and its frame need one wake-up, whatever the clock did
+// between two of them.
 class Frames {
  public:
   // Something on the screen. Marked as changed it is repainted with the next frame.
@@ -28,7 +31,10 @@ class Frames {
   };
 
   static constexpr platform::Milliseconds kFrame{33};
-  static constexpr platform::Milliseconds kQuietFrame{200};
+  // When nobody is at it: a change is painted at once that long after the last frame,
+  static constexpr platform::Milliseconds kQuietFrame{170};
+  // and a sooner one at the latest then.
+  static constexpr platform::Milliseconds kLatestFrame{200};
   // How long a touch counts.
   static constexpr platform::Milliseconds kTouch{2000};
 
@@ -41,15 +47,16 @@ class Frames {
   std::shared_ptr<Item> Add(std::function<void()> repaint);
 
  private:
-  void Ask(std::weak_ptr<Item> item);
-  void Wait();
+  void Ask();
   void Paint();
-  platform::Milliseconds Frame() const;
+  // When that is to be painted which changes now.
+  platform::Milliseconds Due() const;
 
   platform::Scheduler& scheduler_;
   std::vector<std::weak_ptr<Item>> changed_;  // in the order of their changes
-  platform::Milliseconds last_{-kQuietFrame};
+  platform::Milliseconds last_{-kLatestFrame};
   platform::Milliseconds touched_{-kTouch};
+  std::optional<platform::Milliseconds> due_;  // while something has changed
   platform::Registration next_;
 };
 

@@ -21,6 +21,7 @@ bool TurnsDirection(char16_t code) {
 }
 
 char16_t Harmless(char16_t code) {
+  if (code >= u' ' && code < 0x7F) return code;  // nearly all of it
   if (code < u' ') return static_cast<char16_t>(kControlSymbols + code);
   if (code == 0x7F) return kDeleteSymbol;
   if (code == QChar::LineSeparator || code == QChar::ParagraphSeparator) return kNewLineSymbol;

@@ -18,6 +18,12 @@ constexpr int kRuleMargin = 14;
 constexpr core::Position kLongest = 300;
 constexpr QChar kEllipsis(0x2026);
 
+QFont CallFont(const program::SpotFont& wanted, int pixels) {
+  QFont font = FixedFont(wanted, pixels);
+  font.setWeight(wanted.bold ? QFont::Black : QFont::DemiBold);
+  return font;
+}
+
 // The columns from a field to the next one of its row.
 int RoomOf(const spots::DrawnField& field, const spots::DrawnRow& row) {
   int end = kLongest;
@@ -41,12 +47,11 @@ QString TextOf(const spots::DrawnField& field, const spots::TableRow& row) {
 }  // namespace
 
 SpotPainter::SpotPainter(const program::SpotFont& font, int pixels)
-    : font_(FixedFont(font, pixels)), callFont_(font_) {
-  callFont_.setWeight(font.bold ? QFont::Black : QFont::DemiBold);
-  const QFontMetrics metrics(font_);
+    : text_(FixedFont(font, pixels)), calls_(CallFont(font, pixels)) {
+  const QFontMetrics metrics(text_.Font());
   rowHeight_ = metrics.height() + kRoom;
   baseline_ = kRoom / 2 + metrics.ascent();
-  characterWidth_ = QFontMetricsF(font_).horizontalAdvance(QLatin1Char('0'));
+  characterWidth_ = QFontMetricsF(text_.Font()).horizontalAdvance(QLatin1Char('0'));
 }
 
 int SpotPainter::ColumnAt(core::Position column) const {
@@ -71,11 +76,10 @@ void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours&
     painter.fillRect(0, row.top + 1, kBarWidth, rowHeight_ - 2, colours.OfBand(band));
   const spots::DrawnRow drawn = spots::Drawn(row.row);
   for (const spots::DrawnField& field : drawn) {
-    const QFont& font = field.ink == spots::Ink::Call ? callFont_ : font_;
+    const PlainText& text = field.ink == spots::Ink::Call ? calls_ : text_;
     painter.setPen(colours.OfInk(field.ink, band));
-    painter.setFont(font);
-    painter.drawText(ColumnAt(field.place) - row.scrolled, row.top + baseline_,
-                     Fitting(TextOf(field, row.row), font, RoomOf(field, drawn)));
+    text.Draw(painter, QPointF(ColumnAt(field.place) - row.scrolled, row.top + baseline_),
+              Fitting(TextOf(field, row.row), text.Font(), RoomOf(field, drawn)));
   }
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QFont>
 #include <QPainter>
 
 #include "core/text.h"
 #include "program/spot_font.h"
 #include "spots/row_parts.h"
 #include "spots/table_row.h"
+#include "ui/plain_text.h"
 #include "ui/spot_colours.h"
 
 namespace ui {
@@ -39,8 +39,8 @@ class SpotPainter {
   void DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const;
   QString Fitting(const QString& text, const QFont& font, int room) const;
 
-  QFont font_;
-  QFont callFont_;
+  PlainText text_;
+  PlainText calls_;
   int rowHeight_;
   int baseline_;
   double characterWidth_;

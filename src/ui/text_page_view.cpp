@@ -1,5 +1,7 @@
 #include "ui/text_page_view.h"
 
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -26,6 +28,9 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
   setFont(FixedFont());
   setFrameShape(QFrame::NoFrame);
   setViewportMargins(kMargin, kTopMargin, 0, 0);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  UnderScrollBar()->setAutoFillBackground(true);
+  UnderScrollBar()->setBackgroundRole(QPalette::Base);
   item_ = frames.Add([this] { Refresh(); });
   observing_ = page_.Observe([this](const core::TextPage::Change& change) { Collect(change); });
 }
@@ -33,6 +38,14 @@ TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent
 void TextPageView::showEvent(QShowEvent* event) {
   QPlainTextEdit::showEvent(event);
   item_->Changed();
+}
+
+// The ground is that of the style sheet. Filled here, nothing behind the view is painted with it.
+void TextPageView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  painter.fillRect(event->rect(), viewport()->palette().brush(viewport()->backgroundRole()));
+  painter.end();
+  QPlainTextEdit::paintEvent(event);
 }
 
 void TextPageView::resizeEvent(QResizeEvent* event) {
@@ -83,6 +96,9 @@ void TextPageView::SetColours(const std::optional<Colours>& colours) {
                            colours->selectedText.name(), colours->accent.name())
               : QString();
   if (sheet != styleSheet()) setStyleSheet(sheet);
+  QPalette palette;
+  if (colours) palette.setColor(QPalette::Base, colours->ground);
+  UnderScrollBar()->setPalette(palette);
 }
 
 std::optional<TextPageView::Range> TextPageView::RangeOf(std::string_view line,
@@ -102,6 +118,8 @@ std::optional<std::size_t> TextPageView::LineOf(const QTextBlock& block) const {
   return number - removed_;
 }
 
+QWidget* TextPageView::UnderScrollBar() const { return verticalScrollBar()->parentWidget(); }
+
 bool TextPageView::AtEnd() const {
   return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
 }
@@ -116,11 +134,11 @@ void TextPageView::Refresh() {
   QScrollBar* bar = verticalScrollBar();
   const bool atEnd = AtEnd();
   const int stays = bar->value() - static_cast<int>(removed_);
-  setUpdatesEnabled(false);
+  viewport()->setUpdatesEnabled(false);
   RemoveFirst(removed_);
   AppendLast(page_.Lines().size() - shown_);
   bar->setValue(atEnd ? bar->maximum() : std::max(stays, 0));
-  setUpdatesEnabled(true);
+  viewport()->setUpdatesEnabled(true);
 }
 
 void TextPageView::RemoveFirst(std::size_t lines) {

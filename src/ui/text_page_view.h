@@ -36,6 +36,7 @@ class TextPageView : public QPlainTextEdit, public Searchable {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
 
@@ -52,6 +53,8 @@ class TextPageView : public QPlainTextEdit, public Searchable {
   const core::TextPage& Page() const { return page_; }
 
  private:
+  // Of a ground of its own, so that nothing behind the view is painted with the bar.
+  QWidget* UnderScrollBar() const;
   bool AtEnd() const;
   void Collect(const core::TextPage::Change& change);
   void Refresh();

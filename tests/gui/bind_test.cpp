@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 class BindTest : public ::testing::Test {
  protected:
   void Frame() {
-    world.Run(ui::Frames::kQuietFrame);
+    world.Run(ui::Frames::kLatestFrame);
     QApplication::processEvents();
   }
 

@@ -46,9 +46,30 @@ TEST_F(FramesTest, TheNextOneWaitsForItsFrame) {
   EXPECT_THAT(painted, ElementsAre(10s, 10033ms));
 }
 
-TEST_F(FramesTest, WhenNobodyIsAtItThereAreFiveASecond) {
+TEST_F(FramesTest, WhenNobodyIsAtItThereAreNoMoreThanSixASecond) {
   KeepChangingFor(1s);
-  EXPECT_THAT(painted, ElementsAre(0ms, 200ms, 400ms, 600ms, 800ms, 1000ms));
+  EXPECT_THAT(painted, ElementsAre(0ms, 170ms, 340ms, 510ms, 680ms, 850ms));
+}
+
+TEST_F(FramesTest, WhenNobodyIsAtItAChangeBetweenTwoBatchesIsPaintedWithTheNextBatch) {
+  world.Run(10s);
+  item->Changed();
+  world.Run(50ms);
+  item->Changed();
+  world.Run(140ms);
+  EXPECT_THAT(painted, ElementsAre(10s));
+  item->Changed();
+  world.Run(0ms);
+  EXPECT_THAT(painted, ElementsAre(10s, 10s + 190ms));
+}
+
+TEST_F(FramesTest, WhenNobodyIsAtItAChangeSoonAfterAFrameIsPaintedAFifthOfASecondAfterIt) {
+  world.Run(10s);
+  item->Changed();
+  world.Run(50ms);
+  item->Changed();
+  world.Run(1s);
+  EXPECT_THAT(painted, ElementsAre(10s, 10s + 200ms));
 }
 
 TEST_F(FramesTest, ATouchBringsWhatIsDueSooner) {

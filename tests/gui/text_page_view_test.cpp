@@ -11,6 +11,7 @@
 
 #include "gui/by_name.h"
 #include "platform/sim/world.h"
+#include "ui/theme.h"
 
 namespace gui {
 namespace {
@@ -235,6 +236,26 @@ TEST_F(TextPageViewTest, NothingCanBeTypedIntoIt) {
   Add(1);
   Run(200ms);
   EXPECT_TRUE(view.isReadOnly());
+}
+
+TEST_F(TextPageViewTest, ItsGroundIsUnderTheTextBesideItAndUnderTheScrollBar) {
+  Add(200);
+  Run(200ms);
+  const auto grounds = [this] {
+    const QImage shown = view.grab().toImage();
+    return QStringList{shown.pixelColor(2, 100).name(),                   // the margin
+                       shown.pixelColor(shown.width() - 30, 100).name(),  // the text's end
+                       shown.pixelColor(shown.width() - 3, 20).name()};   // above the handle
+  };
+  const QString usual = ui::Theme(ui::Theme::Kind::Light)[program::Token::Ground].name();
+  EXPECT_EQ(grounds(), QStringList(3, usual));
+  const QColor night(0x10, 0x20, 0x40);
+  view.SetColours(ui::TextPageView::Colours{night, Qt::white, Qt::blue, Qt::white, Qt::yellow});
+  Run(200ms);
+  EXPECT_EQ(grounds(), QStringList(3, night.name()));
+  view.SetColours(std::nullopt);
+  Run(200ms);
+  EXPECT_EQ(grounds(), QStringList(3, usual));
 }
 
 }  // namespace

@@ -95,6 +95,28 @@ TEST_F(DxTabTest, EnteringSortsWhatCameMeanwhile) {
   EXPECT_EQ(Table().RtbDx.Rows().front().DxCall(), "K1AAA");
 }
 
+TEST_F(DxTabTest, InAnOrderOfItsOwnTheTableHasANewSpotWithinATenthOfASecond) {
+  desk.Start();
+  Table().SortBy(2);
+  desk.program->spotParts.lines.dx(
+      "DX de DL1ABC:    14025.0  K2BBB        CW up 2                        2100Z");
+  desk.world.Run(100ms);
+  EXPECT_EQ(Table().RtbDx.Rows().size(), 1u);
+}
+
+// Where nothing waits, ten looks a second are most of what wakes an idle program.
+TEST_F(DxTabTest, InTheOrderOfTimeTheProgramLooksOnceASecond) {
+  desk.Start();
+  const auto pause = [this] {
+    return desk.program->session.timers.Interval(session::TimerId::DxQue);
+  };
+  EXPECT_EQ(pause(), 1s);
+  Table().SortBy(spots::kLastHour);
+  EXPECT_EQ(pause(), 100ms);
+  Table().SortBy(spots::kTimeOrder);
+  EXPECT_EQ(pause(), 1s);
+}
+
 TEST_F(DxTabTest, OnWinClusterATabThatIsNotOfferedLeadsToTheTable) {
   desk.Start();
   desk.program->views.Choose(Views::LoginMsg);

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_tcp_transport.h"
 
 #include <poll.h>
+#include <sys/socket.h>
 
 #include <QCoreApplication>
 #include <QNetworkProxy>
@@ -13,9 +14,13 @@ namespace {
 constexpr qint64 kReadBuffer = qint64{64} * 1024;
 
 // A stream of lines is taken in batches: each wake-up of the program costs more than a line does.
-// What comes first behind a write is an answer, and is told at once.
-constexpr Milliseconds kBatch{100};
-constexpr qint64 kMuch = kReadBuffer / 4;  // of bytes don't wait for their batch
+// A window that nobody touches is painted five times a second: a batch is a little sooner due, so
+// that the frame comes with it. What comes first behind a write is an answer, and is told at once;
+// what comes soon behind it may be the rest of one.
+constexpr Milliseconds kBatch{190};
+constexpr Milliseconds kBatchInTalk{100};
+constexpr Milliseconds kTalk{2000};     // behind a write
+constexpr int kMuch = kReadBuffer / 4;  // of bytes don't wait for their batch
 
 // How long a closed socket may go on sending to a peer that doesn't take it.
 constexpr Milliseconds kLongestFarewell = std::chrono::seconds(30);
@@ -135,10 +140,11 @@ void QtTcpTransport::End(News news) {
 
 void QtTcpTransport::Close() {
   telling_.Release();
+  resting_.reset();
+  wrote_ = kLongAgo;
   news_.clear();
   rest_.clear();
   ended_ = false;
-  pausing_ = false;
   if (!socket_) return;
   QTcpSocket* const socket = std::exchange(socket_, nullptr);
   QObject::disconnect(socket, nullptr, &receiver_, nullptr);
@@ -151,18 +157,18 @@ std::size_t QtTcpTransport::Read(char* into, std::size_t size) {
     rest_.erase(0, count);
     return count;
   }
-  if (!socket_ || ended_ || pausing_) return 0;
+  if (!socket_ || ended_) return 0;
   const qint64 count = socket_->read(into, static_cast<qint64>(size));
   return static_cast<std::size_t>(std::max(count, qint64{0}));
 }
 
 void QtTcpTransport::Write(std::string_view bytes) {
   if (!socket_ || ended_) return;
-  // A full buffer hides the peer's end from Qt, and the failed write would lose what is unread.
-  if (socket_->bytesAvailable() >= socket_->readBufferSize() &&
-      PeerHasLeft(socket_->socketDescriptor()))
-    return;
-  toldReadable_ = kLongAgo;
+  // What the system still holds the failed write would lose.
+  const bool holds = resting_ || socket_->bytesAvailable() >= socket_->readBufferSize();
+  if (holds && PeerHasLeft(socket_->socketDescriptor())) return;
+  wrote_ = scheduler_.Now();
+  Wake();
   socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
@@ -179,21 +185,24 @@ bool QtTcpTransport::Connected() const {
 void QtTcpTransport::TellLater(News news) {
   if (!news_.empty() && news_.back() == news) return;
   news_.push_back(news);
-  if (news_.size() > 1) return;
-  const bool batched = news == News::Readable && socket_->bytesAvailable() < kMuch;
-  const Milliseconds wait = batched ? toldReadable_ + kBatch - scheduler_.Now() : Milliseconds{0};
-  if (wait > Milliseconds{0}) Pause();
-  telling_ = scheduler_.After(wait, [this] { Tell(); });
+  if (news_.size() == 1) telling_ = scheduler_.Post([this] { Tell(); });
 }
 
-// The system keeps what comes until it is asked for again.
-void QtTcpTransport::Pause() {
-  pausing_ = true;
-  socket_->setReadBufferSize(std::max(socket_->bytesAvailable(), qint64{1}));
+void QtTcpTransport::Rest() {
+  const bool talks = scheduler_.Now() - wrote_ < kTalk;
+  WakeFor(kMuch);
+  resting_ = scheduler_.After(talks ? kBatchInTalk : kBatch, [this] { Wake(); });
 }
 
-void QtTcpTransport::Resume() {
-  if (std::exchange(pausing_, false) && socket_) socket_->setReadBufferSize(kReadBuffer);
+void QtTcpTransport::Wake() {
+  if (!resting_) return;
+  WakeFor(1);
+  resting_.reset();
+}
+
+void QtTcpTransport::WakeFor(int bytes) {
+  setsockopt(static_cast<int>(socket_->socketDescriptor()), SOL_SOCKET, SO_RCVLOWAT, &bytes,
+             sizeof bytes);
 }
 
 void QtTcpTransport::Tell() {
@@ -206,8 +215,7 @@ void QtTcpTransport::Tell() {
     case News::Connected:
       return events->OnConnected();
     case News::Readable:
-      toldReadable_ = scheduler_.Now();
-      Resume();
+      Rest();
       return events->OnReadable();
     case News::PeerClosed:
       return events->OnPeerClosed();

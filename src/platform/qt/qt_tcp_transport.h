@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QTcpSocket>
 #include <deque>
+#include <optional>
 #include <string>
 
 #include "platform/tcp.h"
@@ -27,29 +28,32 @@ class QtTcpTransport final : public TcpTransport {
   std::uint16_t LocalPort() const override;
 
  private:
-  static constexpr Milliseconds kLongAgo{-1000};
+  static constexpr Milliseconds kLongAgo{-10000};
   enum class News { Resolved, Connected, Readable, PeerClosed, Failed };
 
   void Watch(QTcpSocket* socket);
   void OnError(QAbstractSocket::SocketError error);
   void End(News news);
   void TellLater(News news);
-  void Pause();
-  void Resume();
   void Tell();
+  // Until the next batch is due, or much has come, or the peer ends, the system keeps what comes
+  // and wakes nobody up for it.
+  void Rest();
+  void Wake();
+  void WakeFor(int bytes);  // or more
   bool Connected() const;
 
   Scheduler& scheduler_;
   QObject& leaving_;
   QObject receiver_;  // of the signals
   QTcpSocket* socket_ = nullptr;
-  std::deque<News> news_;                 // not yet told
-  Milliseconds toldReadable_ = kLongAgo;  // when it was last told that there is something to read
+  std::deque<News> news_;          // not yet told
+  Milliseconds wrote_ = kLongAgo;  // when the last write was
   bool ended_ = false;
-  bool pausing_ = false;  // the batch is not due: nothing is read
   SocketFault fault_;
   std::string rest_;  // received and unread when the stream ended
   Registration telling_;
+  std::optional<Registration> resting_;
 };
 
 // "192.0.2.1", also for an IPv4 address that is written as an IPv6 one.

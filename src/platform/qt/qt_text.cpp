@@ -27,6 +27,9 @@ std::size_t LengthByLead(char byte) {
 }  // namespace
 
 QString TextOf(std::string_view bytes) {
+  const auto isPlain = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+  if (std::all_of(bytes.begin(), bytes.end(), isPlain))
+    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
   QString text;
   while (!bytes.empty()) {
     const std::size_t length = std::min(LengthByLead(bytes.front()), bytes.size());
