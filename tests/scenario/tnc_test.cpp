@@ -5,6 +5,7 @@
 
 #include "practice_tnc/tnc.h"
 #include "program/desk.h"
+#include "thoroughness.h"
 
 using namespace std::chrono_literals;
 using practice_tnc::TncPlan;
@@ -173,7 +174,7 @@ TEST_F(OverTheAir, PortThatAnotherProgramHasIsUsedOnceItIsFree) {
 
 TEST_F(OverTheAir, GarbageForHoursIsSurvivedAndRetried) {
   Begin({.garbage = true});
-  desk.world.Run(3h);
+  desk.world.Run(180min / static_cast<int>(kOneOf));
   EXPECT_FALSE(program->session.state.LoggedIn);
   EXPECT_TRUE(program->session.connection.AutoReconnect.Value.Get());
   Plug();

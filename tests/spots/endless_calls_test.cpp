@@ -3,6 +3,7 @@
 #include "session/memory_meter.h"
 #include "spot_desk.h"
 #include "spots/skimmer_ring.h"
+#include "thoroughness.h"
 
 namespace {
 
@@ -42,6 +43,7 @@ class EndlessCalls : public SpotDesk {
 };
 
 TEST_F(EndlessCalls, TakeNoMoreMemoryOnceTheRingsAreFull) {
+  if (!kMeasuresMemory) GTEST_SKIP() << "memory is measured without the sanitizers";
   Fill(2 * spots::SkimmerRing::kMostSlots + 10'000);
   const std::size_t before = MemoryMeter::Live();
   Fill(2 * spots::SkimmerRing::kMostSlots + 60'000);

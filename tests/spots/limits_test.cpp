@@ -3,6 +3,7 @@
 #include "session/memory_meter.h"
 #include "spot_desk.h"
 #include "spots/band_numbers.h"
+#include "thoroughness.h"
 
 namespace {
 
@@ -124,6 +125,7 @@ TEST_F(Limits, TableStandsAsTheSelectedStoreWhateverIsSelected) {
 constexpr int kFull = spots::SkimmerRing::kMostSlots + 1'000;
 
 TEST_F(Limits, MemoryStopsGrowing) {
+  if (!kMeasuresMemory) GTEST_SKIP() << "memory is measured without the sanitizers";
   ReceiveAlternately(kFull);
   const auto before = MemoryMeter::Live();
   ReceiveAlternately(50'000);
@@ -131,6 +133,7 @@ TEST_F(Limits, MemoryStopsGrowing) {
 }
 
 TEST_F(Limits, SpotCostsNoMemoryButItsRowAndItsPlaces) {
+  if (!kMeasuresMemory) GTEST_SKIP() << "memory is measured without the sanitizers";
   ReceiveAlternately(kFull);
   std::vector<std::string> lines;
   for (int i = 0; i < 5'000; ++i) {
