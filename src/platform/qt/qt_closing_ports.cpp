@@ -9,7 +9,7 @@
 namespace platform::qt {
 namespace {
 
-using std::chrono_literals::operator""ms;
+using namespace std::chrono_literals;
 
 constexpr auto kBetweenLooks = 20ms;
 

@@ -5,7 +5,7 @@
 namespace platform::qt {
 namespace {
 
-using std::chrono_literals::operator""ms;
+using namespace std::chrono_literals;
 
 // A goodbye of two hundred bytes has gone by then, even at 1200 baud.
 constexpr auto kPatience = 2000ms;
