@@ -15,6 +15,7 @@ using testing::IsEmpty;
 
 constexpr auto kNoLotw = " LoTW database is Empty.  Click to Update. ";
 constexpr auto kNoEqsl = " eQSL database is Empty.  Click to Update. ";
+constexpr std::size_t kFiftyMegabytes = 50'000'000;
 
 std::string LotwText(const std::string& lines) {
   std::string text = "LOTW\r\n" + lines;
@@ -226,7 +227,7 @@ TEST_F(MembershipTest, FileThatIsCutIsDamagedAndItsCallsCount) {
 
 TEST_F(MembershipTest, FiftyMegabytesOfCallsAreReadInPartAndNotWrittenOver) {
   std::string calls;
-  while (calls.size() < 50'000'000) calls += "K1ABC\n";
+  while (calls.size() < kFiftyMegabytes) calls += "K1ABC\n";
   const std::string text = EqslText(calls);
   world.files.content["/f/eqsl.txt"] = text;
   EXPECT_EQ(ReadeQSL(), FileState::TooLong);
@@ -236,8 +237,8 @@ TEST_F(MembershipTest, FiftyMegabytesOfCallsAreReadInPartAndNotWrittenOver) {
 }
 
 TEST_F(MembershipTest, FiftyMegabytesWithoutALineEndAreNoCall) {
-  world.files.content["/f/eqsl.txt"] = EqslText("k1abc\r\n" + std::string(50'000'000, 'K'));
-  world.files.content["/f/lotw.txt"] = LotwText(std::string(50'000'000, 'K'));
+  world.files.content["/f/eqsl.txt"] = EqslText("k1abc\r\n" + std::string(kFiftyMegabytes, 'K'));
+  world.files.content["/f/lotw.txt"] = LotwText(std::string(kFiftyMegabytes, 'K'));
   membership.ReadLotw();
   membership.ReadeQSL();
   EXPECT_EQ(membership.LotwCount(), 5u);
