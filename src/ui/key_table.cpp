@@ -118,6 +118,7 @@ KeyPlace Filled(const Place& place) {
 
 std::vector<KeyPlace> KeyTable() {
   std::vector<KeyPlace> places;
+  places.reserve(kPlaces.size());
   for (const Place& place : kPlaces) places.push_back(Filled(place));
   return places;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 

@@ -1,5 +1,6 @@
 #include "ui/spot_view.h"
 
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <algorithm>
 

@@ -81,7 +81,7 @@ std::vector<QWidget*> TabRound(QWidget& window) {
     if (isNew) round.push_back(now);  // else it has places of its own, as a text has links
   }
   if (QWidget* first = FirstOf(window, round))
-    std::ranges::rotate(round, std::ranges::find(round, first));
+    std::rotate(round.begin(), std::ranges::find(round, first), round.end());
   return round;
 }
 

@@ -400,9 +400,10 @@ TEST_F(BatchTest, NothingIsReadBeforeItsBatchIsDue) {
 }
 
 TEST_F(BatchTest, MuchAtOnceDoesNotWait) {
+  constexpr std::size_t kMuch = 16384;
   Say("first");
-  SayWithoutWaiting(std::string(16 * 1024, 'x'));
-  EXPECT_EQ(received.size(), 5u + 16 * 1024);
+  SayWithoutWaiting(std::string(kMuch, 'x'));
+  EXPECT_EQ(received.size(), 5u + kMuch);
 }
 
 TEST_F(BatchTest, ThePeersEndDoesNotWaitAndComesBehindItsLastWords) {
@@ -434,7 +435,7 @@ TEST_F(BatchTest, WhatComesMeanwhileIsOneBatch) {
     if (sent++ < kLines) peer->write("line\n");
   });
   sending.start(10);
-  ASSERT_TRUE(PumpUntil([&] { return received.size() == kLines * 5; }));
+  ASSERT_TRUE(PumpUntil([&] { return received.size() == std::size_t{kLines} * 5; }));
   EXPECT_LE(log.readable, kLines / 6);
 }
 
