@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 constexpr const char* kListsPath = "/home/op/reject.dat";
 constexpr const char* kBadPath = "/home/op/reject.dat.bad";
-constexpr std::size_t kFiftyMegabytes = 50'000'000;
+constexpr std::size_t kFarTooMuch = 50'000'000;
 
 class RejectListsTest : public testing::Test {
  protected:
@@ -168,7 +168,7 @@ TEST_F(RejectListsTest, FileBeyondMeasureIsReadInPartAndSetAsideWhenItIsWritten)
 }
 
 TEST_F(RejectListsTest, FiftyMegabytesTakeNoMoreThanTheListsHold) {
-  files.content[kListsPath] = "\"Dx\",\"" + std::string(kFiftyMegabytes, 'K');
+  files.content[kListsPath] = "\"Dx\",\"" + std::string(kFarTooMuch, 'K');
   const std::size_t before = MemoryMeter::Live();
   lists.ReadReject();
   EXPECT_LT(MemoryMeter::Live(), before + 5 * RejectLists::kMostBytes);
