@@ -53,7 +53,8 @@ TEST_F(FolderTest, WithAnEmptyConfigurationTheWholeFolderStaysAsItIs) {
 TEST_F(FolderTest, TwoCopiesInOneFolderEndCleanly) {
   WriteFile("molva.cfg", Configuration());
   const auto first = StartClient();
-  ASSERT_TRUE(PumpUntil([this] { return Heard("K1TST-2"); }, kPatience));
+  const auto keepsItsSettings = [this] { return Content("molva.cfg") != Configuration(); };
+  ASSERT_TRUE(PumpUntil([&] { return Heard("K1TST-2") && keepsItsSettings(); }, kPatience));
   const QByteArray before = Content("molva.cfg");
   // It has no configuration yet and asks whether to make one; nobody answers.
   const auto second = StartClient();
