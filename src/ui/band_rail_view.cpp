@@ -10,8 +10,9 @@
 #include "ui/bind.h"
 #include "ui/figures.h"
 #include "ui/fonts.h"
+#include "ui/glyph_tiles.h"
 #include "ui/one_line.h"
-#include "ui/plain_text.h"
+#include "ui/printed_row.h"
 #include "ui/spot_colours.h"
 
 namespace ui {
@@ -45,7 +46,7 @@ class BandRailView::Painter : public QStyledItemDelegate {
  public:
   Painter(BandRailView& view, const core::Settings& settings, LiveTheme& theme)
       : QStyledItemDelegate(&view), view_(view), settings_(settings), theme_(theme) {
-    const QFontMetrics metrics(plain_.Font());
+    const QFontMetrics metrics(plain_.Text().Font());
     baseline_ = (kRowHeight - metrics.height() + 1) / 2 + metrics.ascent();
   }
 
@@ -56,18 +57,20 @@ class BandRailView::Painter : public QStyledItemDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
     const Theme& theme = theme_.Get();
-    const auto band = static_cast<std::size_t>(index.row());
-    const bool chosen = index.row() == view_.model_.SelectedBand();
-    if (chosen) painter->fillRect(option.rect, theme[Token::Selection]);
-    if (chosen && view_.hasFocus()) {
-      painter->setBrush(Qt::NoBrush);  // that of the bar of the row before
-      painter->setPen(theme[Token::Accent]);
-      painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
-    }
     const QRect& row = option.rect;
+    const int band = index.row();
+    const bool chosen = band == view_.model_.SelectedBand();
+    const Token ground = chosen ? Token::Selection : Token::Panel;
     const QRect bar(QPoint(row.left() + kBarLeft, row.center().y() - kBar.height() / 2), kBar);
-    if (view_.painted_.intersects(bar)) DrawBar(*painter, bar, index.row(), theme);
-    DrawTexts(*painter, row, band, theme);
+    if (view_.painted_.intersects(bar)) {
+      painter->fillRect(row.left(), row.top(), kLabelLeft, row.height(), theme[ground]);
+      DrawBar(*painter, bar, band, theme);
+    }
+    PrintTexts(*painter, row.adjusted(kLabelLeft, 0, 0, 0), static_cast<std::size_t>(band), ground);
+    if (!chosen || !view_.hasFocus()) return;
+    painter->setBrush(Qt::NoBrush);  // that of the bar
+    painter->setPen(theme[Token::Accent]);
+    painter->drawRect(row.adjusted(0, 0, -1, -1));
   }
 
  private:
@@ -76,35 +79,38 @@ class BandRailView::Painter : public QStyledItemDelegate {
     painter.setPen(Qt::NoPen);
     painter.setBrush(BandColourOf(band, settings_, theme));
     painter.drawRoundedRect(bar, 2, 2);
+    painter.setRenderHint(QPainter::Antialiasing, false);
   }
 
-  void DrawTexts(QPainter& painter, const QRect& row, std::size_t band, const Theme& theme) const {
+  void PrintTexts(QPainter& painter, const QRect& place, std::size_t band, Token ground) const {
+    const Theme& theme = theme_.Get();
     const core::Label& unseen = view_.model_.lblUnseen[band];
     const core::Label& total = view_.model_.lblTotal[band];
     const bool any = total.Caption.Get() != "0";
-    const bool chosen = static_cast<int>(band) == view_.model_.SelectedBand();
-    const double bottom = row.top() + baseline_;
-    const auto draw = [&](const PlainText& font, double left, Token colour, const QString& text) {
-      painter.setPen(theme[colour]);
-      font.Draw(painter, {left, bottom}, text);
+    const bool chosen = ground == Token::Selection;
+    printed_.Begin(painter, place.size(), theme[ground]);
+    const auto print = [&](GlyphTiles& glyphs, double left, Token ink, const QString& text) {
+      printed_.Print(glyphs, {left, static_cast<double>(baseline_)}, text, theme[ink]);
     };
-    const auto drawBefore = [&](int fromRight, const PlainText& font, Token colour,
-                                const QString& text) {
-      draw(font, row.left() + row.width() - fromRight - font.WidthOf(text), colour, text);
+    const auto printBefore = [&](int fromRight, GlyphTiles& glyphs, Token ink,
+                                 const QString& text) {
+      print(glyphs, place.width() - fromRight - glyphs.Text().WidthOf(text), ink, text);
     };
-    draw(chosen ? bold_ : plain_, row.left() + kLabelLeft,
-         any || chosen ? Token::Text : Token::DimText,
-         TextOf(view_.model_.optBand.Options.Get()[band]));
+    print(chosen ? bold_ : plain_, 0, any || chosen ? Token::Text : Token::DimText,
+          TextOf(view_.model_.optBand.Options.Get()[band]));
     if (unseen.Visible.Get())
-      drawBefore(kUnseenFromRight, bold_, Token::Accent, Grouped(unseen.Caption.Get()));
-    drawBefore(kTotalFromRight, plain_, Token::DimText, TotalText(total));
+      printBefore(kUnseenFromRight, bold_, Token::Accent, Grouped(unseen.Caption.Get()));
+    printBefore(kTotalFromRight, plain_, Token::DimText, TotalText(total));
+    printed_.Show(painter, place.topLeft());
   }
 
   BandRailView& view_;
   const core::Settings& settings_;
   LiveTheme& theme_;
-  PlainText plain_{InterfaceFont()};
-  PlainText bold_{Bold(InterfaceFont())};
+  // Painting draws the glyphs that it needs.
+  mutable GlyphTiles plain_{InterfaceFont()};
+  mutable GlyphTiles bold_{Bold(InterfaceFont())};
+  mutable PrintedRow printed_;
   int baseline_;
 };
 
@@ -180,21 +186,24 @@ void BandRailView::Watch(Frames& frames) {
 // The bars stay as they are.
 void BandRailView::ShowCounts() {
   const QRect first = visualItemRect(item(0)).adjusted(kLabelLeft, 0, 0, 0);
+  QRegion region;
   for (int band = 0; band < count(); ++band)
     if (std::exchange(changed_[static_cast<std::size_t>(band)], false))
-      viewport()->update(first.translated(0, band * kRowHeight));
+      region |= first.translated(0, band * kRowHeight);
+  viewport()->update(region);
 }
 
 // Qt would paint all from the first to the last that has changed.
 void BandRailView::paintEvent(QPaintEvent* event) {
   painted_ = event->region();
   QPainter painter(viewport());
-  for (const QRect& each : painted_) painter.fillRect(each, theme_.Get()[Token::Panel]);
   QStyleOptionViewItem option;
   option.rect = visualItemRect(item(0));
   for (int band = 0; band < count(); ++band, option.rect.translate(0, kRowHeight))
     if (painted_.intersects(option.rect))
       itemDelegate()->paint(&painter, option, indexFromItem(item(band)));
+  painter.fillRect(0, option.rect.top(), viewport()->width(),
+                   viewport()->height() - option.rect.top(), theme_.Get()[Token::Panel]);
 }
 
 }  // namespace ui

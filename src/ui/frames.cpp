@@ -28,7 +28,7 @@ void Frames::Ask() {
 
 platform::Milliseconds Frames::Due() const {
   const platform::Milliseconds now = scheduler_.Now();
-  if (now - touched_ < kTouch) return std::max(last_ + kFrame, now);
+  if (IsTouched()) return std::max(last_ + kFrame, now);
   return now - last_ < kQuietFrame ? last_ + kLatestFrame : now;
 }
 

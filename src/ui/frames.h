@@ -42,6 +42,8 @@ class Frames {
 
   // A key, a button, the wheel: somebody is at it.
   void Touched();
+  // Somebody has been at it just now.
+  bool IsTouched() const { return scheduler_.Now() - touched_ < kTouch; }
 
   // The item is repainted as long as the result is kept.
   std::shared_ptr<Item> Add(std::function<void()> repaint);

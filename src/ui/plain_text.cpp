@@ -23,6 +23,12 @@ PlainText::PlainText(const QFont& font) : font_(font), raw_(QRawFont::fromFont(f
                  [](const QPointF& advance) { return advance.x(); });
 }
 
+bool PlainText::IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char character) {
+    return character >= static_cast<char>(kFirst) && character <= static_cast<char>(kLast);
+  });
+}
+
 bool PlainText::Has(const QString& text) const {
   return std::all_of(text.begin(), text.end(), [this](QChar character) {
     const char16_t code = character.unicode();
@@ -33,7 +39,7 @@ bool PlainText::Has(const QString& text) const {
 double PlainText::WidthOf(const QString& text) const {
   if (!Has(text)) return QFontMetricsF(font_).horizontalAdvance(text);
   double width = 0;
-  for (const QChar character : text) width += widths_[character.unicode() - kFirst];
+  for (const QChar character : text) width += WidthOf(character);
   return width;
 }
 
@@ -46,7 +52,7 @@ void PlainText::Draw(QPainter& painter, QPointF baseline, const QString& text) c
   QVarLengthArray<QPointF, kUsualLength> places;
   double left = 0;
   for (const QChar character : text) {
-    const auto each = static_cast<std::size_t>(character.unicode() - kFirst);
+    const std::size_t each = IndexOf(character);
     if (character != QLatin1Char(' ')) {
       glyphs.append(glyphs_[each]);
       places.append({left, 0});

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QRawFont>
 #include <array>
+#include <string_view>
 
 namespace ui {
 
@@ -12,21 +13,27 @@ namespace ui {
 // with any other character is drawn as Qt does it.
 class PlainText {
  public:
+  static constexpr char16_t kFirst = u' ';
+  static constexpr char16_t kLast = u'~';
+  static constexpr std::size_t kCount = kLast - kFirst + 1;
+  // That all of it is characters of ASCII.
+  static bool IsPlain(std::string_view text);
+  // Of an ASCII character, from 0.
+  static std::size_t IndexOf(QChar character) { return character.unicode() - std::size_t{kFirst}; }
+
   explicit PlainText(const QFont& font);
 
   const QFont& Font() const { return font_; }
+  // That it is all drawn glyph by glyph.
+  bool Has(const QString& text) const;
   // In pixels.
   double WidthOf(const QString& text) const;
+  // Of a character that it has.
+  double WidthOf(QChar character) const { return widths_[IndexOf(character)]; }
   // In the painter's pen; its font is anybody's afterwards.
   void Draw(QPainter& painter, QPointF baseline, const QString& text) const;
 
  private:
-  static constexpr char16_t kFirst = u' ';
-  static constexpr char16_t kLast = u'~';
-  static constexpr std::size_t kCount = kLast - kFirst + 1;
-
-  bool Has(const QString& text) const;
-
   QFont font_;
   QRawFont raw_;
   std::array<quint32, kCount> glyphs_{};  // 0: the font lacks it

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "ui/fonts.h"
 #include "ui/one_line.h"
@@ -44,14 +45,18 @@ QString TextOf(const spots::DrawnField& field, const spots::TableRow& row) {
   return text;
 }
 
+const QColor& GroundOf(const SpotPainter::Row& row, const SpotColours& colours) {
+  return row.selected ? colours.selection : colours.ground;
+}
+
 }  // namespace
 
 SpotPainter::SpotPainter(const program::SpotFont& font, int pixels)
     : text_(FixedFont(font, pixels)), calls_(CallFont(font, pixels)) {
-  const QFontMetrics metrics(text_.Font());
+  const QFontMetrics metrics(text_.Text().Font());
   rowHeight_ = metrics.height() + kRoom;
   baseline_ = kRoom / 2 + metrics.ascent();
-  characterWidth_ = QFontMetricsF(text_.Font()).horizontalAdvance(QLatin1Char('0'));
+  characterWidth_ = QFontMetricsF(text_.Text().Font()).horizontalAdvance(QLatin1Char('0'));
 }
 
 int SpotPainter::ColumnAt(core::Position column) const {
@@ -62,25 +67,40 @@ int SpotPainter::ColumnOf(int pixels) const {
   return static_cast<int>(std::floor((pixels - kLeft) / characterWidth_)) + 1;
 }
 
-void SpotPainter::Draw(QPainter& painter, const Row& row, const SpotColours& colours) const {
-  if (row.selected) painter.fillRect(0, row.top, row.width, rowHeight_, colours.selection);
+int SpotPainter::EndOf(const spots::TableRow& row) const {
+  if (row.IsStars()) return std::numeric_limits<int>::max();
+  core::Position end = 0;
+  for (const spots::DrawnField& field : spots::Drawn(row)) {
+    if (!PlainText::IsPlain(field.text)) return std::numeric_limits<int>::max();
+    end = std::max(end, field.place + core::Len(field.text));
+  }
+  return ColumnAt(end + 1);  // slanted letters lean over
+}
+
+void SpotPainter::Draw(QPainter& painter, const Row& row, const SpotColours& colours) {
   if (row.row.IsStars())
     DrawStars(painter, row, colours);
   else
     DrawSpot(painter, row, colours);
 }
 
-void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) const {
+void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) {
   const int band = row.row.Band();
+  const spots::DrawnRow drawn = spots::Drawn(row.row);
+  const QColor& ground = GroundOf(row, colours);
+  const int end = std::clamp(EndOf(row.row) - row.scrolled, 0, row.width);
+  painter.fillRect(end, row.top, row.width - end, rowHeight_, ground);
+  printed_.Begin(painter, {end, rowHeight_}, ground);
+  for (const spots::DrawnField& field : drawn) {
+    GlyphTiles& glyphs = field.ink == spots::Ink::Call ? calls_ : text_;
+    const QString text =
+        Fitting(TextOf(field, row.row), glyphs.Text().Font(), RoomOf(field, drawn));
+    printed_.Print(glyphs, QPointF(ColumnAt(field.place) - row.scrolled, baseline_), text,
+                   colours.OfInk(field.ink, band));
+  }
+  printed_.Show(painter, {0, row.top});
   if (row.row.IsSpot())
     painter.fillRect(0, row.top + 1, kBarWidth, rowHeight_ - 2, colours.OfBand(band));
-  const spots::DrawnRow drawn = spots::Drawn(row.row);
-  for (const spots::DrawnField& field : drawn) {
-    const PlainText& text = field.ink == spots::Ink::Call ? calls_ : text_;
-    painter.setPen(colours.OfInk(field.ink, band));
-    text.Draw(painter, QPointF(ColumnAt(field.place) - row.scrolled, row.top + baseline_),
-              Fitting(TextOf(field, row.row), text.Font(), RoomOf(field, drawn)));
-  }
 }
 
 // Characters of a foreign script may be wider than a column.
@@ -92,6 +112,7 @@ QString SpotPainter::Fitting(const QString& text, const QFont& font, int room) c
 }
 
 void SpotPainter::DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const {
+  painter.fillRect(0, row.top, row.width, rowHeight_, GroundOf(row, colours));
   const QString words = NewSince(row.row, row.spotsBehind);
   painter.setFont(InterfaceFont());
   const int width = painter.fontMetrics().horizontalAdvance(words) + 2 * kRuleMargin;

@@ -6,7 +6,8 @@
 #include "program/spot_font.h"
 #include "spots/row_parts.h"
 #include "spots/table_row.h"
-#include "ui/plain_text.h"
+#include "ui/glyph_tiles.h"
+#include "ui/printed_row.h"
 #include "ui/spot_colours.h"
 
 namespace ui {
@@ -21,6 +22,9 @@ class SpotPainter {
   int ColumnAt(core::Position column) const;
   // How many pixels that many columns take.
   int WidthOf(core::Position columns) const { return ColumnAt(columns) - ColumnAt(0); }
+  // Behind how many of those pixels there is nothing of the row but its ground; of a row that may
+  // reach anywhere INT_MAX.
+  int EndOf(const spots::TableRow& row) const;
   // The column at that many pixels, counted from 1; less before the first.
   int ColumnOf(int pixels) const;
 
@@ -32,15 +36,16 @@ class SpotPainter {
     bool selected;
     std::size_t spotsBehind;  // of a separator: down to the next one
   };
-  void Draw(QPainter& painter, const Row& row, const SpotColours& colours) const;
+  void Draw(QPainter& painter, const Row& row, const SpotColours& colours);
 
  private:
-  void DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours) const;
+  void DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours);
   void DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const;
   QString Fitting(const QString& text, const QFont& font, int room) const;
 
-  PlainText text_;
-  PlainText calls_;
+  GlyphTiles text_;
+  GlyphTiles calls_;
+  PrintedRow printed_;
   int rowHeight_;
   int baseline_;
   double characterWidth_;

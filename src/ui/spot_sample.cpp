@@ -62,7 +62,7 @@ SpotSample::SpotSample(const SpotLook& look, const core::Settings& settings, Fra
 
 void SpotSample::paintEvent(QPaintEvent*) {
   const SpotColours colours = ColoursOf(settings_, theme_.Get());
-  const SpotPainter drawn(look_.font.Get(), look_.size.Get());
+  SpotPainter drawn(look_.font.Get(), look_.size.Get());
   QPainter painter(this);
   painter.fillRect(rect(), colours.ground);
   for (int row = 0; row < static_cast<int>(rows_.size()); ++row)

@@ -113,18 +113,28 @@ void SpotView::Follow(const SpotSnapshot::Batch& batch, bool toNewest) {
     MoveDrawn(firstAdded);
 }
 
-// What is drawn already moves, and only what is new is drawn: in a flood most of a frame is text
-// that stands there. A separator counts what is behind it.
+// What is drawn already moves, and only what is new is drawn, as far as there is text: in a flood
+// most of a frame is text that stands there, and ground. A separator counts what is behind it.
 void SpotView::MoveDrawn(Number firstAdded) {
   const int moved = PlaceOf(drawnFirst_).top() - drawnTop_;
-  if (hasFocus() || std::abs(moved) >= viewport()->height()) return viewport()->update();
+  if (hasFocus()) return viewport()->update();
+  const Number first = FirstInSight();
+  const Number end = std::min(rows_.End(), first + RowsInSight() + 1);
+  for (Number row = std::max(first, firstAdded); row < end; ++row) Reaches(row);
+  const QRect text(0, 0, drawnEnd_, viewport()->height());
+  // Moving costs more than to draw the few rows that stay.
+  if (std::abs(moved) > text.height() / 2) return viewport()->update(text);
   drawnTop_ += moved;
-  if (moved != 0) viewport()->scroll(0, moved);
-  for (Number row = FirstInSight(); row < rows_.End(); ++row) {
-    const QRect place = PlaceOf(row);
-    if (place.top() > viewport()->height()) break;
-    if (row >= firstAdded || rows_.Row(row).IsStars()) viewport()->update(place);
-  }
+  if (moved != 0) viewport()->scroll(0, moved, text);
+  viewport()->update(text & text.translated(0, PlaceOf(firstAdded).top()));
+  for (Number row = first; row < std::min(firstAdded, end); ++row)
+    if (rows_.Row(row).IsStars()) viewport()->update(PlaceOf(row));
+}
+
+void SpotView::Reaches(Number row) {
+  const int width = viewport()->width();
+  const int end = painter_.EndOf(rows_.Row(row)) - horizontalScrollBar()->value();
+  drawnEnd_ = std::max(drawnEnd_, IsChosen(row) ? width : std::min(end, width));
 }
 
 // What the user looks at stays where it is. It is drawn at once, so that his next press finds it.
@@ -253,26 +263,27 @@ std::size_t SpotView::SpotsBehind(Number stars) const {
 
 void SpotView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
-  painter.fillRect(viewport()->rect(), colours_.ground);
+  PaintRows(painter, event->region());
   if (rows_.Rows().empty()) {
     painter.setFont(InterfaceFont());
     painter.setPen(colours_.dim);
     painter.drawText(viewport()->rect(), Qt::AlignCenter,
                      OneLine(model_.empty.Caption.Get(), kLongestShown));
   }
-  PaintRows(painter, event->region());
   if (!hasFocus()) return;
   painter.setPen(colours_.accent);
   painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void SpotView::PaintRows(QPainter& painter, const QRegion& region) {
+  if (region == viewport()->rect()) drawnEnd_ = 0;
   paintedFirst_ = drawnFirst_ = FirstInSight();
   paintedTop_ = drawnTop_ = PlaceOf(paintedFirst_).top();
   for (Number row = paintedFirst_; row < rows_.End(); ++row) {
     const QRect place = PlaceOf(row);
     if (place.top() > viewport()->height()) break;
     if (!region.intersects(place)) continue;
+    Reaches(row);
     const spots::TableRow& content = rows_.Row(row);
     painter_.Draw(painter,
                   {.row = content,
@@ -283,6 +294,8 @@ void SpotView::PaintRows(QPainter& painter, const QRegion& region) {
                    .spotsBehind = content.IsStars() ? SpotsBehind(row) : 0},
                   colours_);
   }
+  const int bottom = std::max(PlaceOf(rows_.End()).top(), 0);
+  painter.fillRect(0, bottom, viewport()->width(), viewport()->height() - bottom, colours_.ground);
 }
 
 void SpotView::showEvent(QShowEvent* event) {
@@ -293,7 +306,7 @@ void SpotView::showEvent(QShowEvent* event) {
 void SpotView::resizeEvent(QResizeEvent* event) {
   const bool atEnd = AtEnd();
   QAbstractScrollArea::resizeEvent(event);
-  heads_->setGeometry(0, 0, width(), SpotHeads::kHeight);
+  heads_->setGeometry(0, 0, viewport()->width(), SpotHeads::kHeight);
   SetRanges();
   if (atEnd && !NewestOnTop()) GoToEnd();
   PlaceBelow();

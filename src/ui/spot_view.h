@@ -94,6 +94,8 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   std::size_t SpotsFrom(Number first) const;
   void PaintRows(QPainter& painter, const QRegion& region);
   void MoveDrawn(Number firstAdded);
+  // That row is drawn, or will be with the next frame.
+  void Reaches(Number row);
   void FollowLook(Frames& frames);
   void ChangeFont();
   void ShowHeads(bool on);
@@ -137,6 +139,7 @@ class SpotView : public QAbstractScrollArea, public Searchable {
   // The same of what is drawn, which comes on the screen with the next frame.
   Number drawnFirst_ = 0;
   int drawnTop_ = 0;
+  int drawnEnd_ = 0;        // behind that pixel of the viewport there is nothing but the ground
   bool following_ = false;  // new rows have come: what is drawn can be moved
 };
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <cmath>
 
 #include "ui/fonts.h"
 #include "ui/one_line.h"
@@ -20,7 +21,7 @@ constexpr core::Position kLongestShown = 4000;
 }  // namespace
 
 TextPageView::TextPageView(core::TextPage& page, Frames& frames, QWidget* parent)
-    : QPlainTextEdit(parent), page_(page) {
+    : QPlainTextEdit(parent), page_(page), frames_(frames), glyphs_(FixedFont()) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -43,9 +44,37 @@ void TextPageView::showEvent(QShowEvent* event) {
 // The ground is that of the style sheet. Filled here, nothing behind the view is painted with it.
 void TextPageView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
-  painter.fillRect(event->rect(), viewport()->palette().brush(viewport()->backgroundRole()));
+  if (!hasFocus() && !textCursor().hasSelection()) return Paint(painter, event->rect());
+  painter.fillRect(event->rect(), Ground());
   painter.end();
   QPlainTextEdit::paintEvent(event);
+}
+
+void TextPageView::Paint(QPainter& painter, const QRect& area) {
+  QPointF place = contentOffset();
+  for (QTextBlock block = firstVisibleBlock(); block.isValid() && place.y() <= area.bottom();
+       block = block.next()) {
+    const double height = blockBoundingRect(block).height();
+    if (place.y() + height > area.top()) PaintLine(painter, block, place);
+    place.ry() += height;
+  }
+  const int bottom = static_cast<int>(std::ceil(place.y()));
+  painter.fillRect(0, bottom, viewport()->width(), viewport()->height() - bottom, Ground());
+}
+
+void TextPageView::PaintLine(QPainter& painter, const QTextBlock& block, QPointF place) {
+  const QTextLayout& layout = *block.layout();
+  const QTextLine line = layout.lineAt(0);
+  const QRectF row(0, place.y(), viewport()->width(), line.height());
+  const QColor ink = palette().color(QPalette::Text);
+  if (layout.formats().isEmpty() && row == row.toRect()) {
+    printed_.Begin(painter, row.toRect().size(), Ground());
+    printed_.Print(glyphs_, {place.x() + line.x(), line.y() + line.ascent()}, block.text(), ink);
+    return printed_.Show(painter, row.toRect().topLeft());
+  }
+  painter.fillRect(row, Ground());
+  painter.setPen(ink);
+  layout.draw(&painter, place);
 }
 
 void TextPageView::resizeEvent(QResizeEvent* event) {
@@ -56,6 +85,7 @@ void TextPageView::resizeEvent(QResizeEvent* event) {
 
 void TextPageView::changeEvent(QEvent* event) {
   QPlainTextEdit::changeEvent(event);
+  if (event->type() == QEvent::FontChange) glyphs_ = GlyphTiles(font());
   // Another style sheet brings back the font that the view was made with.
   const bool changed = event->type() == QEvent::FontChange && font().pixelSize() != pixels_;
   if (changed && pixels_ > 0) SetSize(pixels_);
@@ -118,6 +148,10 @@ std::optional<std::size_t> TextPageView::LineOf(const QTextBlock& block) const {
   return number - removed_;
 }
 
+QColor TextPageView::Ground() const {
+  return viewport()->palette().color(viewport()->backgroundRole());
+}
+
 QWidget* TextPageView::UnderScrollBar() const { return verticalScrollBar()->parentWidget(); }
 
 bool TextPageView::AtEnd() const {
@@ -129,8 +163,20 @@ void TextPageView::Collect(const core::TextPage::Change& change) {
   if (isVisible()) item_->Changed();
 }
 
+// Lines that come in frame after frame, more than there is room for, are gone before anybody has
+// read one: every second frame is enough for them while nobody is at it.
+bool TextPageView::MayWait() {
+  const std::size_t lines = page_.Lines().size() + removed_ - shown_;
+  const int inSight = viewport()->height() / std::max(fontMetrics().height(), 1);
+  const bool many = lines > static_cast<std::size_t>(inSight) && !frames_.IsTouched();
+  const bool may = many && replaced_;
+  replaced_ = many && !may;
+  return may;
+}
+
 void TextPageView::Refresh() {
   if (!isVisible()) return;
+  if (MayWait()) return item_->Changed();
   QScrollBar* bar = verticalScrollBar();
   const bool atEnd = AtEnd();
   const int stays = bar->value() - static_cast<int>(removed_);

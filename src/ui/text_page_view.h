@@ -8,6 +8,8 @@
 #include "core/text.h"
 #include "core/text_page.h"
 #include "ui/frames.h"
+#include "ui/glyph_tiles.h"
+#include "ui/printed_row.h"
 #include "ui/searchable.h"
 
 namespace ui {
@@ -56,15 +58,23 @@ class TextPageView : public QPlainTextEdit, public Searchable {
   // Of a ground of its own, so that nothing behind the view is painted with the bar.
   QWidget* UnderScrollBar() const;
   bool AtEnd() const;
+  QColor Ground() const;
   void Collect(const core::TextPage::Change& change);
   void Refresh();
+  bool MayWait();
+  void Paint(QPainter& painter, const QRect& area);
+  void PaintLine(QPainter& painter, const QTextBlock& block, QPointF place);
   void RemoveFirst(std::size_t lines);
   void AppendLast(std::size_t lines);
 
   core::TextPage& page_;
-  int pixels_ = 0;           // of its text, once somebody has said so
+  Frames& frames_;
+  int pixels_ = 0;  // of its text, once somebody has said so
+  GlyphTiles glyphs_;
+  PrintedRow printed_;
   std::size_t shown_ = 0;    // lines of the page that the widget holds
   std::size_t removed_ = 0;  // of those, how many have left the page since
+  bool replaced_ = false;    // with the last frame all that was in sight
   std::shared_ptr<Frames::Item> item_;
   platform::Registration observing_;
 };

@@ -190,6 +190,38 @@ TEST_F(SpotViewTest, WhatHasMovedLooksAsIfItWereDrawnAnew) {
   }
 }
 
+TEST_F(SpotViewTest, WhatReachedFurtherLeavesNothingBehind) {
+  const auto onScreen = [this] { return view.screen()->grabWindow(view.winId()).toImage(); };
+  const auto addLong = [this](const char* comment) {
+    spots::Spot spot = UsualSpot(Call(++last));
+    spot.Comment = comment;
+    pane.Append(RowOf(spot));
+  };
+  const auto choose = [this] {
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::ControlModifier, {300, 40});
+    view.clearFocus();
+  };
+  const std::vector<std::function<void()>> furthers = {
+      [&] {
+        addLong("a comment that is longer than the others by far and by far, 73 to all of you");
+      },
+      [&] { addLong("口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口"); },
+      [&] { pane.Append(Stars()); }, choose};
+  for (std::size_t which = 0; which < furthers.size(); ++which)
+    for (const int batch : {1, 4, 9}) {
+      Add(30);
+      Run();
+      furthers[which]();
+      for (int added = 0; added < 40; added += batch) {
+        Add(batch);
+        Run();
+      }
+      const QImage shown = onScreen();
+      view.viewport()->repaint();
+      EXPECT_EQ(onScreen(), shown) << which << ", " << batch << " at once";
+    }
+}
+
 TEST_F(SpotViewTest, AnotherThemeIsDrawnAtOnce) {
   Add(1);
   Run();

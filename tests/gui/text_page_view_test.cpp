@@ -101,6 +101,60 @@ TEST_F(TextPageViewTest, RepaintsNothingWhileHiddenAndEverythingWhenShown) {
   EXPECT_TRUE(IsAtEnd(view));
 }
 
+TEST_F(TextPageViewTest, LinesThatNobodyCanReadAreShownWithEverySecondFrame) {
+  Add(50);
+  Run(200ms);
+  EXPECT_EQ(LastLine(), Line(last)) << "an answer, or the message of the login";
+  repaintedAt.clear();
+  for (int batch = 0; batch < 20; ++batch) {
+    Add(50);
+    Run(200ms);
+  }
+  EXPECT_EQ(repaintedAt.size(), 10U);
+  Run(200ms);
+  EXPECT_EQ(LastLine(), Line(last));
+}
+
+TEST_F(TextPageViewTest, WithEveryFrameWhileSomebodyIsAtIt) {
+  repaintedAt.clear();
+  for (int batch = 0; batch < 20; ++batch) {
+    frames.Touched();
+    Add(50);
+    Run(200ms);
+    ASSERT_EQ(LastLine(), Line(last));
+  }
+  EXPECT_EQ(repaintedAt.size(), 20U);
+}
+
+TEST_F(TextPageViewTest, WithEveryFrameWhileTheyCanBeRead) {
+  repaintedAt.clear();
+  for (int batch = 0; batch < 20; ++batch) {
+    Add(3);
+    Run(200ms);
+    ASSERT_EQ(LastLine(), Line(last));
+  }
+}
+
+TEST_F(TextPageViewTest, LooksTheSameWhetherSomethingIsChosenOrNot) {
+  page.Append("DX de W1TST:     14025.0  3Y0J         CW up 2                        2116Z");
+  page.Append("Grüße aus München, 口");
+  page.Append("");
+  Add(40);
+  Run(200ms);
+  for (const int line : {0, 1, 20, view.verticalScrollBar()->maximum()}) {
+    ScrollTo(line);
+    const QImage plain = view.viewport()->grab().toImage();
+    Select(0, 1);  // so it is drawn as Qt does it
+    ScrollTo(line);
+    const QImage withSelection = view.viewport()->grab().toImage();
+    Select(0, 0);
+    ScrollTo(line);
+    const int skipped = line == 0 ? view.fontMetrics().height() + 8 : 0;
+    const QRect area = plain.rect().adjusted(0, skipped, 0, 0);
+    EXPECT_EQ(plain.copy(area), withSelection.copy(area)) << line;
+  }
+}
+
 TEST_F(TextPageViewTest, HoldsWhatThePageHoldsHoweverTheChangesFall) {
   for (const int lines : {1, 700, 3, 1, 5000, 2, 900}) {
     Add(lines);
@@ -122,7 +176,7 @@ TEST_F(TextPageViewTest, OneLineOfThePageIsOneLineOfTheViewWhateverItHolds) {
     if (code >= 0xD800 && code < 0xE000) continue;
     page.Append("<" + QString::fromUcs4(&code, 1).toStdString() + ">");
     if (code % 500 != 0) continue;
-    Run(200ms);
+    Run(400ms);
     ASSERT_EQ(LinesOf(view).size(), static_cast<qsizetype>(page.Lines().size()))
         << static_cast<int>(code);
   }

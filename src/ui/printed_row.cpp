@@ -1,0 +1,74 @@
+#include "ui/printed_row.h"
+
+#include <cmath>
+
+namespace ui {
+namespace {
+
+constexpr int kLargestScale = 7;
+
+// The pixels of the screen for one of the painter's; 0 if they are not whole.
+int WholeScale(const QPainter& painter) {
+  const QTransform& transform = painter.deviceTransform();
+  if (transform.type() > QTransform::TxScale || transform.m11() != transform.m22()) return 0;
+  const auto whole = static_cast<int>(transform.m11());
+  return whole > 0 && whole <= kLargestScale && whole == transform.m11() ? whole : 0;
+}
+
+// Qt counts in 64ths of a pixel, and takes what is one short of the next part for that.
+double AsQtTakesIt(double pixels) { return (std::floor(pixels * 64) + 1) / 64; }
+
+}  // namespace
+
+void PrintedRow::Begin(const QPainter& painter, QSize size, const QColor& ground) {
+  size_ = size;
+  ground_ = ground.rgb();
+  left_.clear();
+  scale_ = WholeScale(painter);
+  if (scale_ == 0) return;
+  if (image_.size() != size * scale_) image_ = QImage(size * scale_, QImage::Format_RGB32);
+  image_.setDevicePixelRatio(scale_);
+  image_.fill(ground_);
+}
+
+void PrintedRow::Print(GlyphTiles& glyphs, QPointF baseline, const QString& text,
+                       const QColor& ink) {
+  if (scale_ == 0 || !glyphs.Text().Has(text))
+    return left_.push_back({glyphs.Text(), baseline, text, ink});
+  glyphs.Use({.ink = ink.rgb(), .ground = ground_, .scale = scale_});
+  const int y = static_cast<int>(std::lround(baseline.y() * scale_));
+  double left = baseline.x() * scale_;
+  for (const QChar character : text) {
+    const double from = AsQtTakesIt(left);
+    const double pixel = std::floor(from);
+    if (character != QLatin1Char(' '))
+      Put(glyphs.Of(character, from - pixel), {static_cast<int>(pixel), y});
+    left += glyphs.Text().WidthOf(character) * scale_;
+  }
+}
+
+// What is ground in the tile leaves a neighbour that reaches in there as it is.
+void PrintedRow::Put(const GlyphTiles::Tile& tile, QPoint at) {
+  const QRect all = tile.place.translated(at);
+  const QRect seen = all & image_.rect();
+  if (seen.isEmpty()) return;
+  const int width = seen.width();
+  const QPoint skipped = seen.topLeft() - all.topLeft();
+  const QRgb* from = tile.pixels + skipped.y() * all.width() + skipped.x();
+  auto* to = reinterpret_cast<QRgb*>(image_.scanLine(seen.top())) + seen.left();
+  for (int lines = seen.height(); lines > 0; --lines, from += all.width(), to += image_.width())
+    for (int x = 0; x < width; ++x) to[x] = from[x] != ground_ ? from[x] : to[x];
+}
+
+void PrintedRow::Show(QPainter& painter, QPoint place) {
+  if (scale_ == 0)
+    painter.fillRect(QRect(place, size_), QColor(ground_));
+  else
+    painter.drawImage(place, image_);
+  for (const Left& each : left_) {
+    painter.setPen(each.ink);
+    each.text.Draw(painter, place + each.baseline, each.words);
+  }
+}
+
+}  // namespace ui
