@@ -74,6 +74,18 @@ TEST_F(LoginViewTest, LinksAreUnderlinedInTheColourOfLinks) {
   EXPECT_EQ(ColourOf("www.example.org"), theme[Token::Accent]);
 }
 
+TEST_F(LoginViewTest, LinksAreDrawnSoWithoutTheFocusToo) {
+  Say({"Welcome, see http://example.org/a"});
+  Raw().setFocus();
+  ASSERT_FALSE(View().hasFocus());
+  const QImage shown = View().viewport()->grab().toImage();
+  int underlined = 0;
+  for (int x = 0; x < shown.width(); ++x)
+    for (int y = 0; y < shown.height(); ++y)
+      if (shown.pixelColor(x, y) == theme[Token::Accent]) ++underlined;
+  EXPECT_GT(underlined, 100);
+}
+
 TEST_F(LoginViewTest, AClickOpensTheLink) {
   Say({"See http://example.org/a. And", "www.example.org too"});
   Click("www.example.org");

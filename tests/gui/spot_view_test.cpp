@@ -206,6 +206,9 @@ TEST_F(SpotViewTest, WhatReachedFurtherLeavesNothingBehind) {
         addLong("a comment that is longer than the others by far and by far, 73 to all of you");
       },
       [&] { addLong("口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口"); },
+      [&] {
+        pane.Append({std::string(60, '\x01'), TableRow::Kind::Other, k20m});
+      },
       [&] { pane.Append(Stars()); }, choose};
   for (std::size_t which = 0; which < furthers.size(); ++which)
     for (const int batch : {1, 4, 9}) {

@@ -286,6 +286,15 @@ TEST_F(TextPageViewTest, ASelectionSurvivesWhatGoesBeforeIt) {
   EXPECT_EQ(view.textCursor().selectedText(), selected);
 }
 
+TEST_F(TextPageViewTest, ASelectionIsSeenWithoutTheFocusToo) {
+  Add(5);
+  Run(200ms);
+  view.clearFocus();
+  const QImage without = view.viewport()->grab().toImage();
+  Select(0, 5);
+  EXPECT_NE(view.viewport()->grab().toImage(), without);
+}
+
 TEST_F(TextPageViewTest, NothingCanBeTypedIntoIt) {
   Add(1);
   Run(200ms);
