@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
-#include <cmath>
 
 #include "ui/fonts.h"
 #include "ui/one_line.h"
@@ -51,30 +50,31 @@ void TextPageView::paintEvent(QPaintEvent* event) {
 }
 
 void TextPageView::Paint(QPainter& painter, const QRect& area) {
+  const int width = viewport()->width();
   QPointF place = contentOffset();
+  painter.fillRect(QRectF(0, 0, width, place.y()), Ground());
   for (QTextBlock block = firstVisibleBlock(); block.isValid() && place.y() <= area.bottom();
        block = block.next()) {
-    const double height = blockBoundingRect(block).height();
-    if (place.y() + height > area.top()) PaintLine(painter, block, place);
-    place.ry() += height;
+    const QRectF row(0, place.y(), width, blockBoundingRect(block).height());
+    if (row.bottom() > area.top()) PaintLine(painter, block, row, place.x());
+    place.setY(row.bottom());
   }
-  const int bottom = static_cast<int>(std::ceil(place.y()));
-  painter.fillRect(0, bottom, viewport()->width(), viewport()->height() - bottom, Ground());
+  painter.fillRect(QRectF(0, place.y(), width, viewport()->height() - place.y()), Ground());
 }
 
-void TextPageView::PaintLine(QPainter& painter, const QTextBlock& block, QPointF place) {
+void TextPageView::PaintLine(QPainter& painter, const QTextBlock& block, const QRectF& row,
+                             double left) {
   const QTextLayout& layout = *block.layout();
   const QTextLine line = layout.lineAt(0);
-  const QRectF row(0, place.y(), viewport()->width(), line.height());
   const QColor ink = palette().color(QPalette::Text);
   if (layout.formats().isEmpty() && row == row.toRect()) {
     printed_.Begin(painter, row.toRect().size(), Ground());
-    printed_.Print(glyphs_, {place.x() + line.x(), line.y() + line.ascent()}, block.text(), ink);
+    printed_.Print(glyphs_, {left + line.x(), line.y() + line.ascent()}, block.text(), ink);
     return printed_.Show(painter, row.toRect().topLeft());
   }
   painter.fillRect(row, Ground());
   painter.setPen(ink);
-  layout.draw(&painter, place);
+  layout.draw(&painter, {left, row.top()});
 }
 
 void TextPageView::resizeEvent(QResizeEvent* event) {

@@ -63,7 +63,7 @@ class TextPageView : public QPlainTextEdit, public Searchable {
   void Refresh();
   bool MayWait();
   void Paint(QPainter& painter, const QRect& area);
-  void PaintLine(QPainter& painter, const QTextBlock& block, QPointF place);
+  void PaintLine(QPainter& painter, const QTextBlock& block, const QRectF& row, double left);
   void RemoveFirst(std::size_t lines);
   void AppendLast(std::size_t lines);
 

@@ -207,7 +207,7 @@ TEST_F(SpotViewTest, WhatReachedFurtherLeavesNothingBehind) {
       },
       [&] { addLong("口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口"); },
       [&] {
-        pane.Append({std::string(60, '\x01'), TableRow::Kind::Other, k20m});
+        pane.Append({"⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻", TableRow::Kind::Other, k20m});
       },
       [&] { pane.Append(Stars()); }, choose};
   for (std::size_t which = 0; which < furthers.size(); ++which)

@@ -43,6 +43,13 @@ class TextPageViewTest : public ::testing::Test {
     view.verticalScrollBar()->setValue(line);
     Run(200ms);
   }
+  // What the view paints itself; what it leaves out is red.
+  QImage Picture() {
+    QImage picture(view.viewport()->size(), QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    view.viewport()->render(&picture, {}, {}, QWidget::DrawChildren);
+    return picture;
+  }
   void Select(int from, int to) {
     QTextCursor cursor(view.document());
     cursor.setPosition(from);
@@ -141,17 +148,17 @@ TEST_F(TextPageViewTest, LooksTheSameWhetherSomethingIsChosenOrNot) {
   page.Append("");
   Add(40);
   Run(200ms);
+  const int end = view.document()->characterCount() - 1;
   for (const int line : {0, 1, 20, view.verticalScrollBar()->maximum()}) {
     ScrollTo(line);
-    const QImage plain = view.viewport()->grab().toImage();
-    Select(0, 1);  // so it is drawn as Qt does it
+    const QImage plain = Picture();
+    if (line == 0)
+      Select(end - 1, end);  // out of sight: so all is drawn as Qt does it
+    else
+      Select(0, 1);
     ScrollTo(line);
-    const QImage withSelection = view.viewport()->grab().toImage();
+    EXPECT_EQ(Picture(), plain) << line;
     Select(0, 0);
-    ScrollTo(line);
-    const int skipped = line == 0 ? view.fontMetrics().height() + 8 : 0;
-    const QRect area = plain.rect().adjusted(0, skipped, 0, 0);
-    EXPECT_EQ(plain.copy(area), withSelection.copy(area)) << line;
   }
 }
 
@@ -290,9 +297,11 @@ TEST_F(TextPageViewTest, ASelectionIsSeenWithoutTheFocusToo) {
   Add(5);
   Run(200ms);
   view.clearFocus();
-  const QImage without = view.viewport()->grab().toImage();
+  Run(200ms);
+  ASSERT_FALSE(view.hasFocus());
+  const QImage without = Picture();
   Select(0, 5);
-  EXPECT_NE(view.viewport()->grab().toImage(), without);
+  EXPECT_NE(Picture(), without);
 }
 
 TEST_F(TextPageViewTest, NothingCanBeTypedIntoIt) {
