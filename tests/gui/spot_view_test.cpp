@@ -206,9 +206,6 @@ TEST_F(SpotViewTest, WhatReachedFurtherLeavesNothingBehind) {
         addLong("a comment that is longer than the others by far and by far, 73 to all of you");
       },
       [&] { addLong("口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口口"); },
-      [&] {
-        pane.Append({"⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻⸻", TableRow::Kind::Other, k20m});
-      },
       [&] { pane.Append(Stars()); }, choose};
   for (std::size_t which = 0; which < furthers.size(); ++which)
     for (const int batch : {1, 4, 9}) {
@@ -223,6 +220,42 @@ TEST_F(SpotViewTest, WhatReachedFurtherLeavesNothingBehind) {
       view.viewport()->repaint();
       EXPECT_EQ(onScreen(), shown) << which << ", " << batch << " at once";
     }
+}
+
+TEST_F(SpotViewTest, BehindTheEndOfARowThereIsItsGroundAlone) {
+  const ui::SpotColours colours = ui::ColoursOf(settings, theme);
+  spots::Spot spot = UsualSpot("EA8/DL1QQQ/P");
+  spot.Comment = "a comment that is long enough to be cut";
+  spots::RowShape expanded;
+  expanded.shown = {.Expanded = true, .Wide = true, .DxCty = true, .Comments = true, .Date = true};
+  for (const program::SpotFont& style : {program::SpotFont{}, {"", true, true}}) {
+    ui::SpotPainter painter(style, 13);
+    for (const TableRow& row : {Row("K1AAA"), RowOf(spot), RowOf(spot, k20m, expanded),
+                                TableRow("To ALL de W1TST: hi", TableRow::Kind::Other, k20m)}) {
+      constexpr double kScale = 1.5;  // at which nothing is cut
+      constexpr int kWidth = 1500;
+      QImage image(QSizeF(kWidth, painter.RowHeight()).toSize() * kScale, QImage::Format_RGB32);
+      image.setDevicePixelRatio(kScale);
+      image.fill(colours.ground);
+      QPainter onImage(&image);
+      painter.Draw(onImage,
+                   {.row = row,
+                    .top = 0,
+                    .width = kWidth,
+                    .scrolled = 0,
+                    .selected = false,
+                    .spotsBehind = 0},
+                   colours);
+      int lastInk = 0;
+      for (int x = 0; x < image.width(); ++x)
+        for (int y = 0; y < image.height(); ++y)
+          if (image.pixelColor(x, y) != colours.ground) lastInk = x;
+      EXPECT_LT(lastInk / kScale, painter.EndOf(row)) << row.Text();
+      EXPECT_GT(lastInk / kScale + 3 * painter.WidthOf(1), painter.EndOf(row)) << row.Text();
+    }
+    EXPECT_GT(painter.EndOf({"To ALL de W1TST: Grüße", TableRow::Kind::Other, k20m}), 1'000'000);
+    EXPECT_GT(painter.EndOf(Stars()), 1'000'000);
+  }
 }
 
 TEST_F(SpotViewTest, AnotherThemeIsDrawnAtOnce) {

@@ -148,6 +148,8 @@ TEST_F(TextPageViewTest, LooksTheSameWhetherSomethingIsChosenOrNot) {
   page.Append("");
   Add(40);
   Run(200ms);
+  view.clearFocus();
+  Run(200ms);
   const int end = view.document()->characterCount() - 1;
   for (const int line : {0, 1, 20, view.verticalScrollBar()->maximum()}) {
     ScrollTo(line);
