@@ -1,5 +1,6 @@
 #include "ui/printed_row.h"
 
+#include <QImage>
 #include <cmath>
 
 namespace ui {
@@ -25,10 +26,9 @@ void PrintedRow::Begin(const QPainter& painter, QSize size, const QColor& ground
   ground_ = ground.rgb();
   left_.clear();
   scale_ = WholeScale(painter);
-  if (scale_ == 0) return;
-  if (image_.size() != size * scale_) image_ = QImage(size * scale_, QImage::Format_RGB32);
-  image_.setDevicePixelRatio(scale_);
-  image_.fill(ground_);
+  all_ = QRect({0, 0}, size * scale_);
+  pixels_.assign(static_cast<std::size_t>(all_.width()) * static_cast<std::size_t>(all_.height()),
+                 ground_);
 }
 
 void PrintedRow::Print(GlyphTiles& glyphs, QPointF baseline, const QString& text,
@@ -49,22 +49,26 @@ void PrintedRow::Print(GlyphTiles& glyphs, QPointF baseline, const QString& text
 
 // What is ground in the tile leaves a neighbour that reaches in there as it is.
 void PrintedRow::Put(const GlyphTiles::Tile& tile, QPoint at) {
-  const QRect all = tile.place.translated(at);
-  const QRect seen = all & image_.rect();
+  const QRect place = tile.place.translated(at);
+  const QRect seen = place & all_;
   if (seen.isEmpty()) return;
   const int width = seen.width();
-  const QPoint skipped = seen.topLeft() - all.topLeft();
-  const QRgb* from = tile.pixels + skipped.y() * all.width() + skipped.x();
-  auto* to = reinterpret_cast<QRgb*>(image_.scanLine(seen.top())) + seen.left();
-  for (int lines = seen.height(); lines > 0; --lines, from += all.width(), to += image_.width())
+  const QPoint skipped = seen.topLeft() - place.topLeft();
+  const QRgb* from = tile.pixels + skipped.y() * place.width() + skipped.x();
+  QRgb* to = pixels_.data() + seen.top() * all_.width() + seen.left();
+  for (int lines = seen.height(); lines > 0; --lines, from += place.width(), to += all_.width())
     for (int x = 0; x < width; ++x) to[x] = from[x] != ground_ ? from[x] : to[x];
 }
 
 void PrintedRow::Show(QPainter& painter, QPoint place) {
-  if (scale_ == 0)
+  if (scale_ == 0) {
     painter.fillRect(QRect(place, size_), QColor(ground_));
-  else
-    painter.drawImage(place, image_);
+  } else {
+    QImage image(reinterpret_cast<const uchar*>(pixels_.data()), all_.width(), all_.height(),
+                 QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale_);
+    painter.drawImage(place, image);
+  }
   for (const Left& each : left_) {
     painter.setPen(each.ink);
     each.text.Draw(painter, place + each.baseline, each.words);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QImage>
 #include <QPainter>
 #include <vector>
 
@@ -37,7 +36,8 @@ class PrintedRow {
   QSize size_;
   QRgb ground_ = 0;
   int scale_ = 0;  // 0: none of whole pixels
-  QImage image_;
+  QRect all_;      // in pixels of the screen
+  std::vector<QRgb> pixels_;
   std::vector<Left> left_;
 };
 
