@@ -54,9 +54,10 @@ void PrintedRow::Put(const GlyphTiles::Tile& tile, QPoint at) {
   if (seen.isEmpty()) return;
   const int width = seen.width();
   const QPoint skipped = seen.topLeft() - place.topLeft();
-  const QRgb* from = tile.pixels + skipped.y() * place.width() + skipped.x();
-  QRgb* to = pixels_.data() + seen.top() * all_.width() + seen.left();
-  for (int lines = seen.height(); lines > 0; --lines, from += place.width(), to += all_.width())
+  const qsizetype tileLine = place.width(), line = all_.width();
+  const QRgb* from = tile.pixels + skipped.y() * tileLine + skipped.x();
+  QRgb* to = pixels_.data() + seen.top() * line + seen.left();
+  for (int lines = seen.height(); lines > 0; --lines, from += tileLine, to += line)
     for (int x = 0; x < width; ++x) to[x] = from[x] != ground_ ? from[x] : to[x];
 }
 

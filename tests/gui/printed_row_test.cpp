@@ -49,6 +49,7 @@ class PrintedRowTest : public ::testing::TestWithParam<double> {
   QImage Printed(const std::vector<Words>& all, const QColor& ground = Qt::white) {
     return Picture([&](QPainter& painter) {
       std::vector<ui::GlyphTiles> glyphs;
+      glyphs.reserve(all.size());
       for (const Words& each : all) glyphs.emplace_back(each.font);
       row.Begin(painter, kRow.size(), ground);
       for (std::size_t i = 0; i < all.size(); ++i)
