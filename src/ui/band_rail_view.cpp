@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <utility>
 
@@ -183,9 +184,14 @@ void BandRailView::Watch(Frames& frames) {
   watching_.push_back(model_.optBand.Selected.Observe([this](int band) { setCurrentRow(band); }));
 }
 
+// Qt asks the style for it anew each time.
+QRect BandRailView::FirstRow() const {
+  return {0, -verticalScrollBar()->value(), viewport()->width(), kRowHeight};
+}
+
 // The bars stay as they are.
 void BandRailView::ShowCounts() {
-  const QRect first = visualItemRect(item(0)).adjusted(kLabelLeft, 0, 0, 0);
+  const QRect first = FirstRow().adjusted(kLabelLeft, 0, 0, 0);
   QRegion region;
   for (int band = 0; band < count(); ++band)
     if (std::exchange(changed_[static_cast<std::size_t>(band)], false))
@@ -198,7 +204,7 @@ void BandRailView::paintEvent(QPaintEvent* event) {
   painted_ = event->region();
   QPainter painter(viewport());
   QStyleOptionViewItem option;
-  option.rect = visualItemRect(item(0));
+  option.rect = FirstRow();
   for (int band = 0; band < count(); ++band, option.rect.translate(0, kRowHeight))
     if (painted_.intersects(option.rect))
       itemDelegate()->paint(&painter, option, indexFromItem(item(band)));

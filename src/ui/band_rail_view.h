@@ -29,6 +29,7 @@ class BandRailView : public QListWidget {
 
   void Watch(Frames& frames);
   void ShowCounts();
+  QRect FirstRow() const;
 
   spots::BandRail& model_;
   LiveTheme& theme_;

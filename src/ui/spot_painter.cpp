@@ -68,9 +68,12 @@ int SpotPainter::ColumnOf(int pixels) const {
 }
 
 int SpotPainter::EndOf(const spots::TableRow& row) const {
-  if (row.IsStars()) return std::numeric_limits<int>::max();
+  return row.IsStars() ? std::numeric_limits<int>::max() : EndOf(spots::Drawn(row));
+}
+
+int SpotPainter::EndOf(const spots::DrawnRow& row) const {
   core::Position end = 0;
-  for (const spots::DrawnField& field : spots::Drawn(row)) {
+  for (const spots::DrawnField& field : row) {
     if (!PlainText::IsPlain(field.text)) return std::numeric_limits<int>::max();
     end = std::max(end, field.place + core::Len(field.text));
   }
@@ -88,7 +91,7 @@ void SpotPainter::DrawSpot(QPainter& painter, const Row& row, const SpotColours&
   const int band = row.row.Band();
   const spots::DrawnRow drawn = spots::Drawn(row.row);
   const QColor& ground = GroundOf(row, colours);
-  const int end = std::clamp(EndOf(row.row) - row.scrolled, 0, row.width);
+  const int end = std::clamp(EndOf(drawn) - row.scrolled, 0, row.width);
   painter.fillRect(end, row.top, row.width - end, rowHeight_, ground);
   printed_.Begin(painter, {end, rowHeight_}, ground);
   for (const spots::DrawnField& field : drawn) {

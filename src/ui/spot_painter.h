@@ -41,6 +41,7 @@ class SpotPainter {
  private:
   void DrawSpot(QPainter& painter, const Row& row, const SpotColours& colours);
   void DrawStars(QPainter& painter, const Row& row, const SpotColours& colours) const;
+  int EndOf(const spots::DrawnRow& row) const;
   QString Fitting(const QString& text, const QFont& font, int room) const;
 
   GlyphTiles text_;
