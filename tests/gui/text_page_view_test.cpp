@@ -127,14 +127,13 @@ TEST_F(TextPageViewTest, WithEveryFrameWhileSomebodyIsAtIt) {
   for (int batch = 0; batch < 20; ++batch) {
     frames.Touched();
     Add(50);
-    Run(200ms);
+    Run(ui::Frames::kFrame);
     ASSERT_EQ(LastLine(), Line(last));
   }
   EXPECT_EQ(repaintedAt.size(), 20U);
 }
 
 TEST_F(TextPageViewTest, WithEveryFrameWhileTheyCanBeRead) {
-  repaintedAt.clear();
   for (int batch = 0; batch < 20; ++batch) {
     Add(3);
     Run(200ms);
